@@ -1,0 +1,29 @@
+# What every target shares, and the one way to declare a layer.
+
+# Warnings and sanitizers of all our code.
+add_library(swiftroll_warnings INTERFACE)
+target_compile_options(swiftroll_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(SWIFTROLL_WERROR)
+  target_compile_options(swiftroll_warnings INTERFACE -Werror)
+endif()
+if(SWIFTROLL_SANITIZE)
+  target_compile_options(swiftroll_warnings INTERFACE -fsanitize=${SWIFTROLL_SANITIZE}
+                                                     -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(swiftroll_warnings INTERFACE -fsanitize=${SWIFTROLL_SANITIZE})
+endif()
+
+# swiftroll_layer(NAME [layers below ...]): the folder src/NAME as a static library that sees only the layers
+# it names. Headers are included as "NAME/file.h"; each layer publishes its own folder through a private
+# include tree, so that a folder that is not linked cannot be included.
+function(swiftroll_layer name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+  set(tree ${CMAKE_BINARY_DIR}/include/${name})
+  file(MAKE_DIRECTORY ${tree})
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${name} ${tree}/${name} SYMBOLIC)
+  add_library(swiftroll_${name} STATIC ${sources})
+  target_include_directories(swiftroll_${name} PUBLIC ${tree})
+  target_link_libraries(swiftroll_${name} PRIVATE swiftroll_warnings)
+  foreach(below ${ARGN})
+    target_link_libraries(swiftroll_${name} PUBLIC swiftroll_${below})
+  endforeach()
+endfunction()

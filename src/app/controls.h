@@ -1,0 +1,205 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "text/text.h"
+
+namespace swiftroll {
+
+class Control;
+
+/// A window without a screen: the ordered list of its controls. Presentations, settings and the headless
+/// program walk it; the controls themselves are members of the class that derives from it.
+class Window {
+  public:
+    Window() = default;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    const std::vector<Control*>& Controls() const { return controls_; }
+    /// The control of a name as users write it, "txtPlaceFormat" or "txtOutExtension(0)"; nullptr if none.
+    Control* Find(TextView name) const;
+
+    /// The control that has the focus, or nullptr.
+    Control* ActiveControl() const { return activeControl_; }
+    /// Gives a control the focus: the one that had it loses it first.
+    void SetFocus(Control& control);
+    /// For the presentation, which moves its own focus after.
+    std::function<void()> OnFocusChanged;
+
+  private:
+    friend class Control;
+    std::vector<Control*> controls_;
+    Control* activeControl_ = nullptr;
+};
+
+using Event = std::function<void()>;
+
+/// What a control is called and says. An index tells the members of a control array apart.
+struct ControlTexts {
+    TextView name;
+    TextView caption = {};
+    TextView tip = {};
+    int index = -1;
+};
+
+enum class ControlKind { CheckBox, OptionGroup, TextBox, ComboBox, OrderedList, Colour, Label, Command };
+
+/// A control of the option record or a command. Setting a value fires the events that belong to it.
+class Control {
+  public:
+    Control(Window& window, ControlKind kind, const ControlTexts& texts);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    ControlKind Kind() const { return kind_; }
+    /// The name with the index in parentheses where there is one.
+    const Text& Name() const { return name_; }
+    /// Sets the value from a text as the settings and the command line write it.
+    /// @throws Failure TypeMismatch when the text is no value of this control, or it has none
+    virtual void SetFromText(TextView text);
+
+    Text Caption;
+    Text Tip;
+    bool Enabled = true;
+    bool Visible = true;
+    Event OnGotFocus;
+    Event OnLostFocus;
+    void TakeFocus() const;
+    void LoseFocus() const;
+
+  private:
+    ControlKind kind_;
+    Text name_;
+};
+
+/// Holds 0 or 1.
+class CheckBox : public Control {
+  public:
+    CheckBox(Window& window, const ControlTexts& texts, bool checked)
+        : Control(window, ControlKind::CheckBox, texts), checked_(checked) {}
+    bool Checked() const { return checked_; }
+    void SetChecked(bool checked);
+    void SetFromText(TextView text) override;
+    Event OnClick;
+
+  private:
+    bool checked_;
+};
+
+/// Option buttons of which one is set: `GetOptionIndex`, `SetOptionIndex`.
+class OptionGroup : public Control {
+  public:
+    OptionGroup(Window& window, const ControlTexts& texts, std::vector<Text> captions, int index)
+        : Control(window, ControlKind::OptionGroup, texts), captions_(std::move(captions)), index_(index) {}
+    int Index() const { return index_; }
+    /// @throws Failure IndexOutOfRange
+    void SetIndex(int index);
+    const std::vector<Text>& Captions() const { return captions_; }
+    void SetFromText(TextView text) override;
+    Event OnClick;
+
+  private:
+    std::vector<Text> captions_;
+    int index_;
+};
+
+class TextBox : public Control {
+  public:
+    TextBox(Window& window, const ControlTexts& texts, TextView value)
+        : Control(window, ControlKind::TextBox, texts), text_(value) {}
+    const Text& Get() const { return text_; }
+    void SetText(TextView text);
+    /// As a user who types the text and goes on to another control.
+    void SetFromText(TextView text) override;
+    Event OnChange;
+
+  private:
+    Text text_;
+};
+
+/// A text with a list of items; a selector's text is always one of its items.
+class ComboBox : public Control {
+  public:
+    ComboBox(Window& window, const ControlTexts& texts, std::vector<Text> items = {})
+        : Control(window, ControlKind::ComboBox, texts), isSelector_(!items.empty()), items_(std::move(items)) {}
+    /// Whether the text can only be one of the items.
+    bool IsSelector() const { return isSelector_; }
+    Text Get() const;
+    /// Writes the text; no item is the picked one then.
+    void SetText(TextView text);
+    const std::vector<Text>& Items() const { return items_; }
+    void SetItems(std::vector<Text> items);
+    /// 0-based place of the picked item, -1 for none.
+    int ListIndex() const { return listIndex_; }
+    /// Picks an item. @throws Failure IndexOutOfRange
+    void SetListIndex(int index);
+    /// As a user who types the text, or picks the item of a selector by its number or text, and goes on.
+    void SetFromText(TextView text) override;
+    Event OnClick;
+
+  private:
+    bool isSelector_;
+    std::vector<Text> items_;
+    Text text_;
+    int listIndex_ = -1;
+};
+
+/// Rows with a number each, which the user puts in order.
+class OrderedList : public Control {
+  public:
+    struct Item {
+        Text text;
+        int value;
+    };
+    OrderedList(Window& window, const ControlTexts& texts, std::vector<Item> items)
+        : Control(window, ControlKind::OrderedList, texts), items_(std::move(items)) {}
+    const std::vector<Item>& Items() const { return items_; }
+    /// Takes the row at 0-based place `from` out and puts it in at the place of row `to`.
+    /// @throws Failure IndexOutOfRange
+    void Move(std::size_t from, std::size_t to);
+    /// Puts the rows in the order of their numbers, as in "2,1,3".
+    void SetFromText(TextView text) override;
+
+  private:
+    std::vector<Item> items_;
+};
+
+/// A button that holds a colour, 0x00BBGGRR.
+class ColourButton : public Control {
+  public:
+    ColourButton(Window& window, const ControlTexts& texts, std::uint32_t colour)
+        : Control(window, ControlKind::Colour, texts), colour_(colour) {}
+    std::uint32_t Colour() const { return colour_; }
+    void SetColour(std::uint32_t colour) { colour_ = colour & 0xFFFFFFu; }
+    /// Decimal, or hexadecimal behind "0x".
+    void SetFromText(TextView text) override;
+
+  private:
+    std::uint32_t colour_;
+};
+
+class Label : public Control {
+  public:
+    Label(Window& window, const ControlTexts& texts) : Control(window, ControlKind::Label, texts) {}
+};
+
+/// A button or a menu entry.
+class Command : public Control {
+  public:
+    /// `key` is the shortcut, as in "Ctrl+O".
+    Command(Window& window, const ControlTexts& texts, TextView key = {}, bool enabled = true)
+        : Control(window, ControlKind::Command, texts), Key(key) {
+        Enabled = enabled;
+    }
+    /// Runs the operation, unless the command is disabled.
+    void Click() const;
+    Text Key;
+    Event Operation;
+};
+
+}  // namespace swiftroll

@@ -1,0 +1,109 @@
+#include "app/option_record.h"
+
+#include "text/edit.h"
+#include "text/literal.h"
+
+namespace swiftroll {
+namespace {
+
+Text PlacesOrderTip() {
+    const TextView lines[] = {
+        "Faire glisser les lignes pour les réordonner."_t,
+        "Pris en compte lors de la Lecture ET lors du Recalcul"_t,
+        "(peuvent donc être différents si l'ordre est changé entretemps)."_t,
+        "Si \"Lire Familles\" n'est cochée,"_t,
+        "il n'y aura pas d'information sur les mariages/divorces/..."_t,
+    };
+    return Concat({lines[0], kLineEnd, lines[1], kLineEnd, lines[2], kLineEnd, lines[3], kLineEnd, lines[4]});
+}
+
+std::vector<Text> Texts(std::initializer_list<TextView> texts) {
+    return {texts.begin(), texts.end()};
+}
+
+constexpr TextView kOutExtension = "Liste en Sortie"_t;
+constexpr TextView kModelExtension = "Modèle en Entrée"_t;
+
+}  // namespace
+
+OptionRecord::OptionRecord()
+    : chkProcFamilies(*this,
+                      {"chkProcFamilies", "Lire Familles"_t,
+                       "Nécessite une relecture du fichier GedCom en entrée pour traiter la définition des familles."_t},
+                      true),
+      cboLoad(*this, {"cboLoad", {}, "Sélectionne l'action par défaut du bouton à gauche"_t},
+              Texts({"Lire Tout"_t, "Lire Sans Famille"_t})),
+      chkUpperNames(*this,
+                    {"chkUpperNames", "Afficher les NOMS en MAJUSCULES"_t,
+                     "Ne convertit pas les noms, c'est uniquement leur affichage qui est concerné."_t},
+                    false),
+      chkInvertNames(*this,
+                     {"chkInvertNames", "Inversion Nom/Prénom"_t, "Lors de la lecture du fichier GEDCOM"_t}, false),
+      cboGedIn(*this, {"cboGedIn", "Entrée GED"_t}),
+      cboGedOut(*this, {"cboGedOut", "Sortie GED"_t}),
+      cboSwiftOut(*this, {"cboSwiftOut", "Sortie Relevé-vif + XSL"_t}),
+      cboFileModel(*this, {"cboFileModel", "Entrée Modèle HTML"_t}),
+      cboKinship(*this, {"cboKinship", "Sortie Liens Parenté"_t}),
+      lblOut(*this, {"lblOut", "Sortie Relevé-vif + XSL"_t}),
+      lblModel(*this, {"lblModel", "Entrée Modèle HTML"_t}),
+      lbOuputPlacesOrder(
+          *this, {"lbOuputPlacesOrder", "Ordre de sélection des Lieux && Dates"_t, PlacesOrderTip()},
+          {{Text("Naissance"_t), 1}, {Text("Décès"_t), 2}, {Text("Mariage, Divorce,..."_t), 3}}),
+      txtPlaceFormat(*this, {"txtPlaceFormat", "Format"_t, "%1=1er lieu,... %0=Tout, %%=%"_t}, "%0"),
+      txtPlaceSepar(*this,
+                    {"txtPlaceSepar", "Séparateur de lieux"_t,
+                     "Séparteur des lieux (par ex. \",\") pour indiquer quel est le lieu n° 1, le 2ième,..."_t},
+                    ","),
+      chkTrimSepar(*this,
+                   {"chkTrimSepar", "Supprimer derniers séparateurs"_t,
+                    "Pour supprimer les séparateurs et espaces isolés en fin de ligne"_t},
+                   true),
+      optTabSpace(*this, {"optTabSpace"}, Texts({"Tabulations"_t, "Espaces"_t}), 0),
+      chkIncludeHeaders(*this, {"chkIncludeHeaders", "Inclure les noms de colonnes"_t}, true),
+      txtINDEX(*this, {"txtINDEX", "Index HTML"_t}, "1"),
+      chkGenerXSL(*this, {"chkGenerXSL", "+ XSL"_t}, true),
+      optOutExtension(*this, {"optOutExtension"}, Texts({"HTML"_t, "Texte "_t, "XML"_t}), 1),
+      cboSaveSwift(*this, {"cboSaveSwift"}, Texts({"Ecrire en HTML"_t, "Ecrire en Texte"_t, "Ecrire en XML"_t})),
+      txtOutExtension{TextBox(*this, {"txtOutExtension", kOutExtension, {}, 0}, "html"),
+                      TextBox(*this, {"txtOutExtension", kOutExtension, {}, 1}, "txt"),
+                      TextBox(*this, {"txtOutExtension", kOutExtension, {}, 2}, "xml")},
+      txtModelExtension{TextBox(*this, {"txtModelExtension", kModelExtension, {}, 0}, "html"),
+                        TextBox(*this, {"txtModelExtension", kModelExtension, {}, 1}, "txt"),
+                        TextBox(*this, {"txtModelExtension", kModelExtension, {}, 2}, "xsl")},
+      cboDrawKinship(*this, {"cboDrawKinship"},
+                     Texts({"Ecrire Une"_t, "Ecrire Une +"_t, "Ecrire Toutes"_t, "Ecrire Toutes +"_t})),
+      txtFont(*this, {"txtFont"}, "Text1"),
+      lblFont(*this, {"lblFont", "Arial"_t}),
+      optFullName(*this, {"optFullName"}, Texts({"Prénom, NOM"_t, "NOM"_t}), 0),
+      chkIndiID(*this, {"chkIndiID", "ID"_t}, true),
+      chkIndiBirthDate(*this, {"chkIndiBirthDate", "Date"_t}, true),
+      chkIndiBirthPlace(*this, {"chkIndiBirthPlace", "Lieu"_t}, true),
+      chkIndiDeathDate(*this, {"chkIndiDeathDate", "Date"_t}, true),
+      chkIndiDeathPlace(*this, {"chkIndiDeathPlace", "Lieu"_t}, true),
+      chkMarrID(*this, {"chkMarrID", "ID"_t}, true),
+      chkMarrDate(*this, {"chkMarrDate", "Date"_t}, true),
+      chkMarrPlace(*this, {"chkMarrPlace", "Lieu"_t}, true),
+      cmdColorMale(*this, {"cmdColorMale", "Homme"_t}, 0x0080C0FF),
+      cmdColorFemale(*this, {"cmdColorFemale", "Femme"_t}, 0x00FFFF80),
+      cmdColorUndefined(*this, {"cmdColorUndefined", "?"_t}, 0x00FFFFFF),
+      txtKinWidth(*this, {"txtKinWidth", "Largeur"_t}, "150"),
+      txtKinHeight(*this, {"txtKinHeight", "Hauteur"_t}, "80"),
+      txtKinH(*this, {"txtKinH", "Ecart Horizontal"_t}, "50"),
+      txtKinV(*this, {"txtKinV", "Ecart Vertical"_t}, "30"),
+      txtKinshipLandscape(*this, {"txtKinshipLandscape"}, true),
+      chkTips(*this, {"chkTips", "Montrer les conseils (\"ToolTips\") dans la liste \"Sortie\"."_t}, true),
+      chkCheckUpdates(*this, {"chkCheckUpdates", "Tester au démarrage si une nouvelle version est disponible."_t},
+                      false),
+      chkMaxLinks(*this, {"chkMaxLinks", "Le nombre de liaisons est > que"_t}, false),
+      txtMaxLinks(*this, {"txtMaxLinks"}, "50"),
+      chkMaxSpouses(*this, {"chkMaxSpouses", "Le nombre de conjoints est > que"_t}, false),
+      txtMaxSpouses(*this, {"txtMaxSpouses"}, "50"),
+      chkIgnoreCase(*this, {"chkIgnoreCase", "ABC=abc"_t}, true),
+      chkDelAccents(*this, {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"_t},
+                    true) {
+    chkProcFamilies.Visible = false;
+    txtFont.Visible = false;
+    txtKinshipLandscape.Visible = false;
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+
+#include "app/controls.h"
+
+namespace swiftroll {
+
+/// The option record: every option of the main window under the name of its control, with its default. An
+/// option is declared in option_record.cpp and nowhere else; settings, window and headless program find it by
+/// walking the controls.
+class OptionRecord : public Window {
+  public:
+    OptionRecord();
+
+    // Reading
+    CheckBox chkProcFamilies;
+    ComboBox cboLoad;
+    CheckBox chkUpperNames;
+    CheckBox chkInvertNames;
+
+    // Files
+    ComboBox cboGedIn;
+    ComboBox cboGedOut;
+    ComboBox cboSwiftOut;
+    ComboBox cboFileModel;
+    ComboBox cboKinship;
+    Label lblOut;
+    Label lblModel;
+
+    // Places
+    OrderedList lbOuputPlacesOrder;
+    TextBox txtPlaceFormat;
+    TextBox txtPlaceSepar;
+    CheckBox chkTrimSepar;
+
+    // Written list
+    OptionGroup optTabSpace;
+    CheckBox chkIncludeHeaders;
+    TextBox txtINDEX;
+    CheckBox chkGenerXSL;
+    OptionGroup optOutExtension;
+    ComboBox cboSaveSwift;
+    std::array<TextBox, 3> txtOutExtension;
+    std::array<TextBox, 3> txtModelExtension;
+
+    // Kinship drawings
+    ComboBox cboDrawKinship;
+    TextBox txtFont;
+    Label lblFont;
+    OptionGroup optFullName;
+    CheckBox chkIndiID;
+    CheckBox chkIndiBirthDate;
+    CheckBox chkIndiBirthPlace;
+    CheckBox chkIndiDeathDate;
+    CheckBox chkIndiDeathPlace;
+    CheckBox chkMarrID;
+    CheckBox chkMarrDate;
+    CheckBox chkMarrPlace;
+    ColourButton cmdColorMale;
+    ColourButton cmdColorFemale;
+    ColourButton cmdColorUndefined;
+    TextBox txtKinWidth;
+    TextBox txtKinHeight;
+    TextBox txtKinH;
+    TextBox txtKinV;
+    CheckBox txtKinshipLandscape;
+
+    // Behaviour
+    CheckBox chkTips;
+    CheckBox chkCheckUpdates;
+    CheckBox chkMaxLinks;
+    TextBox txtMaxLinks;
+    CheckBox chkMaxSpouses;
+    TextBox txtMaxSpouses;
+    CheckBox chkIgnoreCase;
+    CheckBox chkDelAccents;
+};
+
+}  // namespace swiftroll

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "text/text.h"
+
+namespace swiftroll {
+
+enum class BoxButtons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class BoxIcon { None, Exclamation, Question };
+enum class BoxAnswer { Ok, Cancel, Yes, No };
+
+/// Which question a box asks, for presentations that answer by themselves.
+enum class BoxTopic { Message, Charset, LineError, Recalculation, WriteAllRows, OverwriteFile };
+
+struct MessageBox {
+    Text title;
+    Text text;
+    BoxButtons buttons = BoxButtons::Ok;
+    BoxIcon icon = BoxIcon::None;
+    BoxTopic topic = BoxTopic::Message;
+};
+
+/// The user's answers: boxes and file dialogs.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    /// Shows a modal box and gives the answer.
+    virtual BoxAnswer Show(const MessageBox& box) = 0;
+
+    struct FileRequest {
+        bool save = false;
+        Text title;
+        Text fileName;
+        Text filter;
+        Text extension;
+    };
+    /// Asks for a file; false when the user cancels, else `chosen` is the name.
+    virtual bool AskFile(const FileRequest& request, Text& chosen) = 0;
+};
+
+/// A moment of local time.
+struct Moment {
+    int year = 0, month = 0, day = 0;
+    /// 0 is Sunday.
+    int weekday = 0;
+    int hour = 0, minute = 0, second = 0;
+};
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    virtual Moment Now() = 0;
+};
+
+/// Lets pending user-interface events be handled. Long loops call it once per unit of work, millions of times,
+/// so an implementation looks at a clock and really pumps about sixty times a second.
+class EventPump {
+  public:
+    virtual ~EventPump() = default;
+    virtual void Yield() = 0;
+};
+
+/// A file open for reading or writing. The destructor closes it without telling of failures.
+class File {
+  public:
+    virtual ~File() = default;
+    /// Reads up to `size` bytes into `buffer`; 0 at the end of the file. @throws Failure FileAccess
+    virtual std::size_t Read(char* buffer, std::size_t size) = 0;
+    /// @throws Failure FileAccess, as on a full disk
+    virtual void Write(TextView bytes) = 0;
+    /// Length in bytes at present. @throws Failure FileAccess
+    virtual std::int64_t Length() = 0;
+    /// Flushes and closes; only now is it sure that all was written. @throws Failure FileAccess
+    virtual void Close() = 0;
+};
+
+/// The files of the platform, by the names that the program uses for them.
+class Files {
+  public:
+    enum class Mode { Read, Write, Append };
+    virtual ~Files() = default;
+    /// @throws Failure FileNotFound, FileAccess; a folder cannot be opened
+    virtual std::unique_ptr<File> Open(TextView name, Mode mode) = 0;
+    virtual bool Exists(TextView name) = 0;
+    /// Whether the two names, of existing files, lead to one file, through links too.
+    virtual bool AreSame(TextView a, TextView b) = 0;
+    /// Removes the file if it is a regular one. @throws Failure FileAccess
+    virtual void Delete(TextView name) = 0;
+};
+
+/// Folders of the machine; an empty text where there is none. No separator at the end.
+class Folders {
+  public:
+    virtual ~Folders() = default;
+    /// Folder of the user's application data, created when missing.
+    virtual Text UserData() = 0;
+    virtual Text UserDocuments() = 0;
+    virtual Text Temporary() = 0;
+    /// Folder of the shipped models, beside the program or in its installed data.
+    virtual Text Models() = 0;
+    virtual Text Program() = 0;
+    /// Creates a folder unless it is there; a failure is ignored, since the first file written there tells it.
+    virtual void Create(TextView folder) = 0;
+    /// What stands between the folders of a path.
+    virtual Text Separator() = 0;
+};
+
+/// Told after the status panels or the progress have changed; must be cheap.
+class StatusObserver {
+  public:
+    virtual ~StatusObserver() = default;
+    virtual void StatusChanged() = 0;
+};
+
+/// All that the application asks of its surroundings.
+struct Ports {
+    Dialogs& dialogs;
+    Clock& clock;
+    EventPump& events;
+    Files& files;
+    Folders& folders;
+    StatusObserver& status;
+};
+
+}  // namespace swiftroll

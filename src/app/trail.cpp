@@ -1,0 +1,63 @@
+#include "app/trail.h"
+
+#include <limits>
+
+#include "app/french_date.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll {
+namespace {
+
+constexpr std::size_t kTraceStep = 1000;
+constexpr std::size_t kReportPiece = 50;
+
+Text ParameterLines(TextView sReport) {
+    Text lines;
+    do {
+        lines += Concat({kLineEnd, "    |", sReport.substr(0, kReportPiece), "|"});
+        sReport.remove_prefix(std::min(kReportPiece, sReport.size()));
+    } while (!sReport.empty());
+    return lines;
+}
+
+}  // namespace
+
+void Trail::TracePush(const char* sProc) {
+    if (iTraceDepth == std::numeric_limits<std::int16_t>::max()) throw Failure(FailureKind::Overflow);
+    const auto depth = static_cast<std::size_t>(++iTraceDepth);
+    if (depth >= aTrace.size()) aTrace.resize(aTrace.empty() ? kTraceStep + 1 : aTrace.size() + kTraceStep);
+    aTrace[depth] = sProc;
+}
+
+void Trail::ErrorLog(TextView sReport) {
+    ++reports_;
+    Text message = Concat({Decimal(failure_.Number()), ": ", failure_.What(), " (L:", Decimal(failure_.Line()), ")"});
+    message += Concat({kLineEnd, kLineEnd, "Appellé par : "_t});
+    for (auto depth = static_cast<std::size_t>(iTraceDepth); depth >= 1; --depth) {
+        message += Concat({kLineEnd, "    ", aTrace[depth]});
+    }
+    message += Concat({kLineEnd, kLineEnd, "Paramètres : "_t, ParameterLines(sReport)});
+    const TextView name = iTraceDepth > 0 ? aTrace[static_cast<std::size_t>(iTraceDepth)] : "";
+    const Text title = Concat({context_.caption(), " - Erreur \"", name});
+    // The box comes first, so that a full disk does not hide the failure from the user.
+    ports_.dialogs.Show({title, message});
+    try {
+        AppendToLog(title, message);
+    } catch (const std::exception&) {
+        // A log that cannot be written costs nothing more.
+    }
+}
+
+void Trail::AppendToLog(TextView title, TextView message) {
+    const auto log = ports_.files.Open(context_.logFile(), Files::Mode::Append);
+    log->Write(Concat({kLineEnd, "--------------- (", context_.runStart(), ") ", LongTime(ports_.clock.Now()),
+                       " : ", title, " : ", message, kLineEnd}));
+    for (const Table* table : tables_.All()) {
+        log->Write(Concat({PadRight(table->Name(), 14), "= ", Decimal(table->Count()), kLineEnd}));
+    }
+    log->Close();
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "app/ports.h"
+#include "tables/schema.h"
+#include "text/failure.h"
+
+namespace swiftroll {
+
+/// Thrown where a failure must end the program, after it was reported. It is no std::exception, so that no
+/// handler takes it for a failure; the presentation catches it and ends.
+struct ProgramEnd {};
+
+/// What the error trail needs to know of the application.
+struct TrailContext {
+    std::function<Text()> caption;
+    std::function<Text()> logFile;
+    std::function<Text()> runStart;
+};
+
+/// The error trail: the stack of the active procedures, and the report of a failure in a box and in the log.
+class Trail {
+  public:
+    Trail(Ports& ports, TableSet& tables, TrailContext context)
+        : ports_(ports), tables_(tables), context_(std::move(context)) {}
+
+    /// Runs `body` under the name of a procedure. A failure in it is reported with the text that `report`
+    /// makes of the procedure's arguments and state, and the procedure then gives its default result.
+    template <class Body, class Report>
+    auto Guard(const char* sProc, Body&& body, Report&& report) -> std::invoke_result_t<Body> {
+        return GuardElse(sProc, std::forward<Body>(body), [&] { ErrorLog(report()); });
+    }
+    /// The same for a procedure whose handler does something else or something more.
+    template <class Body, class Handler>
+    auto GuardElse(const char* sProc, Body&& body, Handler&& handler) -> std::invoke_result_t<Body> {
+        const Entry entry(*this, sProc);
+        try {
+            return body();
+        } catch (const std::exception&) {
+            failure_ = CurrentFailure();
+            handler();
+        }
+        if constexpr (!std::is_void_v<std::invoke_result_t<Body>>) return {};
+    }
+
+    /// Shows the failure being handled in a box and appends it to the log.
+    void ErrorLog(TextView sReport);
+    /// The failure that the running handler was called for.
+    const Failure& LastFailure() const { return failure_; }
+    /// Number of reports since the start.
+    int Reports() const { return reports_; }
+
+  private:
+    class Entry {
+      public:
+        Entry(Trail& trail, const char* sProc) : trail_(trail) { trail_.TracePush(sProc); }
+        ~Entry() { trail_.TracePop(); }
+        Entry(const Entry&) = delete;
+        Entry& operator=(const Entry&) = delete;
+
+      private:
+        Trail& trail_;
+    };
+    void TracePush(const char* sProc);
+    void TracePop() { --iTraceDepth; }
+    void AppendToLog(TextView title, TextView message);
+
+    Ports& ports_;
+    TableSet& tables_;
+    TrailContext context_;
+    // Names of the active procedures from index 1, oldest first.
+    std::vector<const char*> aTrace;
+    std::int16_t iTraceDepth = 0;
+    Failure failure_{FailureKind::Internal};
+    int reports_ = 0;
+};
+
+}  // namespace swiftroll

@@ -1,0 +1,143 @@
+#include "arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <map>
+
+namespace swiftroll::cli {
+namespace {
+
+/// Cuts a list at its commas; an empty text is the empty list.
+std::vector<std::string> SplitList(const std::string& list) {
+    std::vector<std::string> parts;
+    std::size_t from = 0;
+    while (!list.empty() && from <= list.size()) {
+        const std::size_t comma = std::min(list.find(',', from), list.size());
+        parts.push_back(list.substr(from, comma - from));
+        from = comma + 1;
+    }
+    return parts;
+}
+
+/// Declares one job with the options of every job.
+class JobParser {
+  public:
+    JobParser(CLI::App& app, const std::string& name, Arguments& arguments)
+        : sub_(*app.add_subcommand(name)), arguments_(arguments) {
+        sub_.set_help_flag();
+        sub_.add_option("FICHIER", arguments.input);
+        for (const auto& [option, kind] : {std::pair{"--set", Setting::Kind::Field},
+                                           std::pair{"--ordre-lieux", Setting::Kind::PlacesOrder},
+                                           std::pair{"--colonnes", Setting::Kind::Columns}}) {
+            ordered_[sub_.add_option(option)->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)] = kind;
+        }
+        ordered_[sub_.add_flag("--sans-familles")] = Setting::Kind::WithoutFamilies;
+        sub_.add_option("--marquer", marked_);
+        sub_.add_flag("--strict", arguments.strict);
+        sub_.add_flag("-f,--ecraser", arguments.overwrite);
+        sub_.add_flag("-q,--silencieux", arguments.quiet);
+    }
+    CLI::App& Sub() { return sub_; }
+
+    void Collect() {
+        arguments_.markedIds = SplitList(marked_);
+        std::map<const CLI::Option*, std::size_t> seen;
+        for (const CLI::Option* option : sub_.parse_order()) {
+            const auto found = ordered_.find(option);
+            if (found == ordered_.end()) continue;
+            arguments_.settings.push_back({found->second, option->results().at(seen[option]++)});
+        }
+    }
+
+  private:
+    CLI::App& sub_;
+    Arguments& arguments_;
+    std::map<const CLI::Option*, Setting::Kind> ordered_;
+    std::string marked_;
+};
+
+std::string Joined(const std::vector<std::string>& words) {
+    std::string joined;
+    for (const std::string& word : words) joined += (joined.empty() ? "" : " ") + word;
+    return joined;
+}
+
+/// The library's message, in French.
+std::string Translated(const CLI::ParseError& error, const CLI::App& app) {
+    const std::string what = error.what();
+    if (error.get_name() == "ExtrasError") return "argument inconnu ou pas encore possible : " + Joined(app.remaining(true));
+    if (error.get_name() == "ArgumentMismatch") return "valeur manquante ou en trop pour " + what.substr(0, what.find(':'));
+    return "arguments incorrects (" + what + ")";
+}
+
+}  // namespace
+
+Arguments ParseArguments(int argc, const char* const* argv) {
+    Arguments arguments;
+    CLI::App app;
+    app.set_help_flag();
+    app.require_subcommand(0, 1);
+    const CLI::Option* help = app.add_flag("--aide");
+    const CLI::Option* version = app.add_flag("--version");
+
+    JobParser tables(app, "tables", arguments);
+    std::string tableList = "lvwIn";
+    tables.Sub().add_option("-t", tableList);
+    tables.Sub().add_flag("--cles", arguments.withKeys);
+
+    JobParser releve(app, "releve", arguments);
+    releve.Sub().add_option("-o", arguments.output);
+    releve.Sub().add_option("--format", arguments.format);
+    releve.Sub().add_option("--modele", arguments.model);
+    releve.Sub().add_flag("--xsl", arguments.withStylesheet);
+    releve.Sub().add_flag("--marques", arguments.markedOnly);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(Translated(error, app));
+    }
+    if (help->count() > 0) return arguments;
+    if (version->count() > 0) {
+        arguments.job = Job::Version;
+        return arguments;
+    }
+    const bool isTables = tables.Sub().parsed();
+    if (!isTables && !releve.Sub().parsed()) throw UsageError("il manque le travail à faire : tables ou releve");
+    arguments.job = isTables ? Job::Tables : Job::Releve;
+    (isTables ? tables : releve).Collect();
+    arguments.tables = SplitList(tableList);
+    if (arguments.input.empty()) throw UsageError("il manque le fichier GEDCOM à lire");
+    if (!isTables && arguments.output.empty()) throw UsageError("il manque le fichier à écrire : -o SORTIE");
+    return arguments;
+}
+
+std::string HelpText() {
+    return R"(SwiftRoll : relevés à partir d'un fichier GEDCOM
+
+  swiftroll-cli tables FICHIER.ged [-t TABLE[,TABLE...]] [--cles]
+      affiche des tables (lvwIn si rien n'est dit) : une ligne par rangée, les cellules séparées par une
+      tabulation. Tables : lvwIn, lvwOut, lvwXref, lvwXref1, lvwFamily, lvwFamilyXref, lvwKinship.
+      --cles met devant la clé, l'étiquette et les marques de chaque rangée.
+
+  swiftroll-cli releve FICHIER.ged -o SORTIE [--format html|texte|xml] [--modele FICHIER] [--xsl] [--marques]
+      écrit le Relevé-vif ; « -o - » l'envoie à l'écran. Sans --format, l'extension de SORTIE décide.
+      --xsl écrit aussi la feuille de style à côté du XML, --marques n'écrit que les lignes marquées.
+
+  swiftroll-cli --aide | --version
+
+Options de tous les travaux, dans l'ordre de la ligne de commande :
+  --set CHAMP=VALEUR        fixe une option par son nom : --set chkDelAccents=0, --set "txtPlaceFormat=%1"
+  --sans-familles           lit sans les familles
+  --ordre-lieux 2,1,3       ordre de choix du lieu : 1 naissance, 2 décès, 3 mariage
+  --colonnes CLE[,CLE...]   colonnes du relevé devant le nombre (LastName,Place,DateMin,DateMax si rien n'est
+                            dit) ; la liste vide met le nombre en premier
+  --marquer ID[,ID...]      marque ces individus après la lecture
+  --strict                  arrête la lecture à la première ligne fautive ou au jeu de caractères inconnu
+  -f, --ecraser             écrase un fichier existant
+  -q, --silencieux          ni progression ni textes d'état
+
+Codes de sortie : 0 fait, 1 échec ou refus, 2 ligne de commande incorrecte, 3 arrêté (Ctrl-C, --strict).
+)";
+}
+
+}  // namespace swiftroll::cli

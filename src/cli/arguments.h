@@ -1,0 +1,51 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace swiftroll::cli {
+
+enum class Job { Help, Version, Tables, Releve };
+
+/// The exit codes of the program.
+enum ExitCode : int { kDone = 0, kFailed = 1, kUsage = 2, kStopped = 3 };
+
+/// A command line that cannot be carried out; the message is French, in UTF-8.
+struct UsageError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// An option of the record in the order of the command line.
+struct Setting {
+    enum class Kind { Field, WithoutFamilies, PlacesOrder, Columns };
+    Kind kind;
+    std::string value;
+};
+
+/// The command line, texts in UTF-8 as they were typed.
+struct Arguments {
+    Job job = Job::Help;
+    std::string input;
+    std::string output;
+    std::vector<std::string> tables;
+    bool withKeys = false;
+    std::string format;
+    std::string model;
+    bool withStylesheet = false;
+    bool markedOnly = false;
+    std::vector<std::string> markedIds;
+    std::vector<Setting> settings;
+    bool strict = false;
+    bool overwrite = false;
+    bool quiet = false;
+};
+
+/// @throws UsageError
+Arguments ParseArguments(int argc, const char* const* argv);
+
+/// What --aide prints, in UTF-8.
+std::string HelpText();
+
+}  // namespace swiftroll::cli

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <chrono>
+
+#include "app/status.h"
+#include "arguments.h"
+#include "shell/frm_main.h"
+
+namespace swiftroll::cli {
+
+/// Writes a Text and a line end to standard error as UTF-8, the lines of the text as lines of the terminal.
+void PrintError(TextView text);
+
+/// Answers the boxes as a user in a hurry would, and prints them.
+class HeadlessDialogs : public Dialogs {
+  public:
+    explicit HeadlessDialogs(const Arguments& arguments) : arguments_(arguments) {}
+    BoxAnswer Show(const MessageBox& box) override;
+    bool AskFile(const FileRequest& request, Text& chosen) override;
+
+    /// Whether the question of the recalculation is answered Yes.
+    bool recalculates = false;
+    /// The answer of the next file dialogs.
+    Text outputFile;
+    /// Whether a box told that the job failed or was refused.
+    bool HasRefusal() const { return hasRefusal_; }
+    /// Called before a box is printed, to clear the progress line.
+    Event beforeBox;
+
+  private:
+    const Arguments& arguments_;
+    bool hasRefusal_ = false;
+};
+
+/// The progress line of a terminal: a bar, the percentage and the status text, redrawn at most ten times a second.
+class TerminalProgress : public StatusObserver {
+  public:
+    explicit TerminalProgress(bool enabled) : enabled_(enabled) {}
+    void Watch(const StatusBar& status) { status_ = &status; }
+    void StatusChanged() override;
+    void Wipe();
+
+  private:
+    void Draw();
+    bool enabled_;
+    bool drawn_ = false;
+    const StatusBar* status_ = nullptr;
+    std::chrono::steady_clock::time_point lastDrawing_{};
+};
+
+/// Turns Ctrl-C into the abort request of the Escape key.
+class InterruptPump : public EventPump {
+  public:
+    void Watch(Application& app) { app_ = &app; }
+    void Yield() override;
+
+  private:
+    Application* app_ = nullptr;
+    bool told_ = false;
+};
+
+}  // namespace swiftroll::cli

@@ -1,0 +1,25 @@
+#include <cstdio>
+
+#include "arguments.h"
+#include "jobs.h"
+
+int main(int argc, char** argv) {
+    using namespace swiftroll::cli;
+    try {
+        const Arguments arguments = ParseArguments(argc, argv);
+        switch (arguments.job) {
+            case Job::Help:
+                std::fputs(HelpText().c_str(), stdout);
+                return kDone;
+            case Job::Version:
+                std::puts("SwiftRoll " SWIFTROLL_VERSION);
+                return kDone;
+            case Job::Tables:
+            case Job::Releve:
+                return RunJob(arguments);
+        }
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "swiftroll-cli : %s\nEssayez « swiftroll-cli --aide ».\n", error.what());
+    }
+    return kUsage;
+}

@@ -1,0 +1,104 @@
+#include "print_tables.h"
+
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "text/code_page.h"
+
+namespace swiftroll::cli {
+namespace {
+
+constexpr std::size_t kFlushSize = std::size_t{1} << 16;
+
+class Printer {
+  public:
+    Printer() {
+        for (unsigned code = 0; code < 256; ++code) isPlain_[code] = code < 0x80;
+        for (const unsigned char c : {'\t', '\n', '\r', '\\'}) isPlain_[c] = false;
+    }
+
+    void Cell(TextView text) {
+        std::size_t plain = 0;
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if (isPlain_[static_cast<unsigned char>(text[i])]) continue;
+            out_ += text.substr(plain, i - plain);
+            plain = i + 1;
+            switch (text[i]) {
+                case '\t':
+                    out_ += "\\t";
+                    break;
+                case '\n':
+                    out_ += "\\n";
+                    break;
+                case '\r':
+                    out_ += "\\r";
+                    break;
+                case '\\':
+                    out_ += "\\\\";
+                    break;
+                default:
+                    out_ += ToUtf8(text.substr(i, 1));
+            }
+        }
+        out_ += text.substr(plain);
+    }
+    void Raw(std::string_view bytes) { out_ += bytes; }
+    void EndLine() {
+        out_ += '\n';
+        if (out_.size() >= kFlushSize) Flush();
+    }
+    bool Finish() {
+        Flush();
+        return std::fflush(stdout) == 0 && complete_;
+    }
+
+  private:
+    void Flush() {
+        complete_ &= std::fwrite(out_.data(), 1, out_.size(), stdout) == out_.size();
+        out_.clear();
+    }
+    std::array<bool, 256> isPlain_{};
+    std::string out_;
+    bool complete_ = true;
+};
+
+void PrintTable(Printer& printer, Table& table, bool withKeys) {
+    if (withKeys) printer.Raw("Key\tTag\tMarques\t");
+    for (const Column& column : table.Columns()) {
+        if (column.Index > 1) printer.Raw("\t");
+        printer.Cell(column.Key);
+    }
+    printer.EndLine();
+    for (std::int32_t i = 1; i <= table.Count(); ++i) {
+        const Row row = table.Item(i);
+        if (withKeys) {
+            printer.Cell(row.Key());
+            printer.Raw("\t");
+            printer.Cell(row.Tag());
+            printer.Raw(row.Selected() ? "\tS" : "\t");
+            printer.Raw(row.Checked() ? "C\t" : "\t");
+        }
+        for (std::int16_t column = 1; column <= table.ColumnCount(); ++column) {
+            if (column > 1) printer.Raw("\t");
+            printer.Cell(row.Cell(column));
+        }
+        printer.EndLine();
+    }
+}
+
+}  // namespace
+
+bool PrintTables(const std::vector<Table*>& tables, bool withKeys) {
+    Printer printer;
+    for (Table* table : tables) {
+        if (tables.size() > 1) {
+            printer.Raw("# " + table->Name());
+            printer.EndLine();
+        }
+        PrintTable(printer, *table, withKeys);
+    }
+    return printer.Finish();
+}
+
+}  // namespace swiftroll::cli

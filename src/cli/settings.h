@@ -1,0 +1,19 @@
+#pragma once
+
+#include "arguments.h"
+#include "shell/frm_main.h"
+
+namespace swiftroll::cli {
+
+/// Takes the settings of the command line over into the option record and the columns, in their order.
+/// @throws UsageError that names what is wrong
+void ApplySettings(frmMain& main, const std::vector<Setting>& settings);
+
+/// Puts these columns of `lvwOut` before `Number`, in this order, and all others behind it in schema order.
+/// @throws UsageError for an unknown or repeated column
+void ArrangeColumns(frmMain& main, const std::vector<std::string>& keys);
+
+/// A UTF-8 word of the command line as a Text. @throws UsageError when the code page lacks a character
+Text TextOf(const std::string& word);
+
+}  // namespace swiftroll::cli

@@ -1,0 +1,190 @@
+#include "gedcom/families.h"
+
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modReadGedcom {
+namespace {
+
+constexpr std::int32_t kStatusStep = 200;
+
+/// The two display forms of a person, each made once a read.
+class DisplayNames {
+  public:
+    explicit DisplayNames(Application& app)
+        : in_(app.lvwIn), store_(app.lvwIn.Store()), nameless_(store_.Intern(", ")), names_(SizeOf(app.lvwIn)) {}
+
+    /// `LastName`, ", ", `FirstName`, as they stand.
+    TextRef AsTheyStand(const Row& person) {
+        TextRef& name = names_[static_cast<std::size_t>(person.Index() - 1)];
+        if (name.IsEmpty()) {
+            const Text text = Concat({person.Cell(In::LastName), ", ", person.Cell(In::FirstName)});
+            name = text == ", " ? nameless_ : store_.Put(text);
+        }
+        return name;
+    }
+    /// The same, but empty for a person without names.
+    TextRef Of(const Row& person) {
+        const TextRef name = AsTheyStand(person);
+        return name == nameless_ ? TextRef() : name;
+    }
+    /// The name of the individual of an identifier; empty when there is none.
+    TextRef OfId(TextRef id) {
+        const auto person = in_.Find(RowKey(id));
+        return person ? Of(*person) : TextRef();
+    }
+
+  private:
+    static std::size_t SizeOf(const Table& table) { return static_cast<std::size_t>(table.Count()); }
+    Table& in_;
+    TextStore& store_;
+    TextRef nameless_;
+    std::vector<TextRef> names_;  // by row of lvwIn, whose order does not change meanwhile
+};
+
+class FamilyCopier {
+  public:
+    FamilyCopier(Application& app, Links& links) : app_(app), links_(links), names_(app) {}
+
+    void FillLvwFamily() {
+        TextStore& store = app_.lvwFamily.Store();
+        const std::int32_t count = app_.lvwFamily.Count();
+        for (std::int32_t i = 1; i <= count; ++i) {
+            Row family = app_.lvwFamily.Item(i);
+            app_.ProgressBar1.Show(i, count);
+            family.SetCell(Family::Husb, names_.OfId(family.Ref(Family::IDHusb)));
+            family.SetCell(Family::Wife, names_.OfId(family.Ref(Family::IDWife)));
+            family.SetCell(Family::Fams, names_.OfId(family.Ref(Family::IDFams)));
+            const TextView husband = family.Cell(Family::Husb), wife = family.Cell(Family::Wife);
+            const TextView other = family.Cell(Family::Fams);
+            family.SetCell(Family::Fam, store.Put(Concat({husband.empty() ? other : husband, " x ",
+                                                         husband.empty() || !wife.empty() ? wife : other})));
+            SetMaxLen(family, app_.lMaxLenFamily);
+        }
+    }
+
+    void FillLvwFamilyXref() {
+        const std::int32_t count = app_.lvwFamilyXref.Count();
+        std::int32_t lFamIndex = 0;
+        std::optional<Row> family;
+        for (std::int32_t i = 1; i <= count; ++i) {
+            if (i % kStatusStep == 0) ShowStatus(i, count);
+            Row member = app_.lvwFamilyXref.Item(i);
+            // Both tables stand in the order of the family identifiers; families without members are passed over.
+            while (!family || family->Text() != member.Text()) family = app_.lvwFamily.Item(++lFamIndex);
+            member.SetCell(FamilyXref::Family, family->Ref(Family::Fam));
+            const auto person = app_.lvwIn.Find(RowKey(member.Ref(FamilyXref::IDIndi)));
+            if (!person) continue;
+            member.SetCell(FamilyXref::Indi, names_.Of(*person));
+            LinkMember(member, *person, *family);
+            SetMaxLen(member, app_.lMaxLenFamilyXref);
+            FillLvwIn(*family);
+            if (app_.bAbort) break;
+        }
+        ShowStatus(count, count);
+    }
+
+    void ShowStatus(std::int32_t done, std::int32_t count) {
+        app_.pnlMessage.Set(
+            Concat({"Traitement des liens Individus-Famille : "_t, Decimal(done), "/", Decimal(count)}));
+        app_.ProgressBar1.Show(done, count);
+    }
+
+  private:
+    void LinkMember(Row& member, const Row& person, const Row& family) {
+        const LinkWords& words = links_.Words();
+        const TextRef type = member.Ref(FamilyXref::Type), id = member.Ref(FamilyXref::IDIndi);
+        const TextRef husband = family.Ref(Family::IDHusb), wife = family.Ref(Family::IDWife);
+        const TextRef husbandName = family.Ref(Family::Husb), wifeName = family.Ref(Family::Wife);
+        const TextRef idFam = family.Ref(Family::IDFam), label = family.Ref(Family::Fam);
+        if (type == words.Husband && !wife.IsEmpty()) {
+            links_.AddXrefXRef(id, words.Husband, wife, husbandName, wifeName, idFam, label);
+        } else if (type == words.Wife && !husband.IsEmpty()) {
+            links_.AddXrefXRef(id, words.Wife, husband, wifeName, husbandName, idFam, label);
+        } else if (type == words.Child) {
+            LinkChild(member, person, family);
+        }
+    }
+
+    // A child is linked to one parent only: the husband, or the wife where there is none.
+    void LinkChild(Row& member, const Row& person, const Row& family) {
+        const LinkWords& words = links_.Words();
+        const TextRef sex = person.Ref(In::Sex);
+        const TextRef childType = sex == words.Male ? words.Son : sex == words.Female ? words.Daughter : words.Child;
+        member.SetCell(FamilyXref::Sex, sex);
+        member.SetCell(FamilyXref::Type, childType);
+        const bool hasHusband = !family.Ref(Family::IDHusb).IsEmpty(), hasWife = !family.Ref(Family::IDWife).IsEmpty();
+        const TextRef parent = family.Ref(hasHusband ? Family::IDHusb : hasWife ? Family::IDWife : Family::IDFams);
+        const TextRef parentName = family.Ref(hasHusband ? Family::Husb : hasWife ? Family::Wife : Family::Fams);
+        const TextRef wayBack = hasHusband ? words.Father : hasWife ? words.Mother : childType;
+        const TextRef child = member.Ref(FamilyXref::IDIndi), childName = names_.AsTheyStand(person);
+        const TextRef idFam = family.Ref(Family::IDFam), label = family.Ref(Family::Fam);
+        links_.AddXrefXRef(child, childType, parent, childName, parentName, idFam, label);
+        links_.AddXrefXRef(parent, wayBack, child, parentName, childName, idFam, label);
+    }
+
+    void FillLvwIn(const Row& family) {
+        const TextRef husband = family.Ref(Family::IDHusb), wife = family.Ref(Family::IDWife);
+        CopyMarriage(husband, family);
+        CopyMarriage(wife, family);
+        if (husband.IsEmpty() && wife.IsEmpty()) CopyMarriage(family.Ref(Family::IDFams), family);
+    }
+
+    void CopyMarriage(TextRef spouse, const Row& family) {
+        auto person = app_.lvwIn.Find(RowKey(spouse));
+        if (!person) return;
+        person->SetCell(In::MarrPlace, family.Ref(Family::MarrPlace));
+        person->SetCell(In::MarrMin, family.Ref(Family::MarrMin));
+        person->SetCell(In::MarrMax, family.Ref(Family::MarrMax));
+    }
+
+    Application& app_;
+    Links& links_;
+    DisplayNames names_;
+};
+
+}  // namespace
+
+void XrefFamily(Application& app, Links& links) {
+    app.trail.GuardElse(
+        "XrefFamily",
+        [&] {
+            const std::int32_t count = app.lvwFamilyXref.Count();
+            for (std::int32_t i = 1; i <= count && !app.bAbort; ++i) {
+                const Row member = app.lvwFamilyXref.Item(i);
+                app.ProgressBar1.Show(i, count);
+                links.AddFamily(member.Ref(FamilyXref::IDFam), member.Ref(FamilyXref::Type),
+                                member.Ref(FamilyXref::IDIndi), TextRef(), 0, 0);
+            }
+            app.pnlFamilies.Set(Concat({Decimal(app.lvwFamily.Count()), " Famille(s)"_t}));
+        },
+        [&] {
+            app.trail.ErrorLog("XrefFamily");
+            throw ProgramEnd{};
+        });
+}
+
+void CopyFamilyXref2Xref(Application& app, Links& links) {
+    const char* phase = "Sort";
+    FamilyCopier copier(app, links);
+    app.trail.GuardElse(
+        "CopyFamilyXref2Xref",
+        [&] {
+            app.lvwFamily.SortBy(0, 0);
+            app.lvwFamilyXref.SortBy(0, 0);
+            app.lvwXref.SetSorted(false);
+            phase = "FillLvwFamily";
+            copier.FillLvwFamily();
+            phase = "FillLvwFamilyXref";
+            copier.FillLvwFamilyXref();
+        },
+        [&] {
+            const std::int32_t count = app.lvwFamilyXref.Count();
+            app.trail.ErrorLog(Concat({phase, "/", Decimal(count)}));
+            copier.ShowStatus(count, count);
+        });
+}
+
+}  // namespace swiftroll::modReadGedcom

@@ -1,0 +1,179 @@
+#include "gedcom/line_reader.h"
+
+#include <limits>
+
+#include "text/edit.h"
+#include "text/failure.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modReadGedcom {
+namespace {
+
+// Positions are told in 32-bit numbers.
+constexpr std::int64_t kLongestFile = std::int64_t{1} << 31;
+
+/// The level that the digits in front of a blank write.
+std::int16_t LevelOf(TextView digits) {
+    if (digits.empty() || digits.find_first_not_of("0123456789") != TextView::npos) {
+        throw Failure(FailureKind::TypeMismatch);
+    }
+    return ToInteger(digits);
+}
+
+/// Whether the line begins with level 0, whatever junk stands before it.
+bool IsLevel0(TextView line) {
+    const auto blank = line.find(' ');
+    if (blank == TextView::npos) return false;
+    const TextView head = line.substr(0, blank);
+    const auto digit = head.find_first_of("0123456789");
+    return digit != TextView::npos && head.substr(digit).find_first_not_of('0') == TextView::npos;
+}
+
+}  // namespace
+
+TextView GetXrefDef(TextView sText) {
+    if (!sText.starts_with('@')) return {};
+    const auto end = sText.find('@', 1);
+    return end == TextView::npos ? sText : sText.substr(0, end + 1);
+}
+
+TextView GetXrefUsed(TextView sText) {
+    sText = Trim(sText);
+    return sText.starts_with('@') && sText.ends_with('@') ? sText : TextView();
+}
+
+bool LineReader::InitGedcom(TextView sFile) {
+    return app_.trail.GuardElse(
+        "InitGedcom",
+        [&] {
+            auto file = app_.ports.files.Open(sFile, Files::Mode::Read);
+            lProgressTotal = file->Length();
+            if (lProgressTotal > kLongestFile) {
+                app_.Box(" - InitGed"_t,
+                         Concat({"Le fichier "_t, sFile, " dépasse 2 Gio et ne peut pas être lu."_t, kLineEnd,
+                                 "Exportez-en une partie depuis votre logiciel de généalogie."_t}),
+                         BoxButtons::Ok, BoxIcon::Exclamation);
+                return false;
+            }
+            scanner_.emplace(std::move(file));
+            iLevel = iBaseLevel = 0;
+            lNrLines = lNrNames = 0;
+            return true;
+        },
+        [&] {
+            app_.Box(" - InitGed"_t, Concat({"Le fichier "_t, sFile, " n'existe pas."_t}), BoxButtons::Ok,
+                     BoxIcon::Exclamation);
+        });
+}
+
+void LineReader::ResetRecords() {
+    lPrevPos = lCurPos = 1;
+    head = {1, 1};
+    subn = {0, 0};
+    sPrevTag.clear();
+    sPrevXref.clear();
+    colRecords_ = std::make_unique<KeyedCollection<RecordRange>>();
+}
+
+std::int32_t LineReader::Read1Line() {
+    for (;;) {
+        bool failed = false, goOn = false;
+        const std::int32_t result = app_.trail.GuardElse(
+            "Read1Line", [&] { return ReadAndSplit(); },
+            [&] {
+                failed = true;
+                goOn = AskToGoOn(app_.trail.LastFailure());
+            });
+        if (!failed) return result;
+        if (!goOn) {
+            NoteRecordEnd(scanner_->LinePosition());
+            return -1;
+        }
+    }
+}
+
+bool LineReader::AskToGoOn(const Failure& failure) {
+    const BoxAnswer answer = app_.Box(
+        " - Erreur Ligne"_t,
+        Concat({Decimal(failure.Number()), ": ", failure.What(), kLineEnd, "Ligne ", Decimal(lNrLines), kLineEnd,
+                TrimRight(sLine)}),
+        BoxButtons::OkCancel, BoxIcon::Question, BoxTopic::LineError);
+    app_.pnlMessage.Set("Erreur !"_t);
+    if (answer == BoxAnswer::Ok) return true;
+    app_.bAbort = true;
+    return false;
+}
+
+std::int32_t LineReader::ReadAndSplit() {
+    if (!scanner_) return -1;
+    if (!scanner_->Next()) {
+        // The record still open ends at a dropped last line that would have begun another one, such as the
+        // "0 TRLR" of a file with bare line feeds, or at the end of the file.
+        const bool atLine = IsLevel0(scanner_->Line());
+        NoteRecordEnd(atLine ? scanner_->LinePosition() : scanner_->ReadPosition() + 1);
+        Close();
+        return -1;
+    }
+    sLine = scanner_->Line();
+    ++lNrLines;
+    if (lNrLines % 1000 == 999) ShowProgress();
+    const bool oneDigit = SplitLine();
+    if (iLevel == 0) {
+        if (!NoteRecordStart(scanner_->LinePosition()) && !AskToGoOn(Failure(FailureKind::DuplicateKey))) return -1;
+    } else if (!oneDigit) {
+        NoteRecordEnd(scanner_->LinePosition());
+    }
+    return oneDigit ? 0 : 1;
+}
+
+void LineReader::ShowProgress() {
+    app_.pnlLines.Set(Concat({"Ligne(s) GEDCOM : "_t, Decimal(std::int64_t{lNrLines} + 1)}));
+    constexpr std::int64_t kUnit = 128;
+    app_.ProgressBar1.Show(static_cast<double>(scanner_->ReadPosition() / kUnit * kUnit),
+                           static_cast<double>(lProgressTotal));
+}
+
+bool LineReader::SplitLine() {
+    // Number of characters up to and with the first blank. Junk in front of the level, such as a byte order
+    // mark, is removed and lowers it, so that junk with a blank in it leaves nothing to take a level from.
+    auto p = static_cast<std::int64_t>(sLine.find(' ') + 1);
+    const auto digit = std::min(sLine.find_first_of("0123456789"), sLine.size());
+    sLine.remove_prefix(digit);
+    p -= static_cast<std::int64_t>(digit);
+    if (p == 0 && sLine.empty()) {
+        // Junk and one blank at its end: a line that says nothing, at the level of the one before.
+        sXrefDef = sTag = sValue = {};
+        return true;
+    }
+    if (p < 0 || sLine.empty()) throw Failure(FailureKind::InvalidArgument);
+    if (p == 0) throw Failure(FailureKind::TypeMismatch);
+    iLevel = LevelOf(sLine.substr(0, static_cast<std::size_t>(p - 1)));
+    const TextView rest = sLine.substr(static_cast<std::size_t>(p));
+    sXrefDef = GetXrefDef(rest);
+    sLine = TrimLeft(rest.substr(sXrefDef.size()));
+    const auto blank = sLine.find(' ');
+    sTag = sLine.substr(0, blank);
+    sValue = blank == TextView::npos ? TextView() : sLine.substr(blank + 1);
+    return p <= 2;
+}
+
+bool LineReader::NoteRecordStart(std::int64_t position) {
+    lPrevPos = lCurPos;
+    lCurPos = position;
+    const RecordRange closed{lPrevPos, lCurPos};
+    if (sPrevTag == "HEAD") head = closed;
+    if (sPrevTag == "SUBN") subn = closed;
+    const bool isNew = sPrevXref.empty() || colRecords_->Add(Concat({sPrevTag, " ", sPrevXref}), closed);
+    sPrevTag = sTag;
+    sPrevXref = sXrefDef;
+    return isNew;
+}
+
+void LineReader::NoteRecordEnd(std::int64_t position) {
+    sTag = sXrefDef = sValue = {};
+    const bool isNew = NoteRecordStart(position);
+    if (!isNew) AskToGoOn(Failure(FailureKind::DuplicateKey));
+}
+
+}  // namespace swiftroll::modReadGedcom

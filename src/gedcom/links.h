@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/application.h"
+#include "tables/keyed_collection.h"
+
+namespace swiftroll::modReadGedcom {
+
+/// First and last row, from 1, of the links that leave an individual in a sorted link table.
+struct RowRange {
+    std::int32_t first = 0;
+    std::int32_t last = 0;
+};
+using XrefRanges = KeyedCollection<RowRange>;
+
+/// The words of the tables as texts of the store that a read fills, made once a read.
+struct LinkWords {
+    explicit LinkWords(TextStore& store);
+    TextRef Husband, Wife, Child, Son, Daughter, Father, Mother, Male, Female, Famc, Fams, Alia;
+};
+
+/// Writes the rows that families and links are made of. All references are interned texts of the read tables'
+/// store, so that a pair of identifiers is a key by itself.
+class Links {
+  public:
+    explicit Links(Application& app) : app_(app), words_(app.lvwIn.Store()) {}
+    const LinkWords& Words() const { return words_; }
+
+    /// The row of a family and an individual; the last writer of a pair wins.
+    void AddFamilyXRef(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sSex);
+    /// The row of a family, made when it is new. `sType` "Epoux" or "Epouse" writes the spouse; an empty place,
+    /// a year 0 write nothing; 99999 and -1 empty the year. A failure ends the program after its report.
+    Row AddFamily(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sPlace, std::int32_t lMin, std::int32_t lMax);
+    /// The link from one individual to another; the last writer of an ordered pair wins. An empty `sId1` writes
+    /// nothing but the row itself.
+    void AddXrefXRef(TextRef sId1, TextRef sType, TextRef sId2, TextRef sName1, TextRef sName2, TextRef sFam,
+                     TextRef sFamLabel);
+
+  private:
+    Text Report(std::initializer_list<TextRef> refs) const;
+    Application& app_;
+    LinkWords words_;
+};
+
+/// Sorts a link table by the column numbered `iSortCol` from 0 and gives the range of rows of each identifier;
+/// after a failure, which is reported, as far as it got.
+std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol);
+
+}  // namespace swiftroll::modReadGedcom

@@ -1,0 +1,92 @@
+#include "gedcom/places.h"
+
+#include <boost/unordered/unordered_flat_map.hpp>
+
+#include "gedcom/dates.h"
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modReadGedcom {
+namespace {
+
+constexpr int kMostParts = 20;
+constexpr int kTrimPasses = 20;
+
+Text ReplaceMarker(Text text, TextView marker, TextView by) {
+    return text.find(marker) == Text::npos ? std::move(text) : ReplaceAll(text, marker, by);
+}
+
+}  // namespace
+
+TextView CleanInPlace(TextView sPlace) {
+    return sPlace.substr(0, sPlace.find_last_not_of(" ,;") + 1);
+}
+
+PlaceFormatter::PlaceFormatter(const OptionRecord& options)
+    : format_(options.txtPlaceFormat.Get()),
+      separator_(options.txtPlaceSepar.Get()),
+      trim_(options.chkTrimSepar.Checked()) {
+    for (const auto& item : options.lbOuputPlacesOrder.Items()) order_.push_back(item.value - 1);
+}
+
+Text PlaceFormatter::Take1Place(TextView sPlace) const {
+    const std::vector<TextView> parts = Split(sPlace, separator_);
+    Text sOut = format_;
+    // One after the other, so that a marker in the text of a part is replaced in its turn.
+    for (int n = 1; n <= kMostParts && sOut.find('%') != Text::npos; ++n) {
+        const auto part = static_cast<std::size_t>(n - 1);
+        sOut = ReplaceMarker(std::move(sOut), "%" + Decimal(n), part < parts.size() ? Trim(parts[part]) : TextView());
+    }
+    sOut = ReplaceMarker(std::move(sOut), "%0", sPlace);
+    sOut = ReplaceMarker(std::move(sOut), "%%", "%");
+    for (int pass = 0; trim_ && pass < kTrimPasses; ++pass) {
+        sOut.resize(TrimRight(sOut).size());
+        if (separator_.empty() || !sOut.ends_with(separator_)) break;
+        sOut.resize(sOut.size() - separator_.size());
+    }
+    return sOut;
+}
+
+int PlaceFormatter::PreferredPlace(const std::array<bool, 3>& isEmpty) const {
+    for (const int place : order_) {
+        if (!isEmpty[static_cast<std::size_t>(place)]) return place;
+    }
+    return -1;
+}
+
+void SetInDates(Application& app) {
+    app.trail.Guard(
+        "SetInDates",
+        [&] {
+            const PlaceFormatter formatter(app);
+            TextStore& store = app.lvwIn.Store();
+            // Places come again and again; each is formatted once.
+            boost::unordered_flat_map<TextView, TextRef> formatted;
+            const auto takePlace = [&](const Row& row) {
+                const std::array<TextRef, 3> places = {row.Ref(In::BirthPlace), row.Ref(In::DeathPlace),
+                                                       row.Ref(In::MarrPlace)};
+                const int preferred =
+                    formatter.PreferredPlace({places[0].IsEmpty(), places[1].IsEmpty(), places[2].IsEmpty()});
+                const TextView place =
+                    preferred < 0 ? TextView() : store.Get(places[static_cast<std::size_t>(preferred)]);
+                const auto [known, isNew] = formatted.try_emplace(place);
+                if (isNew) known->second = store.Intern(formatter.Take1Place(place));
+                return known->second;
+            };
+            for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
+                Row row = app.lvwIn.Item(i);
+                const TextView dateMin =
+                    TakeDateMin(row.Cell(In::BirthMin), row.Cell(In::DeathMin), row.Cell(In::MarrMin));
+                const TextView dateMax =
+                    TakeDateMax(row.Cell(In::BirthMax), row.Cell(In::DeathMax), row.Cell(In::MarrMax));
+                row.SetCell(In::DateMin, store.Intern(dateMin));
+                row.SetCell(In::DateMax, store.Intern(dateMax));
+                row.SetCell(In::Place, takePlace(row));
+                SetMaxLen(row, app.lMaxLenIn);
+            }
+        },
+        [] { return Text(); });
+}
+
+}  // namespace swiftroll::modReadGedcom

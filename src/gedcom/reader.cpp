@@ -1,0 +1,110 @@
+#include "gedcom/reader.h"
+
+#include "gedcom/families.h"
+#include "gedcom/islands.h"
+#include "gedcom/places.h"
+#include "gedcom/record_reader.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modReadGedcom {
+
+void Reader::ProcessGedcom() {
+    const char* stage = "InitIndexes";
+    std::int16_t counter = 0;
+    app_.trail.GuardElse(
+        "ProcessGedcom",
+        [&] {
+            Prepare(stage, counter);
+            ReadLines();
+        },
+        [&] {
+            app_.trail.ErrorLog(Concat({stage, "/", Decimal(counter), "/", TrimRight(lines.sLine)}));
+            throw ProgramEnd{};
+        });
+}
+
+void Reader::Prepare(const char*& stage, std::int16_t& counter) {
+    app_.bWaitCursor = true;
+    app_.ProgressBar1.Set(0);
+    app_.InitIndexes();
+    lines.ResetRecords();
+    colXrefRange = std::make_unique<XrefRanges>();
+    stage = "LvwSort";
+    for (Table* table : {&app_.lvwIn, &app_.lvwFamily, &app_.lvwXref, &app_.lvwFamilyXref, &app_.lvwKinship}) {
+        table->SetSorted(false);
+        table->Clear();
+    }
+    for (counter = 1; counter <= kMaxColumns; ++counter) app_.lMaxLenIn[counter] = 0;
+    stage = "ReadLines";
+}
+
+void Reader::ReadLines() {
+    Links links(app_);
+    RecordReader records(app_, lines, links);
+    std::int32_t result = lines.Read1Line();
+    // What follows a record is the current line already; every other line is passed over one by one.
+    while (result == 0 && !app_.bAbort) {
+        app_.ports.events.Yield();
+        if (lines.iLevel > lines.iBaseLevel + 1) {
+            result = SkipDeeperLines();
+            continue;
+        }
+        lines.iBaseLevel = lines.iLevel;
+        if (lines.iLevel == 0 && lines.sTag == "INDI") {
+            result = records.ReadIndividual();
+        } else if (lines.iLevel == 0 && lines.sTag == "FAM" && app_.chkProcFamilies.Checked()) {
+            result = records.ReadFamilyRecord();
+        } else {
+            if (lines.iLevel == 1 && lines.sTag == "CHAR" && !AcceptCharset()) break;
+            result = lines.Read1Line();
+        }
+    }
+    Finish(links);
+}
+
+std::int32_t Reader::SkipDeeperLines() {
+    std::int32_t result = 0;
+    while (result == 0 && lines.iLevel > lines.iBaseLevel + 1 && !app_.bAbort) {
+        app_.ports.events.Yield();
+        result = lines.Read1Line();
+    }
+    return result;
+}
+
+bool Reader::AcceptCharset() {
+    if (lines.sValue == "ASCII" || lines.sValue == "ANSI") return true;
+    const BoxAnswer answer =
+        app_.Box(" - Charset"_t, Concat({lines.sValue, " : Jeu de caractères non supporté"_t}), BoxButtons::OkCancel,
+                 BoxIcon::Exclamation, BoxTopic::Charset);
+    if (answer != BoxAnswer::Cancel) return true;
+    app_.bAbort = true;
+    return false;
+}
+
+void Reader::Finish(Links& links) {
+    app_.pnlLines.Set(Concat({"Ligne(s) GEDCOM : "_t, Decimal(std::int64_t{lines.lNrLines} + 1)}));
+    app_.ProgressBar1.Set(100);
+    app_.pnlIndividuals.Set(Concat({Decimal(lines.lNrNames), " Individu(s)"_t}));
+    if (!app_.bAbort) {
+        ReadFamily(links);
+        colXrefRange = CalcXrefIds(app_, app_.lvwXref, 0);
+        CalcIslands(app_, *colXrefRange);
+        app_.pnlMessage.Set("Lecture terminée"_t);
+        SetInDates(app_);
+    }
+    app_.chkInvertNames.SetChecked(false);
+    app_.chkUpperNames.SetChecked(false);
+    app_.bWaitCursor = false;
+}
+
+void Reader::ReadFamily(Links& links) {
+    if (!app_.chkProcFamilies.Checked() || app_.bAbort) return;
+    XrefFamily(app_, links);
+    CopyFamilyXref2Xref(app_, links);
+    app_.bFamiliesRead = true;
+    if (OnFamiliesRead) OnFamiliesRead();
+}
+
+}  // namespace swiftroll::modReadGedcom

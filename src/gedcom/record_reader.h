@@ -1,0 +1,58 @@
+#pragma once
+
+#include <vector>
+
+#include "gedcom/dates.h"
+#include "gedcom/line_reader.h"
+#include "gedcom/links.h"
+
+namespace swiftroll::modReadGedcom {
+
+/// The names of a NAME value: given names, surname between slashes, suffix.
+struct PersonNames {
+    Text sLastName;
+    Text sFirstName;
+};
+PersonNames SplitName(TextView sValue);
+
+/// Turns the lines of one record into rows. The current line is the record's level-0 line before, and the line
+/// that ended the record after. One is made for each read.
+class RecordReader {
+  public:
+    RecordReader(Application& app, LineReader& lines, Links& links);
+
+    /// Adds the individual to `lvwIn`, its families to `lvwFamilyXref`, its aliases to `lvwXref`. Gives the
+    /// result of the last Read1Line, as the next one does.
+    std::int32_t ReadIndividual();
+    /// Adds the members to `lvwFamilyXref` and the family to `lvwFamily`.
+    std::int32_t ReadFamilyRecord();
+
+  private:
+    enum class Event { None, Birth, Death };
+    struct Individual {
+        TextRef lastName, firstName, sex;
+        TextRef birthPlace, deathPlace;
+        Years birth, death;
+        Event event = Event::None;
+    };
+
+    void ReadIndividualLine(Individual& individual);
+    void ReadName(Individual& individual);
+    void AddAlias(TextRef other);
+    void AddMember(TextRef type, TextRef sex);
+    void ReadFamilyEvent(TextRef& place, Years& years);
+    TextRef UsedXref() const;
+    TextRef Place() const;
+    TextRef YearText(std::int32_t year, std::int32_t none);
+    Text CurrentRange() const;
+
+    Application& app_;
+    LineReader& lines_;
+    Links& links_;
+    TextStore& store_;
+    std::int32_t lNrRows_ = 0;
+    TextRef sCurId_;
+    std::vector<TextRef> yearTexts_;  // by year
+};
+
+}  // namespace swiftroll::modReadGedcom

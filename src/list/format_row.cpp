@@ -1,0 +1,75 @@
+#include "list/format_row.h"
+
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modCalcOut {
+
+RowFormatter::RowFormatter(Application& app) : app_(app), table_(*app.lvwActiveListView) {
+    app_.trail.Guard(
+        "InitListItem",
+        [&] {
+            app_.InitIndexes();
+            Widths* widths = WidthsOf(table_);
+            if (widths == nullptr) {
+                app_.Box(" - InitListItem"_t, Concat({"'Y a comme un problème ("_t, table_.Name(), ")", kLineEnd,
+                                                      "Merci de me prévenir immédiatement "_t}));
+                return;
+            }
+            lastPosition_ = &table_ == &app_.lvwOut ? app_.positions.iPosNumber : table_.ColumnCount();
+            for (const Column& column : table_.Columns()) {
+                if (!app_.chkIncludeHeaders.Checked() || column.Position > lastPosition_) continue;
+                std::int32_t& width = (*widths)[column.Index];
+                width = std::max(width, static_cast<std::int32_t>(column.Caption.size()));
+            }
+            lActiveMaxLen_ = *widths;
+        },
+        [] { return Text(); });
+}
+
+Widths* RowFormatter::WidthsOf(const Table& table) const {
+    if (&table == &app_.lvwIn) return &app_.lMaxLenIn;
+    if (&table == &app_.lvwOut) return &app_.lMaxLenOut;
+    if (&table == &app_.lvwXref) return &app_.lMaxLenXref;
+    if (&table == &app_.lvwFamily) return &app_.lMaxLenFamily;
+    if (&table == &app_.lvwFamilyXref) return &app_.lMaxLenFamilyXref;
+    if (&table == &app_.lvwKinship) return &app_.lMaxLenKinship;
+    return nullptr;
+}
+
+template <class CellOf>
+Text RowFormatter::Format(bool bTabs, const CellOf& cellOf) const {
+    std::int16_t position = 1;
+    return app_.trail.Guard(
+        "FormatListItem",
+        [&] {
+            Text sRowText;
+            for (; position <= lastPosition_; ++position) {
+                const std::int16_t index = app_.positions.Of(table_).iColAtPos[position];
+                const Column& column = table_.ColumnAt(index);
+                if (!column.IsOn()) continue;
+                const auto width = static_cast<std::size_t>(lActiveMaxLen_[index]);
+                Text sCell(cellOf(column));
+                if (&table_ == &app_.lvwOut && index == Out::Number) sCell = AlignRight(sCell, width);
+                if (!bTabs && sCell.size() > width + 1) throw Failure(FailureKind::InvalidArgument);
+                sRowText += bTabs ? sCell + '\t' : PadRight(sCell, width + 1);
+            }
+            if (bTabs && !sRowText.empty()) sRowText.pop_back();
+            return sRowText;
+        },
+        [&] {
+            return Concat({Decimal(position), "/lvwActiveListView=", table_.Name(), "/", bTabs ? "-1" : "0"});
+        });
+}
+
+Text RowFormatter::FormatListItem(const Row& row, bool bTabs) const {
+    return Format(bTabs, [&](const Column& column) { return row.Cell(column.Index); });
+}
+
+Text RowFormatter::FormatHeaders(bool bTabs) const {
+    return Format(bTabs, [](const Column& column) { return TextView(column.Caption); });
+}
+
+}  // namespace swiftroll::modCalcOut

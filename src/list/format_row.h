@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/application.h"
+
+namespace swiftroll::modCalcOut {
+
+/// Renders rows of a table as lines of text for the clipboard and for drag and drop.
+class RowFormatter {
+  public:
+    /// Prepares for the rows of `lvwActiveListView` (`InitListItem`): refreshes the position tables and, when
+    /// headers are included, widens the columns to their captions. A table that is none of the six is told in
+    /// a box.
+    explicit RowFormatter(Application& app);
+
+    /// The line of a row, without line end: its cells in the order of the columns that are switched on, those of
+    /// `lvwOut` up to `Number`. With `bTabs` tabs stand between them, else every column is padded to its width
+    /// and a blank. A failure, such as a cell wider than its column, is reported and gives the empty text.
+    Text FormatListItem(const Row& row, bool bTabs) const;
+    /// The line of the captions.
+    Text FormatHeaders(bool bTabs) const;
+
+  private:
+    template <class CellOf>
+    Text Format(bool bTabs, const CellOf& cellOf) const;
+    Widths* WidthsOf(const Table& table) const;
+
+    Application& app_;
+    Table& table_;
+    std::int16_t lastPosition_ = 0;
+    Widths lActiveMaxLen_;
+};
+
+}  // namespace swiftroll::modCalcOut

@@ -1,0 +1,94 @@
+#include "list/sort_keys.h"
+
+#include "tables/column_icon.h"
+#include "text/edit.h"
+#include "text/fold.h"
+#include "text/literal.h"
+
+namespace swiftroll::modCalcOut {
+namespace {
+
+constexpr std::size_t kNumberWidth = 30;
+
+Text MakeSortKey(const Positions& positions, const PerColumn<std::int16_t>& keyColumns, const Row& row) {
+    Text sKey;
+    for (std::int16_t position = 1; position <= positions.iPosNumber; ++position) {
+        const std::int16_t column = keyColumns[position];
+        if (column < 0) continue;
+        sKey += '\\';
+        AppendComparisonForm(sKey, row.Cell(column));
+    }
+    return sKey;
+}
+
+Text FormOf(const Application& app, SortMode iMode, const Row& row, std::int16_t column) {
+    switch (iMode) {
+        case SortMode::Number:
+            return AlignRight(row.Cell(column), kNumberWidth);
+        case SortMode::GroupKey:
+            return MakeSortKeyIn(app.positions, row);
+        case SortMode::Folded:
+            break;
+    }
+    return ComparisonForm(row.Cell(column));
+}
+
+}  // namespace
+
+Text KeepAlphaNum(const OptionRecord& options, TextView sText, bool bForce) {
+    if (bForce) return ComparisonForm(sText);
+    Text out = options.chkDelAccents.Checked() ? FoldAccents(sText) : Text(sText);
+    return options.chkIgnoreCase.Checked() ? UpperCase(out) : out;
+}
+
+Text MakeSortKeyIn(const Positions& positions, const Row& row) {
+    return MakeSortKey(positions, positions.iKeyColIn, row);
+}
+
+Text MakeSortKeyOut(const Positions& positions, const Row& row) {
+    return MakeSortKey(positions, positions.iKeyColOut, row);
+}
+
+void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
+    app.bTablesLocked = true;
+    // The forms stand aside, one behind the other, for the length of the sort.
+    TextStore formStore;
+    std::vector<TextView> forms;
+    forms.reserve(static_cast<std::size_t>(table.Count()));
+    for (std::int32_t i = 1; i <= table.Count(); ++i) {
+        forms.push_back(formStore.Get(formStore.Put(FormOf(app, iMode, table.Item(i), column.Index))));
+    }
+    const bool wasSorted = table.Sorted();
+    const bool toggles = iMode != SortMode::GroupKey;
+    const bool descending = toggles && wasSorted && table.SortOrder() != 1;
+    table.SortByForms(forms, static_cast<std::int16_t>(toggles ? column.Index - 1 : 0), descending ? 1 : 0);
+    if (toggles) SetColumnIcon(table, column, true);
+    app.bTablesLocked = false;
+}
+
+void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown) {
+    app.trail.Guard(
+        "lvw_ColumnClick",
+        [&] {
+            if (!shiftIsDown) {
+                const TextView key = column.Key;
+                const bool numeric = key.ends_with("Max") || key.ends_with("Min") || key.starts_with("Num") ||
+                                     key.starts_with("ID");
+                SortTable(app, numeric ? SortMode::Number : SortMode::Folded, table, column);
+                return;
+            }
+            if (&table == &app.lvwOut) return;
+            column.Icon.replace(0, 2, column.IsOn() ? "Of" : "On");
+            SetColumnIcon(table, column, false);
+            for (const Column& other : table.Columns()) {
+                if (other.IsOn()) return;
+            }
+            app.Box(" - Sélection Colonnes"_t,
+                    Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
+                            "puisqu'aucune colonne n'est sélectionnée"_t}),
+                    BoxButtons::Ok, BoxIcon::Exclamation);
+        },
+        [] { return Text(); });
+}
+
+}  // namespace swiftroll::modCalcOut

@@ -1,0 +1,117 @@
+#include "shell/frm_main.h"
+
+#include "app/french_date.h"
+#include "gedcom/places.h"
+#include "list/calc_output.h"
+#include "shell/file_names.h"
+#include "tables/column_icon.h"
+#include "text/edit.h"
+#include "text/literal.h"
+
+namespace swiftroll {
+
+frmMain::frmMain(const Ports& applicationPorts)
+    : Application(applicationPorts),
+      cmdLoad(*this, {"cmdLoad", "Lire Tout"_t, "Lit le fichier GEDCOM spécifié."_t}),
+      mnuReadGedCom(*this, {"mnuReadGedCom", "Lire GedCom"_t}, "Ctrl+O"),
+      cmdRecalcIn(*this,
+                  {"cmdRecalcIn", "ReCalcule Lieu && Dates Min/Max dans \"Entrée\""_t,
+                   "Recalcule les colonnes \"Lieu\"  det \"Date Min/Max\" dans le liste \"Entrée\""_t}),
+      cmdCalcOutput(*this, {"cmdCalcOutput", "Recalcul Sortie"_t}, "F5"),
+      mnuRecalcOut(*this, {"mnuRecalcOut", "Recalcul Sortie"_t}, "F5"),
+      cmdSaveSwift(*this, {"cmdSaveSwift", "Ecrire en HTML"_t}),
+      mnuSaveSwift(*this, {"mnuSaveSwift", "Ecrire Relevé-vif"_t}, "Ctrl+L"),
+      cmdCopyGedIn2SwiftOut(*this, {"cmdCopyGedIn2SwiftOut", "V"}),
+      mnuCopyGedIn2SwiftOut(*this, {"mnuCopyGedIn2SwiftOut", "Génère Nom du Fichier Relevé-vif en Sortie"_t}),
+      cmdSelectDirGedIn(*this, {"cmdSelectDirGedIn", "..."}),
+      cmdSelectDirSwiftOut(*this, {"cmdSelectDirSwiftOut", "..."}),
+      cmdSelectDirModel(*this, {"cmdSelectDirModel", "..."}),
+      cmdFindPath(*this,
+                  {"cmdFindPath", "Rech. Parenté"_t,
+                   "Recherche la parenté entre les 2 individus sélectionnés dans la liste en entrée."_t},
+                  {}, false),
+      mnuFindPath(*this, {"mnuFindPath", "Recherche Parenté"_t}, {}, false),
+      cmdSaveGed(*this, {"cmdSaveGed", "Ecrire"_t}, {}, false),
+      mnuDrawKinship(*this, {"mnuDrawKinship"}, {}, false),
+      cmdDrawKinship(*this, {"cmdDrawKinship", "Ecrire Toutes +"_t}, {}, false),
+      cmdCopyTitle2kinship(*this, {"cmdCopyTitle2kinship", ">"}, {}, false),
+      cmdPrintKinship(*this, {"cmdPrintKinship"}, {}, false),
+      modReadGedcom(*this) {
+    BindReading();
+    BindWriting();
+    BindFiles();
+    BindOptionRules();
+}
+
+void frmMain::Form_Load(TextView sCommandLine) {
+    const char* step = "";
+    trail.GuardElse(
+        "Form_Load",
+        [&] {
+            bStarting = true;
+            InitPaths();
+            step = "InitMisc";
+            for (Panel* panel : {&pnlLines, &pnlIndividuals, &pnlFamilies}) panel->Set("");
+            pnlMessage.Set("=> N'oubliez pas de consulter la disponibilité de mises-à-jour via le menu "
+                           "\"Aide / Vérifier...\""_t);
+            step = "GetAllControls";
+            const Moment now = ports.clock.Now();
+            sRunStart = Concat({ShortDate(now), " ", LongTime(now)});
+            SetAllColumnIcons(*this);
+            cboLoad.SetListIndex(chkProcFamilies.Checked() ? 0 : 1);
+            bFormLoading = true;  // no file name follows the format yet
+            optOutExtension_Click(optOutExtension.Index());
+            bFormLoading = false;
+            cmdSaveSwift.Caption = cboSaveSwift.Get();
+            step = "InitCombos";
+            InitCombos();
+            cboDrawKinship.SetListIndex(3);
+            InitIndexes();
+            step = "EndInit";
+            const Text file(Trim(ReplaceAll(sCommandLine, "\"", "")));
+            if (!file.empty()) {
+                cboGedIn.SetText(file);
+                FileCombo_LostFocus(cboGedIn);
+            }
+            bStarting = false;
+        },
+        [&] {
+            trail.ErrorLog(Concat({step, "/0/", cboGedIn.Get(), "/", cboFileModel.Get(), "/", cboKinship.Get()}));
+            throw ProgramEnd{};
+        });
+}
+
+void frmMain::InitPaths() {
+    sUserAppData = ports.folders.UserData();
+    if (sUserAppData.empty()) {
+        sUserAppData = ports.folders.Temporary();
+    } else {
+        sUserAppData = PathOf(sUserAppData, sProduct);
+        ports.folders.Create(sUserAppData);
+    }
+    sUserMyDocuments = ports.folders.UserDocuments();
+    if (sUserMyDocuments.empty()) sUserMyDocuments = ports.folders.Program();
+    sHelpFile = PathOf(ports.folders.Program(), Concat({sProduct, ".chm"}));
+}
+
+void frmMain::InitCombos() {
+    if (cboGedIn.Get().empty()) cboGedIn.SetText(PathOf(sUserMyDocuments, ".ged"));
+    if (cboGedOut.Get().empty()) cboGedOut.SetText(PathOf(sUserMyDocuments, ".Extrait.ged"));
+    if (cboSwiftOut.Get().empty() || cboSwiftOut.Get().starts_with('.')) cmdCopyGedIn2SwiftOut_Click();
+    if (cboFileModel.Get().empty()) {
+        cboFileModel.SetText(PathOf(ports.folders.Models(), "SwiftRoll.Modele.html"));
+    }
+    if (cboKinship.Get().empty()) {
+        cboKinship.SetText(PathOf(sUserMyDocuments, "Kinship"));
+        ChangeKinshipExtension();
+    }
+}
+
+void frmMain::ShowTab(Tab tab) {
+    SSTab1 = tab;
+    Table* const tables[] = {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
+    const auto number = static_cast<std::size_t>(tab);
+    if (number < std::size(tables)) lvwActiveListView = tables[number];
+}
+
+}  // namespace swiftroll

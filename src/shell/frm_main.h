@@ -1,0 +1,83 @@
+#pragma once
+
+#include "app/application.h"
+#include "gedcom/reader.h"
+
+namespace swiftroll {
+
+/// The main window without a screen: owner of all tables, options and commands. Loading it starts the
+/// application. A window, the headless program and the tests are presentations that set its controls and click
+/// its commands.
+class frmMain : public Application {
+  public:
+    explicit frmMain(const Ports& applicationPorts);
+
+    /// Starts the application; `sCommandLine` is the file to put in `cboGedIn`, quotes allowed, or empty.
+    /// @throws ProgramEnd after the report of a failure
+    void Form_Load(TextView sCommandLine);
+
+    // Reading
+    Command cmdLoad, mnuReadGedCom;
+    Command cmdRecalcIn;
+    // The list
+    Command cmdCalcOutput, mnuRecalcOut;
+    Command cmdSaveSwift, mnuSaveSwift;
+    Command cmdCopyGedIn2SwiftOut, mnuCopyGedIn2SwiftOut;
+    // Files
+    Command cmdSelectDirGedIn, cmdSelectDirSwiftOut, cmdSelectDirModel;
+    // Commands that depend on what was read
+    Command cmdFindPath, mnuFindPath, cmdSaveGed;
+    Command mnuDrawKinship, cmdDrawKinship, cmdCopyTitle2kinship, cmdPrintKinship;
+
+    /// Goes to a tab and gives its table the focus.
+    void ShowTab(Tab tab);
+    /// The last file written is whole; false when a step of an XML file failed, which no box tells.
+    bool bWriteComplete = true;
+    /// What the last read knows beside the tables.
+    modReadGedcom::Reader modReadGedcom;
+
+  private:
+    void BindReading();
+    void BindWriting();
+    void BindFiles();
+    void BindOptionRules();
+
+    void InitPaths();
+    void InitCombos();
+
+    void cmdLoad_Click();
+    void ReadFile();
+    void cboLoad_Click();
+    void chkProcFamilies_Click();
+    void EnableFamilyCommands(bool enabled);
+    void DisableKinshipCommands();
+
+    void cmdCalcOutput_Click();
+    void cmdSaveSwift_Click();
+    void WriteSwiftFile(bool bSelectedOnly);
+    bool ModelIsMissing(TextView sFile);
+    void optOutExtension_Click(int Index);
+    void cboSaveSwift_Click();
+    void chkGenerXSL_Click();
+    void txtOutExtension_LostFocus(int Index);
+    void ChangeSwiftOutExtension();
+    void ChangeModelExtension();
+    void ChangeKinshipExtension();
+    void cmdCopyGedIn2SwiftOut_Click();
+
+    struct FileRole {
+        TextView title, filterName;
+        Text extension;
+    };
+    bool GetFile(ComboBox& combo, bool bSave, const FileRole& role);
+    bool MayOverwrite(TextView sFile, BoxAnswer& answer);
+    void SelectFile(ComboBox& combo, bool bSave, const FileRole& role);
+    bool CheckFileCbo(ComboBox& cbo);
+    void FileCombo_LostFocus(ComboBox& cbo);
+    const Text& OutExtension() const;
+    const Text& ModelExtension() const;
+
+    Text sPrevFile_;
+};
+
+}  // namespace swiftroll

@@ -1,0 +1,36 @@
+// Small rules of single options.
+#include "shell/frm_main.h"
+#include "text/edit.h"
+#include "text/numbers.h"
+
+namespace swiftroll {
+namespace {
+
+constexpr TextView kDefaultLimit = "50";
+
+/// A limit is a number of at least 1; what is no number gives way to the default while the limit is in force.
+void CheckLimit(const CheckBox& check, TextBox& limit) {
+    const auto number = ParseDecimal(limit.Get());
+    if (number && *number < 1) limit.SetText("1");
+    if (!number && check.Checked()) limit.SetText(kDefaultLimit);
+    limit.SetText(Text(Trim(limit.Get())));
+}
+
+}  // namespace
+
+void frmMain::BindOptionRules() {
+    txtINDEX.OnLostFocus = [this] {
+        const Text& text = txtINDEX.Get();
+        if (text > "9" || text < "0") txtINDEX.SetText("1");
+    };
+    const auto bindLimit = [](CheckBox& check, TextBox& limit) {
+        limit.OnLostFocus = [&] { CheckLimit(check, limit); };
+        check.OnClick = [&] {
+            if (check.Checked() && limit.Get().empty()) limit.SetText(kDefaultLimit);
+        };
+    };
+    bindLimit(chkMaxLinks, txtMaxLinks);
+    bindLimit(chkMaxSpouses, txtMaxSpouses);
+}
+
+}  // namespace swiftroll

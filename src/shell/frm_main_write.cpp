@@ -1,0 +1,141 @@
+// The command that writes the Relevé-vif, and how the names of its files follow its format.
+#include "shell/file_names.h"
+#include "shell/frm_main.h"
+#include "shell/history.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "writers/write_model.h"
+#include "writers/xml.h"
+
+namespace swiftroll {
+
+using modGenFileFromModel::OutFormat;
+
+namespace {
+
+constexpr int kHtml = 0, kText = 1, kXml = 2;
+
+}  // namespace
+
+void frmMain::BindWriting() {
+    cmdSaveSwift.Operation = mnuSaveSwift.Operation = [this] { cmdSaveSwift_Click(); };
+    cboSaveSwift.OnClick = [this] { cboSaveSwift_Click(); };
+    optOutExtension.OnClick = [this] { optOutExtension_Click(optOutExtension.Index()); };
+    chkGenerXSL.OnClick = [this] { chkGenerXSL_Click(); };
+    for (int i = 0; i < 3; ++i) {
+        txtOutExtension[static_cast<std::size_t>(i)].OnLostFocus = [this, i] { txtOutExtension_LostFocus(i); };
+    }
+    cmdCopyGedIn2SwiftOut.Operation = mnuCopyGedIn2SwiftOut.Operation = [this] { cmdCopyGedIn2SwiftOut_Click(); };
+}
+
+void frmMain::cmdSaveSwift_Click() {
+    trail.Guard(
+        "cmdSaveSwift_Click",
+        [this] {
+            const BoxAnswer answer =
+                Box(" - Création Relevé-vif"_t,
+                    Concat({"Voulez-vous TOUT sortir, ou uniquement les lignes sélectionnées ?"_t, kLineEnd, kLineEnd,
+                            "Oui = Toutes les lignes"_t, kLineEnd, "Non = Uniquement les lignes sélectionnées"_t}),
+                    BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::WriteAllRows);
+            if (answer == BoxAnswer::Cancel) return;
+            cmdSelectDirSwiftOut.Click();
+            if (!bDialogCancelled) WriteSwiftFile(answer == BoxAnswer::No);
+        },
+        [this] { return Concat({cboSwiftOut.Get(), "/", cboFileModel.Get()}); });
+}
+
+void frmMain::WriteSwiftFile(bool bSelectedOnly) {
+    const int format = cboSaveSwift.ListIndex();
+    const Text out = cboSwiftOut.Get(), model = cboFileModel.Get();
+    const auto write = [&](TextView file, OutFormat as, TextView sEmptyCell) {
+        modGenFileFromModel::WriteFileFromModel(*this, modReadGedcom.lines, file, model, as, bSelectedOnly,
+                                                sEmptyCell);
+    };
+    bWriteComplete = true;
+    const bool needsModel = format != kXml || chkGenerXSL.Checked();
+    if (needsModel && ModelIsMissing(model)) return;
+    if (format == kHtml) write(out, OutFormat::Html, "&nbsp;");
+    if (format == kText) write(out, OutFormat::Text, " ");
+    if (format != kXml) return;
+    Text sXslFile;
+    if (chkGenerXSL.Checked()) {
+        sXslFile = modCommon::ChangeExtension(out, txtModelExtension[kXml].Get());
+        write(sXslFile, OutFormat::Xsl, "<xsl:text>&#xA0;</xsl:text>");
+    }
+    bWriteComplete = modGenFileFromModel::WriteXML(*this, out, FileNamePart(sXslFile), bSelectedOnly);
+}
+
+bool frmMain::ModelIsMissing(TextView sFile) {
+    if (ports.files.Exists(sFile)) return false;
+    Box(" - NoModel"_t, Concat({"Le fichier modèle"_t, kLineEnd, sFile, kLineEnd, "n'existe pas."_t}));
+    return true;
+}
+
+void frmMain::optOutExtension_Click(int Index) {
+    iOutFormat = Index;
+    lblModel.Caption = "Fichier modèle "_t;
+    lblOut.Caption = "Sortie Relevé-vif"_t;
+    if (Index == kHtml) lblModel.Caption += "HTML";
+    if (Index == kText) lblModel.Caption += "Texte";
+    if (Index == kXml && chkGenerXSL.Checked()) {
+        lblModel.Caption += " XSL";
+        lblOut.Caption += " + XSL";
+    }
+    txtINDEX.Enabled = Index != kText;
+    chkGenerXSL.Enabled = Index == kXml;
+    if (cboSaveSwift.ListIndex() != Index) cboSaveSwift.SetListIndex(Index);
+    if (bFormLoading) return;
+    ChangeSwiftOutExtension();
+    FileCombo_LostFocus(cboSwiftOut);
+    ChangeKinshipExtension();
+    FileCombo_LostFocus(cboKinship);
+    ChangeModelExtension();
+    FileCombo_LostFocus(cboFileModel);
+}
+
+void frmMain::cboSaveSwift_Click() {
+    if (bFormLoading) return;
+    cmdSaveSwift.Caption = cboSaveSwift.Get();
+    optOutExtension.SetIndex(cboSaveSwift.ListIndex());
+}
+
+void frmMain::chkGenerXSL_Click() {
+    txtModelExtension[kXml].Enabled = chkGenerXSL.Checked();
+    optOutExtension_Click(kXml);
+}
+
+void frmMain::txtOutExtension_LostFocus(int Index) {
+    constexpr TextView kStandard[] = {"html", "txt", "xml"};
+    TextBox& field = txtOutExtension[static_cast<std::size_t>(Index)];
+    if (field.Get().empty()) field.SetText(kStandard[Index]);
+    optOutExtension_Click(Index);
+}
+
+const Text& frmMain::OutExtension() const {
+    return txtOutExtension[static_cast<std::size_t>(optOutExtension.Index())].Get();
+}
+
+const Text& frmMain::ModelExtension() const {
+    return txtModelExtension[static_cast<std::size_t>(optOutExtension.Index())].Get();
+}
+
+void frmMain::ChangeSwiftOutExtension() {
+    const Text name = cboSwiftOut.Get().empty() ? cboGedIn.Get() : cboSwiftOut.Get();
+    cboSwiftOut.SetText(modCommon::ChangeExtension(name, OutExtension()));
+}
+
+void frmMain::ChangeModelExtension() {
+    cboFileModel.SetText(modCommon::ChangeExtension(cboFileModel.Get(), ModelExtension()));
+}
+
+void frmMain::ChangeKinshipExtension() {
+    cboKinship.SetText(modCommon::ChangeExtension(cboKinship.Get(), txtOutExtension[kHtml].Get()));
+}
+
+void frmMain::cmdCopyGedIn2SwiftOut_Click() {
+    cboSwiftOut.SetText("");
+    ChangeSwiftOutExtension();
+    FileCombo_LostFocus(cboSwiftOut);
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "app/controls.h"
+
+namespace swiftroll::modCommon {
+
+/// Puts the trimmed text of a combo on top of its history, of ten names at most that differ by more than case,
+/// and picks it. An empty text changes nothing.
+void cboAdd(ComboBox& cbo);
+
+}  // namespace swiftroll::modCommon

@@ -1,0 +1,150 @@
+#include "tables/schema.h"
+
+#include "text/literal.h"
+
+namespace swiftroll {
+namespace {
+
+struct ColumnSpec {
+    TextView key;
+    TextView caption;
+    Alignment align = Alignment::Left;
+};
+
+std::vector<Column> MakeColumns(std::initializer_list<ColumnSpec> specs) {
+    std::vector<Column> columns;
+    for (const ColumnSpec& spec : specs) {
+        Column column;
+        column.Index = column.Position = static_cast<std::int16_t>(columns.size() + 1);
+        column.Key = spec.key;
+        column.Caption = spec.caption;
+        column.Align = spec.align;
+        columns.push_back(std::move(column));
+    }
+    return columns;
+}
+
+std::vector<Column> InColumns() {
+    return MakeColumns({{"ID", "ID"_t},
+                        {"LastName", "Nom"_t},
+                        {"FirstName", "Prénom"_t},
+                        {"BirthPlace", "Naiss.Lieu"_t},
+                        {"BirthMin", "Naiss.Min"_t},
+                        {"BirthMax", "Naiss.Max"_t},
+                        {"DeathPlace", "Décès.Lieu"_t},
+                        {"DeathMin", "Décès.Min"_t},
+                        {"DeathMax", "Décès.Max"_t},
+                        {"Place", "Lieu"_t},
+                        {"DateMin", "Date Min"_t},
+                        {"DateMax", "Date Max"_t},
+                        {"Sex", "Sexe"_t},
+                        {"MarrPlace", "Mar.Lieu"_t},
+                        {"MarrMin", "Mar.Min"_t},
+                        {"MarrMax", "Mar.Max"_t},
+                        {"IslandNr", "N° d'îlot"_t}});
+}
+
+std::vector<Column> OutColumns() {
+    return MakeColumns({{"ID", "ID"_t},
+                        {"LastName", "Nom"_t},
+                        {"Number", "Nbre"_t, Alignment::Right},
+                        {"Place", "Lieu"_t},
+                        {"DateMin", "Date Min"_t},
+                        {"DateMax", "Date Max"_t},
+                        {"FirstName", "Prénom"_t},
+                        {"BirthPlace", "Naiss.Lieu"_t},
+                        {"BirthMin", "Naiss.Min"_t},
+                        {"BirthMax", "Naiss.Max"_t},
+                        {"DeathPlace", "Décès.Lieu"_t},
+                        {"DeathMin", "Décès.Min"_t},
+                        {"DeathMax", "Décès.Max"_t},
+                        {"MarrPlace", "Mar. Lieu"_t},
+                        {"MarrMin", "Mar.Min"_t},
+                        {"MarrMax", "Mar.Max"_t},
+                        {"Sex", "Sexe"_t},
+                        {"IslandNr", "N° d'îlot"_t}});
+}
+
+std::vector<Column> XrefColumns() {
+    return MakeColumns({{"IDIndi1", "ID Individu 1"_t},
+                        {"Type", "Type"_t},
+                        {"IDIndi2", "ID Individu 2"_t},
+                        {"Indi1", "Individu 1"_t},
+                        {"Indi2", "Individu 2"_t},
+                        {"IDFamily", "ID Famille"_t},
+                        {"Family", "Famille"_t}});
+}
+
+std::vector<Column> Xref1Columns() {
+    return MakeColumns({{"Indi1", "Individu 1"_t},
+                        {"Type", "Type"_t},
+                        {"Indi2", "Individu 2"_t},
+                        {"IDFamily", "ID Famille"_t},
+                        {"Family", "Famille"_t}});
+}
+
+std::vector<Column> FamilyColumns() {
+    return MakeColumns({{"IDFam", "ID Famille"_t},
+                        {"IDHusb", "ID Epoux"_t},
+                        {"IDWife", "ID Epouse"_t},
+                        {"IDFams", "ID Conjoint"_t},
+                        {"MarrPlace", "Marr.Lieu"_t},
+                        {"MarrMin", "Marr.Min"_t},
+                        {"MarrMax", "Marr.Max"_t},
+                        {"Fam", "Famille"_t},
+                        {"Husb", "Epoux"_t},
+                        {"Wife", "Epouse"_t},
+                        {"Fams", "Conjoint"_t}});
+}
+
+std::vector<Column> FamilyXrefColumns() {
+    return MakeColumns({{"IDFam", "ID Famille"_t},
+                        {"Type", "Type"_t},
+                        {"IDIndi", "ID Individu"_t},
+                        {"Sex", "Sexe"_t},
+                        {"Family", "Famille"_t},
+                        {"Indi", "Individu"_t}});
+}
+
+std::vector<Column> KinshipColumns() {
+    return MakeColumns({{"SeqNr", "N° Séq"_t},
+                        {"IDIndi", "ID Individu"_t},
+                        {"Indi", "Individu"_t},
+                        {"Type", "Type"_t, Alignment::Centre},
+                        {"IDFamily", "ID Famille"_t},
+                        {"Family", "Famille"_t},
+                        {"NrSpouses", "Conjoints"_t, Alignment::Centre},
+                        {"NrLink", "Liaisons"_t, Alignment::Centre}});
+}
+
+std::shared_ptr<StoreGroup> OwnGroup() {
+    return std::make_shared<StoreGroup>();
+}
+
+}  // namespace
+
+TableSet::TableSet()
+    : lvwIn("lvwIn", InColumns(), readGroup_),
+      lvwOut("lvwOut", OutColumns(), OwnGroup()),
+      lvwXref("lvwXref", XrefColumns(), readGroup_),
+      lvwXref1("lvwXref1", Xref1Columns(), OwnGroup()),
+      lvwFamily("lvwFamily", FamilyColumns(), readGroup_),
+      lvwFamilyXref("lvwFamilyXref", FamilyXrefColumns(), readGroup_),
+      lvwKinship("lvwKinship", KinshipColumns(), OwnGroup()) {}
+
+std::vector<Table*> TableSet::All() {
+    return {&lvwIn, &lvwOut, &lvwXref, &lvwXref1, &lvwFamily, &lvwFamilyXref, &lvwKinship};
+}
+
+std::vector<Table*> TableSet::Shown() {
+    return {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
+}
+
+Table* TableSet::Named(TextView name) {
+    for (Table* table : All()) {
+        if (table->Name() == name) return table;
+    }
+    return nullptr;
+}
+
+}  // namespace swiftroll

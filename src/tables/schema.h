@@ -1,0 +1,38 @@
+#pragma once
+
+#include "tables/table.h"
+
+namespace swiftroll {
+
+/// The seven tables, created empty with their columns. The tables that a read fills share their texts.
+struct TableSet {
+    TableSet();
+
+  private:
+    std::shared_ptr<StoreGroup> readGroup_ = std::make_shared<StoreGroup>();
+
+  public:
+    /// Individuals, one row per INDI record.
+    Table lvwIn;
+    /// The Relevé-vif: one row per group of individuals.
+    Table lvwOut;
+    /// Links: one row per ordered pair of linked individuals.
+    Table lvwXref;
+    /// The links that the kinship search may walk.
+    Table lvwXref1;
+    /// Families.
+    Table lvwFamily;
+    /// Members: one row per family and individual.
+    Table lvwFamilyXref;
+    /// Lines of the kinship paths found.
+    Table lvwKinship;
+
+    /// All tables in the order of the log's row counts.
+    std::vector<Table*> All();
+    /// The tables with position tables and header icons: all but lvwXref1.
+    std::vector<Table*> Shown();
+    /// The table of a name, or nullptr.
+    Table* Named(TextView name);
+};
+
+}  // namespace swiftroll

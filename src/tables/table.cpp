@@ -1,0 +1,283 @@
+#include "tables/table.h"
+
+#include <algorithm>
+
+#include "tables/text_sort.h"
+#include "text/edit.h"
+#include "text/failure.h"
+
+namespace swiftroll {
+
+std::shared_ptr<TextStore> StoreGroup::Acquire() {
+    auto store = current_.lock();
+    if (!store) {
+        store = std::make_shared<TextStore>();
+        current_ = store;
+    }
+    return store;
+}
+
+Table::Table(Text name, std::vector<Column> columns, std::shared_ptr<StoreGroup> group)
+    : name_(std::move(name)), columns_(std::move(columns)), group_(std::move(group)) {}
+
+Column& Table::ColumnAt(std::int16_t index) {
+    if (index < 1 || index > ColumnCount()) throw Failure(FailureKind::IndexOutOfRange);
+    return columns_[static_cast<std::size_t>(index - 1)];
+}
+
+const Column& Table::ColumnAt(std::int16_t index) const {
+    if (index < 1 || index > ColumnCount()) throw Failure(FailureKind::IndexOutOfRange);
+    return columns_[static_cast<std::size_t>(index - 1)];
+}
+
+Column* Table::FindColumn(TextView key) {
+    const auto found = std::find_if(columns_.begin(), columns_.end(), [&](const Column& c) { return c.Key == key; });
+    return found == columns_.end() ? nullptr : &*found;
+}
+
+void Table::MoveColumn(std::int16_t index, std::int16_t position) {
+    if (position < 1 || position > ColumnCount()) throw Failure(FailureKind::IndexOutOfRange);
+    const std::int16_t old = ColumnAt(index).Position;
+    for (Column& column : columns_) {
+        if (old < column.Position && column.Position <= position) --column.Position;
+        if (position <= column.Position && column.Position < old) ++column.Position;
+    }
+    ColumnAt(index).Position = position;
+}
+
+TextStore& Table::Store() {
+    if (!store_) store_ = group_->Acquire();
+    return *store_;
+}
+
+Table::Slot Table::NewSlot(const RowKey& key) {
+    Slot slot = static_cast<Slot>(keys_.size());
+    if (freeSlots_.empty()) {
+        if (slot == 0x7FFFFFFF) throw Failure(FailureKind::Overflow);
+        keys_.push_back(key);
+        marks_.push_back(0);
+        cells_.Grow(cells_.size() + columns_.size());
+    } else {
+        slot = freeSlots_.back();
+        keys_[slot] = key;
+    }
+    if (!key.IsEmpty() && !index_.Insert(slot, key)) {
+        keys_[slot] = RowKey();
+        marks_[slot] = kFree;
+        if (freeSlots_.empty() || freeSlots_.back() != slot) freeSlots_.push_back(slot);
+        throw Failure(FailureKind::DuplicateKey, Concat({Store().Get(key.first), Store().Get(key.second)}));
+    }
+    if (!freeSlots_.empty() && freeSlots_.back() == slot) {
+        freeSlots_.pop_back();
+        marks_[slot] = 0;
+    }
+    return slot;
+}
+
+Row Table::Add(std::optional<std::int32_t> index, RowKey key, TextRef text) {
+    if (index && (*index < 1 || *index > Count() + 1)) throw Failure(FailureKind::IndexOutOfRange);
+    Store();
+    const Slot slot = NewSlot(key);
+    if (!index || *index == Count() + 1) {
+        order_.push_back(slot);
+        if (placesAreFresh_ && slot == place_.size()) place_.push_back(static_cast<std::uint32_t>(order_.size() - 1));
+        else placesAreFresh_ = false;
+    } else {
+        order_.insert(order_.begin() + (*index - 1), slot);
+        placesAreFresh_ = false;
+    }
+    Row row(*this, slot);
+    row.SetCell(1, text);
+    return row;
+}
+
+Row Table::Add(std::optional<std::int32_t> index, TextView key, TextView text) {
+    const TextRef keyRef = Store().Intern(key);
+    return Add(index, RowKey(keyRef), key == text ? keyRef : Store().Put(text));
+}
+
+std::optional<Row> Table::Find(RowKey key) {
+    const auto slot = index_.Find(key);
+    if (!slot) return std::nullopt;
+    return Row(*this, *slot);
+}
+
+std::optional<Row> Table::Find(TextView key) {
+    if (!store_ || key.empty()) return std::nullopt;
+    if (auto row = Find(RowKey(store_->FindInterned(key)))) return row;
+    // A pair is kept as its two parts, so the text may be cut at any place where both parts are known.
+    for (std::size_t cut = 1; cut < key.size(); ++cut) {
+        const TextRef first = store_->FindInterned(key.substr(0, cut));
+        if (first.IsEmpty()) continue;
+        const TextRef second = store_->FindInterned(key.substr(cut));
+        if (second.IsEmpty()) continue;
+        if (auto row = Find(RowKey(first, second))) return row;
+    }
+    return std::nullopt;
+}
+
+Row Table::Item(TextView key) {
+    if (const auto row = Find(key)) return *row;
+    throw Failure(FailureKind::KeyNotFound, key);
+}
+
+Row Table::Item(std::int32_t index) {
+    if (index < 1 || index > Count()) throw Failure(FailureKind::IndexOutOfRange);
+    return Row(*this, order_[static_cast<std::size_t>(index - 1)]);
+}
+
+void Table::Remove(std::int32_t index) {
+    const Row row = Item(index);
+    const Slot slot = row.slot_;
+    for (std::int16_t column = 0; column <= ColumnCount() && !looks_.empty(); ++column) {
+        looks_.erase(row.LookPlace(column));
+    }
+    index_.Erase(slot, keys_[slot]);
+    keys_[slot] = RowKey();
+    marks_[slot] = kFree;
+    for (std::size_t c = 0; c < columns_.size(); ++c) cells_[slot * columns_.size() + c] = TextRef();
+    if (slot < tags_.size()) tags_[slot] = TextRef();
+    freeSlots_.push_back(slot);
+    order_.erase(order_.begin() + (index - 1));
+    placesAreFresh_ = false;
+}
+
+void Table::Clear() {
+    cells_.Clear();
+    keys_.Clear();
+    tags_.Clear();
+    marks_.Clear();
+    looks_.clear();
+    index_.Clear();
+    order_ = {};
+    place_ = {};
+    freeSlots_ = {};
+    placesAreFresh_ = false;
+    store_.reset();
+}
+
+void Table::SetSorted(bool sorted) {
+    sorted_ = sorted;
+    Resort();
+}
+
+void Table::SetSortKey(std::int16_t sortKey) {
+    ColumnAt(static_cast<std::int16_t>(sortKey + 1));
+    sortKey_ = sortKey;
+    Resort();
+}
+
+void Table::SetSortOrder(std::int16_t sortOrder) {
+    sortOrder_ = sortOrder;
+    Resort();
+}
+
+void Table::SortBy(std::int16_t sortKey, std::int16_t sortOrder) {
+    ColumnAt(static_cast<std::int16_t>(sortKey + 1));
+    sorted_ = true;
+    sortKey_ = sortKey;
+    sortOrder_ = sortOrder;
+    Resort();
+}
+
+void Table::Resort() {
+    if (!sorted_ || Count() < 2) return;
+    const auto column = static_cast<std::size_t>(sortKey_);
+    const std::size_t stride = columns_.size();
+    std::vector<TextView> texts(order_.size());
+    for (std::size_t i = 0; i < order_.size(); ++i) texts[i] = store_->Get(cells_[order_[i] * stride + column]);
+    Reorder(SortedOrder(texts, sortOrder_ == 1));
+}
+
+void Table::SortByForms(const std::vector<TextView>& forms, std::int16_t sortKey, std::int16_t sortOrder) {
+    if (forms.size() != order_.size()) throw Failure(FailureKind::InvalidArgument);
+    ColumnAt(static_cast<std::int16_t>(sortKey + 1));
+    sorted_ = true;
+    sortKey_ = sortKey;
+    sortOrder_ = sortOrder;
+    Reorder(SortedOrder(forms, sortOrder == 1));
+}
+
+void Table::Reorder(const std::vector<std::uint32_t>& permutation) {
+    if (permutation.empty()) return;
+    std::vector<Slot> sorted(order_.size());
+    for (std::size_t i = 0; i < sorted.size(); ++i) sorted[i] = order_[permutation[i]];
+    order_ = std::move(sorted);
+    placesAreFresh_ = false;
+}
+
+void Table::RefreshPlaces() {
+    place_.resize(keys_.size());
+    for (std::size_t i = 0; i < order_.size(); ++i) place_[order_[i]] = static_cast<std::uint32_t>(i);
+    placesAreFresh_ = true;
+}
+
+void Row::CheckAlive() const {
+    if (slot_ >= table_->marks_.size() || (table_->marks_[slot_] & Table::kFree) != 0) {
+        throw Failure(FailureKind::IndexOutOfRange);
+    }
+}
+
+std::size_t Row::Place(std::int16_t column) const {
+    if (column < 1 || static_cast<std::size_t>(column) > table_->columns_.size()) {
+        throw Failure(FailureKind::IndexOutOfRange);
+    }
+    CheckAlive();
+    return slot_ * table_->columns_.size() + static_cast<std::size_t>(column - 1);
+}
+
+std::int32_t Row::Index() const {
+    CheckAlive();
+    if (!table_->placesAreFresh_) table_->RefreshPlaces();
+    return static_cast<std::int32_t>(table_->place_[slot_] + 1);
+}
+
+std::string Row::Key() const {
+    CheckAlive();
+    const RowKey& key = table_->keys_[slot_];
+    return Concat({table_->store_->Get(key.first), table_->store_->Get(key.second)});
+}
+
+TextView Row::Tag() const {
+    CheckAlive();
+    return slot_ < table_->tags_.size() ? table_->store_->Get(table_->tags_[slot_]) : TextView();
+}
+
+void Row::SetTag(TextView tag) {
+    CheckAlive();
+    table_->tags_.Grow(slot_ + std::size_t{1});
+    table_->tags_[slot_] = table_->Store().Put(tag);
+}
+
+bool Row::HasMark(std::uint8_t mark) const {
+    CheckAlive();
+    return (table_->marks_[slot_] & mark) != 0;
+}
+
+void Row::SetMark(std::uint8_t mark, bool on) {
+    CheckAlive();
+    std::uint8_t& marks = table_->marks_[slot_];
+    marks = static_cast<std::uint8_t>(on ? marks | mark : marks & ~mark);
+}
+
+std::uint64_t Row::LookPlace(std::int16_t column) const {
+    return std::uint64_t{slot_} << 16 | static_cast<std::uint16_t>(column);
+}
+
+CellLook Row::Look(std::int16_t column) const {
+    CheckAlive();
+    const auto found = table_->looks_.find(LookPlace(column));
+    return found == table_->looks_.end() ? CellLook() : found->second;
+}
+
+void Row::SetLook(std::int16_t column, const CellLook& look) {
+    if (column != 0) Place(column);
+    CheckAlive();
+    if (look == CellLook()) {
+        table_->looks_.erase(LookPlace(column));
+    } else {
+        table_->looks_[LookPlace(column)] = look;
+    }
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,165 @@
+#include "writers/write_model.h"
+
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "writers/index.h"
+#include "writers/variables.h"
+#include "writers/xml.h"
+
+namespace swiftroll::modGenFileFromModel {
+namespace {
+
+constexpr TextView kRightAlignedCell = "<td align=\"right\"";
+constexpr TextView kPaddedElement = "%ELEMENT% ";
+
+/// One document on its way to its file.
+class Document {
+  public:
+    Document(Application& app, const modReadGedcom::LineReader& lines, ModelPieces model, OutFormat iOutFormat,
+             bool bSelectedOnly, TextView sEmptyCell)
+        : app_(app),
+          variables_(app, lines),
+          model_(std::move(model)),
+          format_(iOutFormat),
+          selectedOnly_(bSelectedOnly),
+          emptyCell_(sEmptyCell) {
+        const bool asksForPadding = model_.sModelCell2.find(kPaddedElement) != Text::npos;
+        marker_ = asksForPadding ? kPaddedElement : kElement;
+        padCells_ = asksForPadding && format_ == OutFormat::Text;
+        PlaceIndex();
+    }
+
+    void Open(TextView sOutFile) {
+        try {
+            app_.ports.files.Delete(sOutFile);
+        } catch (const Failure&) {
+            // The opening tells what is wrong.
+        }
+        file_ = app_.ports.files.Open(sOutFile, Files::Mode::Write);
+        Print(model_.sModelHead);
+    }
+
+    void WriteRest() {
+        WriteHeaderRow();
+        Print(model_.sModelBetween);
+        if (format_ == OutFormat::Xsl) {
+            WriteTemplateRow();
+        } else {
+            WriteDataRows();
+        }
+        Print(model_.sModelTail);
+        file_->Close();
+    }
+
+  private:
+    void PlaceIndex() {
+        constexpr TextView kIndex = "%INDEX%";
+        const bool hasPlace = model_.sModelHead.find(kIndex) != Text::npos || model_.sModelTail.find(kIndex) != Text::npos;
+        if (format_ == OutFormat::Text || app_.txtINDEX.Get() == "0" || !hasPlace) return;
+        const Text links = CalcINDEXes(app_, selectedOnly_, emptyCell_);
+        for (Text* piece : {&model_.sModelHead, &model_.sModelTail}) *piece = ReplaceAll(*piece, kIndex, links);
+    }
+
+    void Print(TextView sText) { PrintWithOtherTags(*file_, sText, variables_); }
+
+    const Column& ColumnAtPosition(std::int16_t position) const {
+        return app_.lvwOut.ColumnAt(app_.positions.Of(app_.lvwOut).iColAtPos[position]);
+    }
+
+    void PrintCell(TextView model, TextView sCell) { Print(ReplaceAll(model, marker_, sCell)); }
+
+    void PrintNumberCell(TextView model, TextView sCell) {
+        Text filled = ReplaceAll(model, marker_, sCell);
+        if (format_ != OutFormat::Text) filled.replace(0, 3, kRightAlignedCell);
+        Print(filled);
+    }
+
+    Text HeaderCell(const Column& column) {
+        if (!padCells_) return column.Caption;
+        Text sCell = PadRight(column.Caption, static_cast<std::size_t>(app_.lMaxLenOut[column.Index]));
+        padWidth_[column.Index] = static_cast<std::int32_t>(sCell.size());
+        return sCell;
+    }
+
+    void WriteHeaderRow() {
+        file_->Write(model_.sModelRow1Open);
+        for (std::int16_t position = 1; position < app_.positions.iPosNumber; ++position) {
+            PrintCell(model_.sModelCell1, HeaderCell(ColumnAtPosition(position)));
+        }
+        PrintNumberCell(model_.sModelCell1, HeaderCell(app_.lvwOut.ColumnAt(Out::Number)));
+        Print(model_.sModelRow1Close);
+    }
+
+    void WriteTemplateRow() {
+        const PerColumn<Text> tags = MakeColumnTags(app_);
+        Print(model_.sModelRow2Open);
+        for (std::int16_t position = 1; position <= app_.positions.iPosNumber; ++position) {
+            Print(ReplaceAll(model_.sModelCell2, kElement, tags[position]));
+        }
+        Print(model_.sModelRow2Close);
+    }
+
+    void WriteDataRows() {
+        AnchorWriter anchors(app_);
+        for (std::int32_t i = 1; i <= app_.lvwOut.Count(); ++i) {
+            const Row row = app_.lvwOut.Item(i);
+            if (selectedOnly_ && !row.Marked()) continue;
+            Print(model_.sModelRow2Open);
+            if (format_ == OutFormat::Html) anchors.PutINDEX(*file_, row, false);
+            for (std::int16_t position = 1; position < app_.positions.iPosNumber; ++position) {
+                WriteDataCell(row, ColumnAtPosition(position).Index);
+            }
+            PrintNumberCell(model_.sModelCell2, row.Cell(Out::Number));
+            Print(model_.sModelRow2Close);
+        }
+    }
+
+    void WriteDataCell(const Row& row, std::int16_t column) {
+        const TextView sCell = row.Cell(column);
+        if (padCells_) {
+            PrintCell(model_.sModelCell2, PadRight(sCell, static_cast<std::size_t>(padWidth_[column])));
+        } else {
+            PrintCell(model_.sModelCell2, sCell.empty() ? emptyCell_ : sCell);
+        }
+    }
+
+    Application& app_;
+    DocumentVariables variables_;
+    ModelPieces model_;
+    OutFormat format_;
+    bool selectedOnly_;
+    TextView emptyCell_;
+    TextView marker_;
+    bool padCells_ = false;
+    Widths padWidth_;
+    std::unique_ptr<File> file_;
+};
+
+}  // namespace
+
+void WriteFileFromModel(Application& app, const modReadGedcom::LineReader& lines, TextView sOutFile,
+                        TextView sModelFile, OutFormat iOutFormat, bool bSelectedOnly, TextView sEmptyCell) {
+    app.bWaitCursor = true;
+    bool opened = false;
+    app.trail.GuardElse(
+        "WriteFileFromModel",
+        [&] {
+            auto pieces = SplitModel(app, sModelFile, iOutFormat);
+            if (!pieces) return;
+            Document document(app, lines, std::move(*pieces), iOutFormat, bSelectedOnly, sEmptyCell);
+            document.Open(sOutFile);
+            opened = true;
+            document.WriteRest();
+        },
+        [&] {
+            if (opened) {
+                app.trail.ErrorLog(Concat({sOutFile, "/", bSelectedOnly ? "-1" : "0"}));
+            } else {
+                app.Box(" - OpenOutput"_t, Concat({"Erreur d'écriture dans le fichier "_t, sOutFile, "."}));
+            }
+        });
+    app.bWaitCursor = false;
+}
+
+}  // namespace swiftroll::modGenFileFromModel

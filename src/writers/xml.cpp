@@ -1,0 +1,83 @@
+#include "writers/xml.h"
+
+#include <algorithm>
+
+#include "text/edit.h"
+#include "text/fold.h"
+#include "writers/index.h"
+
+namespace swiftroll::modGenFileFromModel {
+namespace {
+
+/// A file whose failing steps are skipped.
+class LenientFile : public File {
+  public:
+    LenientFile(Files& files, TextView name) {
+        Try([&] { files.Delete(name); });
+        Try([&] { file_ = files.Open(name, Files::Mode::Write); });
+        complete_ = file_ != nullptr;
+    }
+    std::size_t Read(char*, std::size_t) override { return 0; }
+    std::int64_t Length() override { return 0; }
+    void Write(TextView bytes) override {
+        if (file_) complete_ &= Try([&] { file_->Write(bytes); });
+    }
+    void Close() override {
+        if (file_) complete_ &= Try([&] { file_->Close(); });
+    }
+    bool IsComplete() const { return complete_; }
+
+  private:
+    template <class Step>
+    static bool Try(Step step) {
+        try {
+            step();
+            return true;
+        } catch (const Failure&) {
+            return false;
+        }
+    }
+    std::unique_ptr<File> file_;
+    bool complete_ = true;
+};
+
+}  // namespace
+
+PerColumn<Text> MakeColumnTags(const Application& app) {
+    PerColumn<Text> tags;
+    for (const Column& column : app.lvwOut.Columns()) {
+        if (column.Position > app.positions.iPosNumber) continue;
+        Text tag = ComparisonForm(column.Caption);
+        std::erase(tag, ' ');
+        tags[column.Position] = tag;
+    }
+    return tags;
+}
+
+bool WriteXML(Application& app, TextView sOutFile, TextView sXslName, bool bSelectedOnly) {
+    const PerColumn<Text> sColumnTag = MakeColumnTags(app);
+    LenientFile file(app.ports.files, sOutFile);
+    file.Write(Concat({"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>", kLineEnd}));
+    if (!sXslName.empty()) {
+        file.Write(Concat({"<?xml:stylesheet type=\"text/xsl\" href=\"", sXslName, "\"?>", kLineEnd}));
+    }
+    file.Write(Concat({"<SwiftRoll>", kLineEnd}));
+    AnchorWriter anchors(app);
+    for (std::int32_t i = 1; i <= app.lvwOut.Count(); ++i) {
+        const Row row = app.lvwOut.Item(i);
+        if (bSelectedOnly && !row.Marked()) continue;
+        file.Write(Concat({" <INDI>", kLineEnd}));
+        anchors.PutINDEX(file, row, true);
+        for (std::int16_t position = 1; position <= app.positions.iPosNumber; ++position) {
+            const TextView tag = sColumnTag[position];
+            const TextView cell = row.Cell(app.positions.Of(app.lvwOut).iColAtPos[position]);
+            file.Write(Concat({"  <", tag, ">", cell, "</", tag, ">", kLineEnd}));
+        }
+        file.Write(Concat({" </INDI>", kLineEnd}));
+    }
+    file.Write(Concat({"</SwiftRoll>", kLineEnd}));
+    file.Close();
+    return file.IsComplete();
+}
+
+}  // namespace swiftroll::modGenFileFromModel

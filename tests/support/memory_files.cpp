@@ -1,0 +1,50 @@
+#include "support/memory_files.h"
+
+#include <algorithm>
+
+#include "text/failure.h"
+
+namespace swiftroll::test {
+namespace {
+
+class MemoryFile : public File {
+  public:
+    MemoryFile(MemoryFiles& files, Text name) : files_(files), name_(std::move(name)) {}
+    std::size_t Read(char* buffer, std::size_t size) override {
+        const Text& bytes = files_.contents[name_];
+        size = std::min({size, bytes.size() - position_, files_.readSize});
+        std::copy_n(bytes.data() + position_, size, buffer);
+        position_ += size;
+        return size;
+    }
+    void Write(TextView bytes) override {
+        const TextView fitting = bytes.substr(0, std::min(files_.room, bytes.size()));
+        files_.contents[name_] += fitting;
+        files_.room -= fitting.size();
+        if (fitting.size() < bytes.size()) throw Failure(FailureKind::FileAccess, name_);
+    }
+    std::int64_t Length() override { return static_cast<std::int64_t>(files_.contents[name_].size()); }
+    void Close() override {}
+
+  private:
+    MemoryFiles& files_;
+    Text name_;
+    std::size_t position_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<File> MemoryFiles::Open(TextView name, Mode mode) {
+    if (mode == Mode::Read && !Exists(name)) throw Failure(FailureKind::FileNotFound, name);
+    if (mode != Mode::Read && readOnly.count(Text(name)) > 0) throw Failure(FailureKind::FileAccess, name);
+    if (mode == Mode::Write) contents[Text(name)].clear();
+    if (mode == Mode::Append) contents[Text(name)];
+    return std::make_unique<MemoryFile>(*this, Text(name));
+}
+
+void MemoryFiles::Delete(TextView name) {
+    if (readOnly.count(Text(name)) > 0) throw Failure(FailureKind::FileAccess, name);
+    contents.erase(Text(name));
+}
+
+}  // namespace swiftroll::test

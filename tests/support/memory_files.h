@@ -1,0 +1,28 @@
+#pragma once
+
+#include <map>
+#include <set>
+
+#include "app/ports.h"
+
+namespace swiftroll::test {
+
+/// Files in memory.
+class MemoryFiles : public Files {
+  public:
+    std::unique_ptr<File> Open(TextView name, Mode mode) override;
+    bool Exists(TextView name) override { return contents.count(Text(name)) > 0; }
+    bool AreSame(TextView a, TextView b) override { return a == b && Exists(a); }
+    void Delete(TextView name) override;
+
+    /// Name to bytes.
+    std::map<Text, Text, std::less<>> contents;
+    /// Names that cannot be opened for writing.
+    std::set<Text> readOnly;
+    /// Number of bytes that can still be written before the disk is full.
+    std::size_t room = static_cast<std::size_t>(-1);
+    /// Largest number of bytes that one read gives.
+    std::size_t readSize = static_cast<std::size_t>(-1);
+};
+
+}  // namespace swiftroll::test

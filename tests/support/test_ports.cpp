@@ -1,0 +1,56 @@
+#include "support/test_ports.h"
+
+#include "text/edit.h"
+
+namespace swiftroll::test {
+
+BoxAnswer ScriptedDialogs::Show(const MessageBox& box) {
+    boxes.push_back(box);
+    if (!answers.empty()) {
+        const BoxAnswer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    if (box.topic == BoxTopic::Recalculation) return BoxAnswer::No;
+    return box.buttons == BoxButtons::YesNo || box.buttons == BoxButtons::YesNoCancel ? BoxAnswer::Yes : BoxAnswer::Ok;
+}
+
+bool ScriptedDialogs::AskFile(const FileRequest& request, Text& chosen) {
+    fileRequests.push_back(request);
+    if (files.empty()) return false;
+    chosen = files.front();
+    files.pop_front();
+    return true;
+}
+
+void TestMain::Read(TextView gedcom) {
+    files.contents["in.ged"] = gedcom;
+    main.cboGedIn.SetText("in.ged");
+    main.cmdLoad.Click();
+}
+
+void TestMain::ReadAndList(TextView gedcom) {
+    Read(gedcom);
+    main.cmdCalcOutput.Click();
+}
+
+std::vector<Text> RowsOf(Table& table) {
+    std::vector<Text> rows;
+    for (std::int32_t i = 1; i <= table.Count(); ++i) rows.push_back(RowText(table.Item(i)));
+    return rows;
+}
+
+Text RowText(const Row& row) {
+    Text text;
+    for (std::int16_t column = 1; column <= row.ColumnCount(); ++column) {
+        if (column > 1) text += '|';
+        text += row.Cell(column);
+    }
+    return text;
+}
+
+Text WithCrLf(TextView text) {
+    return ReplaceAll(text, "\n", "\r\n");
+}
+
+}  // namespace swiftroll::test

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "app/ports.h"
+#include "shell/frm_main.h"
+#include "support/memory_files.h"
+
+namespace swiftroll::test {
+
+/// Answers the boxes from a script, and keeps what they said. Without a script: OK, Yes, and No to the question
+/// of the recalculation.
+class ScriptedDialogs : public Dialogs {
+  public:
+    BoxAnswer Show(const MessageBox& box) override;
+    bool AskFile(const FileRequest& request, Text& chosen) override;
+
+    std::vector<MessageBox> boxes;
+    std::vector<FileRequest> fileRequests;
+    /// Answers of the next boxes, whatever they ask.
+    std::deque<BoxAnswer> answers;
+    /// Names that the next file dialogs give; none left means Cancel.
+    std::deque<Text> files;
+};
+
+/// Sunday 22 November 2026, 14:05:09.
+class StandingClock : public Clock {
+  public:
+    Moment Now() override { return now; }
+    Moment now{2026, 11, 22, 0, 14, 5, 9};
+};
+
+/// Counts the yields and runs `onYield` at each of them.
+class HookedPump : public EventPump {
+  public:
+    void Yield() override {
+        ++yields;
+        if (onYield) onYield();
+    }
+    int yields = 0;
+    std::function<void()> onYield;
+};
+
+class TestFolders : public Folders {
+  public:
+    Text UserData() override { return userData; }
+    Text UserDocuments() override { return "/docs"; }
+    Text Temporary() override { return "/tmp"; }
+    Text Models() override { return "/models"; }
+    Text Program() override { return "/program"; }
+    void Create(TextView folder) override { created.emplace_back(folder); }
+    Text Separator() override { return "/"; }
+    Text userData = "/data";
+    std::vector<Text> created;
+};
+
+class SilentStatus : public StatusObserver {
+  public:
+    void StatusChanged() override {}
+};
+
+/// All ports of one application without a screen.
+struct TestPorts {
+    ScriptedDialogs dialogs;
+    StandingClock clock;
+    HookedPump events;
+    MemoryFiles files;
+    TestFolders folders;
+    SilentStatus status;
+    Ports All() { return {dialogs, clock, events, files, folders, status}; }
+};
+
+/// A started application. `log` of the error trail is "/data/SwiftRoll/SwiftRoll.log".
+struct TestMain : TestPorts {
+    TestMain() : main(All()) { main.Form_Load({}); }
+    /// Reads `gedcom` as the file "in.ged" by the command.
+    void Read(TextView gedcom);
+    /// The same, and computes the list.
+    void ReadAndList(TextView gedcom);
+    frmMain main;
+};
+
+/// The rows of a table, cells joined by "|", in their present order.
+std::vector<Text> RowsOf(Table& table);
+/// One row, cells joined by "|".
+Text RowText(const Row& row);
+/// `text` with "\n" as "\r\n".
+Text WithCrLf(TextView text);
+
+}  // namespace swiftroll::test
