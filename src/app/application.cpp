@@ -9,20 +9,19 @@ Application::Application(const Ports& applicationPorts)
     : StatusBar(applicationPorts.status),
       ports(applicationPorts),
       trail(ports, *this,
-            {[this] { return MainCaption(); }, [this] { return PathOf(sUserAppData, Concat({sProduct, ".log"})); },
+            {[this] { return MainCaption(); },
+             [this] {
+                 return PathOf(sUserAppData, Concat({sProduct, ".log"}));
+             },
              [this] { return sRunStart; }}) {}
 
-Text Application::MainCaption() const {
-    return Concat({sProduct, " (v", sVersion, ")"});
-}
+Text Application::MainCaption() const { return Concat({sProduct, " (v", sVersion, ")"}); }
 
 BoxAnswer Application::Box(TextView suffix, TextView text, BoxButtons buttons, BoxIcon icon, BoxTopic topic) {
     return ports.dialogs.Show({Concat({MainCaption(), suffix}), Text(text), buttons, icon, topic});
 }
 
-void Application::InitIndexes() {
-    positions.InitIndexes(*this, ports.dialogs, MainCaption());
-}
+void Application::InitIndexes() { positions.InitIndexes(*this, ports.dialogs, MainCaption()); }
 
 Text Application::PathOf(TextView folder, TextView name) const {
     return Concat({folder, ports.folders.Separator(), name});

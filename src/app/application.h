@@ -15,8 +15,8 @@ struct WidthTables {
 /// The tabs of the main window by number; the first six have the numbers of their tables.
 enum class Tab { In, Out, FamilyXref, Xref, Family, Kinship, FormatOptions, LinkOptions, Options };
 
-/// What every module works with: the tables, the options, the status bar, the error trail and the values of the
-/// run. There is one for the whole run; the main window derives from it and adds the commands.
+/// What every module works with: the tables, the options, the status bar, the error trail and the values of
+/// the run. There is one for the whole run; the main window derives from it and adds the commands.
 class Application : public TableSet, public OptionRecord, public StatusBar, public WidthTables {
   public:
     explicit Application(const Ports& applicationPorts);

@@ -21,7 +21,8 @@ Text FullName(const ControlTexts& texts) {
 }  // namespace
 
 Control* Window::Find(TextView name) const {
-    const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) { return c->Name() == name; });
+    const auto found =
+        std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) { return c->Name() == name; });
     return found == controls_.end() ? nullptr : *found;
 }
 
@@ -39,17 +40,11 @@ void Window::SetFocus(Control& control) {
     Fire(OnFocusChanged);
 }
 
-void Control::TakeFocus() const {
-    Fire(OnGotFocus);
-}
+void Control::TakeFocus() const { Fire(OnGotFocus); }
 
-void Control::LoseFocus() const {
-    Fire(OnLostFocus);
-}
+void Control::LoseFocus() const { Fire(OnLostFocus); }
 
-void Control::SetFromText(TextView) {
-    throw Failure(FailureKind::TypeMismatch, name_);
-}
+void Control::SetFromText(TextView) { throw Failure(FailureKind::TypeMismatch, name_); }
 
 void CheckBox::SetChecked(bool checked) {
     if (checked == checked_) return;
@@ -87,9 +82,7 @@ void TextBox::SetFromText(TextView text) {
     LoseFocus();
 }
 
-Text ComboBox::Get() const {
-    return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : text_;
-}
+Text ComboBox::Get() const { return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : text_; }
 
 void ComboBox::SetText(TextView text) {
     text_ = text;
@@ -117,7 +110,8 @@ void ComboBox::SetFromText(TextView text) {
     }
     const auto number = ParseDecimal(text);
     for (std::size_t i = 0; i < items_.size(); ++i) {
-        if (items_[i] == text || number == static_cast<std::int64_t>(i)) return SetListIndex(static_cast<int>(i));
+        if (items_[i] == text || number == static_cast<std::int64_t>(i))
+            return SetListIndex(static_cast<int>(i));
     }
     throw Failure(FailureKind::TypeMismatch, Name());
 }

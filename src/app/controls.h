@@ -126,7 +126,9 @@ class TextBox : public Control {
 class ComboBox : public Control {
   public:
     ComboBox(Window& window, const ControlTexts& texts, std::vector<Text> items = {})
-        : Control(window, ControlKind::ComboBox, texts), isSelector_(!items.empty()), items_(std::move(items)) {}
+        : Control(window, ControlKind::ComboBox, texts),
+          isSelector_(!items.empty()),
+          items_(std::move(items)) {}
     /// Whether the text can only be one of the items.
     bool IsSelector() const { return isSelector_; }
     Text Get() const;

@@ -17,9 +17,7 @@ Text PlacesOrderTip() {
     return Concat({lines[0], kLineEnd, lines[1], kLineEnd, lines[2], kLineEnd, lines[3], kLineEnd, lines[4]});
 }
 
-std::vector<Text> Texts(std::initializer_list<TextView> texts) {
-    return {texts.begin(), texts.end()};
-}
+std::vector<Text> Texts(std::initializer_list<TextView> texts) { return {texts.begin(), texts.end()}; }
 
 constexpr TextView kOutExtension = "Liste en Sortie"_t;
 constexpr TextView kModelExtension = "Modèle en Entrée"_t;
@@ -27,10 +25,11 @@ constexpr TextView kModelExtension = "Modèle en Entrée"_t;
 }  // namespace
 
 OptionRecord::OptionRecord()
-    : chkProcFamilies(*this,
-                      {"chkProcFamilies", "Lire Familles"_t,
-                       "Nécessite une relecture du fichier GedCom en entrée pour traiter la définition des familles."_t},
-                      true),
+    : chkProcFamilies(
+          *this,
+          {"chkProcFamilies", "Lire Familles"_t,
+           "Nécessite une relecture du fichier GedCom en entrée pour traiter la définition des familles."_t},
+          true),
       cboLoad(*this, {"cboLoad", {}, "Sélectionne l'action par défaut du bouton à gauche"_t},
               Texts({"Lire Tout"_t, "Lire Sans Famille"_t})),
       chkUpperNames(*this,
@@ -38,7 +37,8 @@ OptionRecord::OptionRecord()
                      "Ne convertit pas les noms, c'est uniquement leur affichage qui est concerné."_t},
                     false),
       chkInvertNames(*this,
-                     {"chkInvertNames", "Inversion Nom/Prénom"_t, "Lors de la lecture du fichier GEDCOM"_t}, false),
+                     {"chkInvertNames", "Inversion Nom/Prénom"_t, "Lors de la lecture du fichier GEDCOM"_t},
+                     false),
       cboGedIn(*this, {"cboGedIn", "Entrée GED"_t}),
       cboGedOut(*this, {"cboGedOut", "Sortie GED"_t}),
       cboSwiftOut(*this, {"cboSwiftOut", "Sortie Relevé-vif + XSL"_t}),
@@ -50,10 +50,11 @@ OptionRecord::OptionRecord()
           *this, {"lbOuputPlacesOrder", "Ordre de sélection des Lieux && Dates"_t, PlacesOrderTip()},
           {{Text("Naissance"_t), 1}, {Text("Décès"_t), 2}, {Text("Mariage, Divorce,..."_t), 3}}),
       txtPlaceFormat(*this, {"txtPlaceFormat", "Format"_t, "%1=1er lieu,... %0=Tout, %%=%"_t}, "%0"),
-      txtPlaceSepar(*this,
-                    {"txtPlaceSepar", "Séparateur de lieux"_t,
-                     "Séparteur des lieux (par ex. \",\") pour indiquer quel est le lieu n° 1, le 2ième,..."_t},
-                    ","),
+      txtPlaceSepar(
+          *this,
+          {"txtPlaceSepar", "Séparateur de lieux"_t,
+           "Séparteur des lieux (par ex. \",\") pour indiquer quel est le lieu n° 1, le 2ième,..."_t},
+          ","),
       chkTrimSepar(*this,
                    {"chkTrimSepar", "Supprimer derniers séparateurs"_t,
                     "Pour supprimer les séparateurs et espaces isolés en fin de ligne"_t},
@@ -63,7 +64,8 @@ OptionRecord::OptionRecord()
       txtINDEX(*this, {"txtINDEX", "Index HTML"_t}, "1"),
       chkGenerXSL(*this, {"chkGenerXSL", "+ XSL"_t}, true),
       optOutExtension(*this, {"optOutExtension"}, Texts({"HTML"_t, "Texte "_t, "XML"_t}), 1),
-      cboSaveSwift(*this, {"cboSaveSwift"}, Texts({"Ecrire en HTML"_t, "Ecrire en Texte"_t, "Ecrire en XML"_t})),
+      cboSaveSwift(*this, {"cboSaveSwift"},
+                   Texts({"Ecrire en HTML"_t, "Ecrire en Texte"_t, "Ecrire en XML"_t})),
       txtOutExtension{TextBox(*this, {"txtOutExtension", kOutExtension, {}, 0}, "html"),
                       TextBox(*this, {"txtOutExtension", kOutExtension, {}, 1}, "txt"),
                       TextBox(*this, {"txtOutExtension", kOutExtension, {}, 2}, "xml")},
@@ -92,15 +94,15 @@ OptionRecord::OptionRecord()
       txtKinV(*this, {"txtKinV", "Ecart Vertical"_t}, "30"),
       txtKinshipLandscape(*this, {"txtKinshipLandscape"}, true),
       chkTips(*this, {"chkTips", "Montrer les conseils (\"ToolTips\") dans la liste \"Sortie\"."_t}, true),
-      chkCheckUpdates(*this, {"chkCheckUpdates", "Tester au démarrage si une nouvelle version est disponible."_t},
-                      false),
+      chkCheckUpdates(
+          *this, {"chkCheckUpdates", "Tester au démarrage si une nouvelle version est disponible."_t}, false),
       chkMaxLinks(*this, {"chkMaxLinks", "Le nombre de liaisons est > que"_t}, false),
       txtMaxLinks(*this, {"txtMaxLinks"}, "50"),
       chkMaxSpouses(*this, {"chkMaxSpouses", "Le nombre de conjoints est > que"_t}, false),
       txtMaxSpouses(*this, {"txtMaxSpouses"}, "50"),
       chkIgnoreCase(*this, {"chkIgnoreCase", "ABC=abc"_t}, true),
-      chkDelAccents(*this, {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"_t},
-                    true) {
+      chkDelAccents(
+          *this, {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"_t}, true) {
     chkProcFamilies.Visible = false;
     txtFont.Visible = false;
     txtKinshipLandscape.Visible = false;

@@ -55,8 +55,8 @@ class Clock {
     virtual Moment Now() = 0;
 };
 
-/// Lets pending user-interface events be handled. Long loops call it once per unit of work, millions of times,
-/// so an implementation looks at a clock and really pumps about sixty times a second.
+/// Lets pending user-interface events be handled. Long loops call it once per unit of work, millions of
+/// times, so an implementation looks at a clock and really pumps about sixty times a second.
 class EventPump {
   public:
     virtual ~EventPump() = default;
@@ -102,7 +102,8 @@ class Folders {
     /// Folder of the shipped models, beside the program or in its installed data.
     virtual Text Models() = 0;
     virtual Text Program() = 0;
-    /// Creates a folder unless it is there; a failure is ignored, since the first file written there tells it.
+    /// Creates a folder unless it is there; a failure is ignored, since the first file written there tells
+    /// it.
     virtual void Create(TextView folder) = 0;
     /// What stands between the folders of a path.
     virtual Text Separator() = 0;

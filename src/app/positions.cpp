@@ -23,13 +23,6 @@ bool Contains(const TextView (&keys)[N], TextView key) {
 
 }  // namespace
 
-void SetMaxLen(const Row& row, Widths& widths) {
-    for (std::int16_t column = 1; column <= row.ColumnCount(); ++column) {
-        const auto length = static_cast<std::int32_t>(row.Cell(column).size());
-        if (length > widths[column]) widths[column] = length;
-    }
-}
-
 void Positions::InitIndexes(TableSet& tables, Dialogs& dialogs, TextView caption) {
     iKeyColIn = PerColumn<std::int16_t>(kNoColumn);
     iKeyColOut = PerColumn<std::int16_t>(kNoColumn);
@@ -44,8 +37,9 @@ void Positions::InitIndexes(TableSet& tables, Dialogs& dialogs, TextView caption
         } else if (column.Key == "Number") {
             iPosNumber = column.Position;
         } else {
-            dialogs.Show({Concat({caption, " - InitIdxOut"}),
-                          Concat({"Colonne ajoutée dans Out : "_t, column.Caption, kLineEnd, "Merci de me prévenir !"_t})});
+            dialogs.Show(
+                {Concat({caption, " - InitIdxOut"}), Concat({"Colonne ajoutée dans Out : "_t, column.Caption,
+                                                             kLineEnd, "Merci de me prévenir !"_t})});
         }
     }
     for (const Table* table : tables.Shown()) {

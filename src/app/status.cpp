@@ -5,9 +5,7 @@
 
 namespace swiftroll {
 
-void ProgressBar::Show(double done, double total) {
-    Set(total > 0 ? done * 100 / total : 0);
-}
+void ProgressBar::Show(double done, double total) { Set(total > 0 ? done * 100 / total : 0); }
 
 void ProgressBar::Set(double percent) {
     const double held = std::clamp(percent, 0.0, 100.0);

@@ -36,7 +36,10 @@ class ProgressBar {
 /// The four panels of `StatusBar1` and the progress bar.
 struct StatusBar {
     explicit StatusBar(StatusObserver& observer)
-        : pnlLines(observer), pnlIndividuals(observer), pnlFamilies(observer), pnlMessage(observer),
+        : pnlLines(observer),
+          pnlIndividuals(observer),
+          pnlFamilies(observer),
+          pnlMessage(observer),
           ProgressBar1(observer) {}
     Panel pnlLines;
     Panel pnlIndividuals;

@@ -24,16 +24,16 @@ Text ParameterLines(TextView sReport) {
 
 }  // namespace
 
-void Trail::TracePush(const char* sProc) {
-    if (iTraceDepth == std::numeric_limits<std::int16_t>::max()) throw Failure(FailureKind::Overflow);
-    const auto depth = static_cast<std::size_t>(++iTraceDepth);
-    if (depth >= aTrace.size()) aTrace.resize(aTrace.empty() ? kTraceStep + 1 : aTrace.size() + kTraceStep);
-    aTrace[depth] = sProc;
+void Trail::MakeRoom() {
+    const std::size_t deepest = std::numeric_limits<std::int16_t>::max();
+    if (aTrace.size() > deepest) throw Failure(FailureKind::Overflow);
+    aTrace.resize(std::min(deepest + 1, std::max<std::size_t>(aTrace.size(), 1) + kTraceStep));
 }
 
 void Trail::ErrorLog(TextView sReport) {
     ++reports_;
-    Text message = Concat({Decimal(failure_.Number()), ": ", failure_.What(), " (L:", Decimal(failure_.Line()), ")"});
+    Text message =
+        Concat({Decimal(failure_.Number()), ": ", failure_.What(), " (L:", Decimal(failure_.Line()), ")"});
     message += Concat({kLineEnd, kLineEnd, "Appellé par : "_t});
     for (auto depth = static_cast<std::size_t>(iTraceDepth); depth >= 1; --depth) {
         message += Concat({kLineEnd, "    ", aTrace[depth]});

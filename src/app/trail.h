@@ -65,7 +65,13 @@ class Trail {
       private:
         Trail& trail_;
     };
-    void TracePush(const char* sProc);
+    void TracePush(const char* sProc) {
+        const auto depth = static_cast<std::size_t>(iTraceDepth) + 1;
+        if (depth >= aTrace.size()) MakeRoom();
+        aTrace[depth] = sProc;
+        ++iTraceDepth;
+    }
+    void MakeRoom();
     void TracePop() { --iTraceDepth; }
     void AppendToLog(TextView title, TextView message);
 

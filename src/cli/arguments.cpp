@@ -28,7 +28,8 @@ class JobParser {
         for (const auto& [option, kind] : {std::pair{"--set", Setting::Kind::Field},
                                            std::pair{"--ordre-lieux", Setting::Kind::PlacesOrder},
                                            std::pair{"--colonnes", Setting::Kind::Columns}}) {
-            ordered_[sub_.add_option(option)->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)] = kind;
+            ordered_[sub_.add_option(option)->expected(1)->multi_option_policy(
+                CLI::MultiOptionPolicy::TakeAll)] = kind;
         }
         ordered_[sub_.add_flag("--sans-familles")] = Setting::Kind::WithoutFamilies;
         sub_.add_option("--marquer", marked_);
@@ -64,8 +65,10 @@ std::string Joined(const std::vector<std::string>& words) {
 /// The library's message, in French.
 std::string Translated(const CLI::ParseError& error, const CLI::App& app) {
     const std::string what = error.what();
-    if (error.get_name() == "ExtrasError") return "argument inconnu ou pas encore possible : " + Joined(app.remaining(true));
-    if (error.get_name() == "ArgumentMismatch") return "valeur manquante ou en trop pour " + what.substr(0, what.find(':'));
+    if (error.get_name() == "ExtrasError")
+        return "argument inconnu ou pas encore possible : " + Joined(app.remaining(true));
+    if (error.get_name() == "ArgumentMismatch")
+        return "valeur manquante ou en trop pour " + what.substr(0, what.find(':'));
     return "arguments incorrects (" + what + ")";
 }
 
@@ -102,7 +105,8 @@ Arguments ParseArguments(int argc, const char* const* argv) {
         return arguments;
     }
     const bool isTables = tables.Sub().parsed();
-    if (!isTables && !releve.Sub().parsed()) throw UsageError("il manque le travail à faire : tables ou releve");
+    if (!isTables && !releve.Sub().parsed())
+        throw UsageError("il manque le travail à faire : tables ou releve");
     arguments.job = isTables ? Job::Tables : Job::Releve;
     (isTables ? tables : releve).Collect();
     arguments.tables = SplitList(tableList);

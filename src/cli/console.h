@@ -32,7 +32,8 @@ class HeadlessDialogs : public Dialogs {
     bool hasRefusal_ = false;
 };
 
-/// The progress line of a terminal: a bar, the percentage and the status text, redrawn at most ten times a second.
+/// The progress line of a terminal: a bar, the percentage and the status text, redrawn at most ten times a
+/// second.
 class TerminalProgress : public StatusObserver {
   public:
     explicit TerminalProgress(bool enabled) : enabled_(enabled) {}

@@ -89,7 +89,9 @@ class Runner {
         const std::string formats[] = {"html", "texte", "xml"};
         int format = 0;
         const Text name = LowerCaseAscii(FileNamePart(dialogs_.outputFile));
-        const auto hasExtension = [&](TextView extension) { return name.ends_with("." + LowerCaseAscii(extension)); };
+        const auto hasExtension = [&](TextView extension) {
+            return name.ends_with("." + LowerCaseAscii(extension));
+        };
         for (int i = 0; i < 3; ++i) {
             if (hasExtension(main_.txtOutExtension[static_cast<std::size_t>(i)].Get())) format = i;
         }
@@ -114,8 +116,8 @@ class Runner {
         failed_ = true;
     }
 
-    /// Puts the input in its place and looks at the outputs; false when the job is refused, with nothing read or
-    /// written.
+    /// Puts the input in its place and looks at the outputs; false when the job is refused, with nothing read
+    /// or written.
     bool Prepared() {
         const Text input = FileNameToText(arguments_.input);
         main_.cboGedIn.SetText(input);
@@ -183,7 +185,8 @@ class Runner {
     void Finish() {
         progress_.Wipe();
         if (arguments_.quiet) return;
-        for (const Panel* panel : {&main_.pnlLines, &main_.pnlIndividuals, &main_.pnlFamilies, &main_.pnlMessage}) {
+        for (const Panel* panel :
+             {&main_.pnlLines, &main_.pnlIndividuals, &main_.pnlFamilies, &main_.pnlMessage}) {
             if (!panel->Get().empty()) PrintError(panel->Get());
         }
     }
@@ -202,8 +205,6 @@ class Runner {
 
 }  // namespace
 
-int RunJob(const Arguments& arguments) {
-    return Runner(arguments).Run();
-}
+int RunJob(const Arguments& arguments) { return Runner(arguments).Run(); }
 
 }  // namespace swiftroll::cli

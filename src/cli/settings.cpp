@@ -67,7 +67,9 @@ void ApplySettings(frmMain& main, const std::vector<Setting>& settings) {
 
 void ArrangeColumns(frmMain& main, const std::vector<std::string>& keys) {
     std::vector<Column*> order;
-    const auto isPlaced = [&](const Column* column) { return std::find(order.begin(), order.end(), column) != order.end(); };
+    const auto isPlaced = [&](const Column* column) {
+        return std::find(order.begin(), order.end(), column) != order.end();
+    };
     for (const std::string& key : keys) {
         Column* column = main.lvwOut.FindColumn(TextOf(key));
         if (column == nullptr || column->Key == "Number") throw UsageError("colonne inconnue : " + key);

@@ -7,6 +7,13 @@ namespace {
 
 constexpr std::size_t kYearDigits = 4;
 
+/// Order of two texts by byte values. Years are so short that a loop beats a call.
+bool IsLess(TextView a, TextView b) {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+        return static_cast<unsigned char>(x) < static_cast<unsigned char>(y);
+    });
+}
+
 }  // namespace
 
 Years GetYears(TextView sDate) {
@@ -35,13 +42,14 @@ TextView TakeDateMin(TextView sBirth, TextView sDeath, TextView sMarr) {
     constexpr TextView kLater = "99999";
     TextView smallest = kLater;
     for (const TextView year : {sBirth, sDeath, sMarr}) {
-        if (!year.empty() && year < smallest) smallest = year;
+        if (!year.empty() && IsLess(year, smallest)) smallest = year;
     }
-    return smallest == kLater ? TextView() : smallest;
+    return smallest.data() == kLater.data() ? TextView() : smallest;
 }
 
 TextView TakeDateMax(TextView sBirth, TextView sDeath, TextView sMarr) {
-    return std::max({sBirth, sDeath, sMarr});
+    const TextView later = IsLess(sBirth, sDeath) ? sDeath : sBirth;
+    return IsLess(later, sMarr) ? sMarr : later;
 }
 
 }  // namespace swiftroll::modReadGedcom

@@ -15,8 +15,8 @@ struct Years {
     std::int32_t lYearMax = kNoYearMax;
 };
 
-/// Every run of four digits in `sDate` is a year, whatever stands around it; months, keywords and calendars mean
-/// nothing, so that ranges and dual dates give their extremes.
+/// Every run of four digits in `sDate` is a year, whatever stands around it; months, keywords and calendars
+/// mean nothing, so that ranges and dual dates give their extremes.
 Years GetYears(TextView sDate);
 
 /// The smallest or the largest of the non-empty years, compared as texts; empty when all are.

@@ -10,38 +10,42 @@ namespace {
 
 constexpr std::int32_t kStatusStep = 200;
 
-/// The two display forms of a person, each made once a read.
+/// The display names of all individuals, made in one pass in the order of `lvwIn`, which does not change
+/// meanwhile.
 class DisplayNames {
   public:
     explicit DisplayNames(Application& app)
-        : in_(app.lvwIn), store_(app.lvwIn.Store()), nameless_(store_.Intern(", ")), names_(SizeOf(app.lvwIn)) {}
+        : in_(app.lvwIn),
+          nameless_(app.lvwIn.Store().Intern(", ")),
+          names_(static_cast<std::size_t>(in_.Count())) {
+        TextStore& store = in_.Store();
+        Text text;
+        for (std::int32_t i = 1; i <= in_.Count(); ++i) {
+            const Row person = in_.Item(i);
+            text.assign(person.Cell(In::LastName)).append(", ").append(person.Cell(In::FirstName));
+            names_[static_cast<std::size_t>(i - 1)] = text == ", " ? nameless_ : store.Put(text);
+        }
+    }
 
     /// `LastName`, ", ", `FirstName`, as they stand.
-    TextRef AsTheyStand(const Row& person) {
-        TextRef& name = names_[static_cast<std::size_t>(person.Index() - 1)];
-        if (name.IsEmpty()) {
-            const Text text = Concat({person.Cell(In::LastName), ", ", person.Cell(In::FirstName)});
-            name = text == ", " ? nameless_ : store_.Put(text);
-        }
-        return name;
+    TextRef AsTheyStand(const Row& person) const {
+        return names_[static_cast<std::size_t>(person.Index() - 1)];
     }
     /// The same, but empty for a person without names.
-    TextRef Of(const Row& person) {
+    TextRef Of(const Row& person) const {
         const TextRef name = AsTheyStand(person);
         return name == nameless_ ? TextRef() : name;
     }
     /// The name of the individual of an identifier; empty when there is none.
-    TextRef OfId(TextRef id) {
+    TextRef OfId(TextRef id) const {
         const auto person = in_.Find(RowKey(id));
         return person ? Of(*person) : TextRef();
     }
 
   private:
-    static std::size_t SizeOf(const Table& table) { return static_cast<std::size_t>(table.Count()); }
     Table& in_;
-    TextStore& store_;
     TextRef nameless_;
-    std::vector<TextRef> names_;  // by row of lvwIn, whose order does not change meanwhile
+    std::vector<TextRef> names_;
 };
 
 class FamilyCopier {
@@ -54,14 +58,15 @@ class FamilyCopier {
         for (std::int32_t i = 1; i <= count; ++i) {
             Row family = app_.lvwFamily.Item(i);
             app_.ProgressBar1.Show(i, count);
-            family.SetCell(Family::Husb, names_.OfId(family.Ref(Family::IDHusb)));
-            family.SetCell(Family::Wife, names_.OfId(family.Ref(Family::IDWife)));
-            family.SetCell(Family::Fams, names_.OfId(family.Ref(Family::IDFams)));
+            Widths& widths = app_.lMaxLenFamily;
+            SetCell(family, Family::Husb, names_.OfId(family.Ref(Family::IDHusb)), widths);
+            SetCell(family, Family::Wife, names_.OfId(family.Ref(Family::IDWife)), widths);
+            SetCell(family, Family::Fams, names_.OfId(family.Ref(Family::IDFams)), widths);
             const TextView husband = family.Cell(Family::Husb), wife = family.Cell(Family::Wife);
             const TextView other = family.Cell(Family::Fams);
-            family.SetCell(Family::Fam, store.Put(Concat({husband.empty() ? other : husband, " x ",
-                                                         husband.empty() || !wife.empty() ? wife : other})));
-            SetMaxLen(family, app_.lMaxLenFamily);
+            const Text label = Concat(
+                {husband.empty() ? other : husband, " x ", husband.empty() || !wife.empty() ? wife : other});
+            SetCell(family, Family::Fam, store.Put(label), widths);
         }
     }
 
@@ -69,18 +74,25 @@ class FamilyCopier {
         const std::int32_t count = app_.lvwFamilyXref.Count();
         std::int32_t lFamIndex = 0;
         std::optional<Row> family;
+        bool marriageCopied = false;
         for (std::int32_t i = 1; i <= count; ++i) {
             if (i % kStatusStep == 0) ShowStatus(i, count);
             Row member = app_.lvwFamilyXref.Item(i);
-            // Both tables stand in the order of the family identifiers; families without members are passed over.
-            while (!family || family->Text() != member.Text()) family = app_.lvwFamily.Item(++lFamIndex);
+            // Both tables stand in the order of the family identifiers; families without members are passed
+            // over.
+            while (!family || family->Ref(Family::IDFam) != member.Ref(FamilyXref::IDFam)) {
+                family = app_.lvwFamily.Item(++lFamIndex);
+                marriageCopied = false;
+            }
+            Widths& widths = app_.lMaxLenFamilyXref;
             member.SetCell(FamilyXref::Family, family->Ref(Family::Fam));
             const auto person = app_.lvwIn.Find(RowKey(member.Ref(FamilyXref::IDIndi)));
             if (!person) continue;
-            member.SetCell(FamilyXref::Indi, names_.Of(*person));
+            SetCell(member, FamilyXref::Indi, names_.Of(*person), widths);
             LinkMember(member, *person, *family);
-            SetMaxLen(member, app_.lMaxLenFamilyXref);
-            FillLvwIn(*family);
+            SetMaxLen(member, widths);
+            // The same for every member, so once is enough.
+            if (!std::exchange(marriageCopied, true)) FillLvwIn(*family);
             if (app_.bAbort) break;
         }
         ShowStatus(count, count);
@@ -112,12 +124,19 @@ class FamilyCopier {
     void LinkChild(Row& member, const Row& person, const Row& family) {
         const LinkWords& words = links_.Words();
         const TextRef sex = person.Ref(In::Sex);
-        const TextRef childType = sex == words.Male ? words.Son : sex == words.Female ? words.Daughter : words.Child;
+        const TextRef childType = sex == words.Male     ? words.Son
+                                  : sex == words.Female ? words.Daughter
+                                                        : words.Child;
         member.SetCell(FamilyXref::Sex, sex);
         member.SetCell(FamilyXref::Type, childType);
-        const bool hasHusband = !family.Ref(Family::IDHusb).IsEmpty(), hasWife = !family.Ref(Family::IDWife).IsEmpty();
-        const TextRef parent = family.Ref(hasHusband ? Family::IDHusb : hasWife ? Family::IDWife : Family::IDFams);
-        const TextRef parentName = family.Ref(hasHusband ? Family::Husb : hasWife ? Family::Wife : Family::Fams);
+        const bool hasHusband = !family.Ref(Family::IDHusb).IsEmpty(),
+                   hasWife = !family.Ref(Family::IDWife).IsEmpty();
+        const TextRef parent = family.Ref(hasHusband ? Family::IDHusb
+                                          : hasWife  ? Family::IDWife
+                                                     : Family::IDFams);
+        const TextRef parentName = family.Ref(hasHusband ? Family::Husb
+                                              : hasWife  ? Family::Wife
+                                                         : Family::Fams);
         const TextRef wayBack = hasHusband ? words.Father : hasWife ? words.Mother : childType;
         const TextRef child = member.Ref(FamilyXref::IDIndi), childName = names_.AsTheyStand(person);
         const TextRef idFam = family.Ref(Family::IDFam), label = family.Ref(Family::Fam);

@@ -10,33 +10,49 @@ namespace {
 
 constexpr std::int32_t kStatusStep = 100;
 
-/// Gives `sIsland` to a row and to all that can be reached from it. The rows still to visit stand on a stack of
-/// our own: a chain of a million people is no danger.
-void CalcIsland(Application& app, const XrefRanges& colXrefRange, TextRef sIsland, const Row& start) {
-    std::vector<Row> toVisit{start};
-    toVisit.back().SetCell(In::IslandNr, sIsland);
-    while (!toVisit.empty()) {
-        const Row person = toVisit.back();
-        toVisit.pop_back();
-        RowRange range;
-        std::int32_t i = 0;
-        app.trail.Guard(
-            "CalcIsland",
-            [&] {
-                range = colXrefRange.Find(person.Text()).value_or(RowRange{1, 0});
-                for (i = range.first; i <= range.last; ++i) {
-                    const auto linked = app.lvwIn.Find(RowKey(app.lvwXref.Item(i).Ref(Xref::IDIndi2)));
-                    if (!linked || !linked->Ref(In::IslandNr).IsEmpty()) continue;
-                    toVisit.push_back(*linked);
-                    toVisit.back().SetCell(In::IslandNr, sIsland);
-                }
-            },
-            [&] {
-                return Concat({person.Text(), "/", Decimal(range.first), "/", Decimal(range.last), "/", Decimal(i), "/",
-                               start.Cell(In::IslandNr)});
-            });
+/// The links as numbers: rows of `lvwIn` from 0, and for each the links that leave it. The walk then stays in
+/// small arrays, wherever the rows stand in memory.
+class LinkGraph {
+  public:
+    LinkGraph(Application& app, const XrefRanges& colXrefRange) {
+        targets_.reserve(static_cast<std::size_t>(app.lvwXref.Count()));
+        for (std::int32_t i = 1; i <= app.lvwXref.Count(); ++i) {
+            const auto linked = app.lvwIn.Find(RowKey(app.lvwXref.Item(i).Ref(Xref::IDIndi2)));
+            targets_.push_back(linked ? linked->Index() - 1 : kNobody);
+        }
+        ranges_.reserve(static_cast<std::size_t>(app.lvwIn.Count()));
+        for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
+            ranges_.push_back(colXrefRange.Find(app.lvwIn.Item(i).Text()).value_or(RowRange{1, 0}));
+        }
     }
-}
+
+    /// Gives `island` to a person and to all that can be reached from it without one. The people still to
+    /// visit stand on a stack of our own: a chain of a million is no danger.
+    void CalcIsland(std::int32_t island, std::int32_t start, std::vector<std::int32_t>& islandOf) {
+        toVisit_.assign(1, start);
+        At(islandOf, start) = island;
+        while (!toVisit_.empty()) {
+            const RowRange links = At(ranges_, toVisit_.back());
+            toVisit_.pop_back();
+            for (std::int32_t i = links.first; i <= links.last; ++i) {
+                const std::int32_t person = At(targets_, i - 1);
+                if (person == kNobody || At(islandOf, person) != 0) continue;
+                At(islandOf, person) = island;
+                toVisit_.push_back(person);
+            }
+        }
+    }
+
+  private:
+    static constexpr std::int32_t kNobody = -1;
+    template <class Value>
+    static Value& At(std::vector<Value>& values, std::int32_t i) {
+        return values.at(static_cast<std::size_t>(i));
+    }
+    std::vector<std::int32_t> targets_;  // by row of lvwXref
+    std::vector<RowRange> ranges_;       // by row of lvwIn
+    std::vector<std::int32_t> toVisit_;
+};
 
 }  // namespace
 
@@ -45,15 +61,22 @@ void CalcIslands(Application& app, const XrefRanges& colXrefRange) {
         "CalcIslands",
         [&] {
             app.lvwXref.SortBy(0, 0);
+            LinkGraph graph(app, colXrefRange);
+            const std::int32_t count = app.lvwIn.Count();
+            std::vector<std::int32_t> islandOf(static_cast<std::size_t>(count));
+            std::vector<TextRef> texts{TextRef()};  // by island
             std::int32_t lIslandNr = 0;
             const auto showCount = [&] {
                 app.pnlMessage.Set(Concat({"Calcul des îlots... ("_t, Decimal(lIslandNr), ")"}));
             };
-            for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
-                const Row person = app.lvwIn.Item(i);
-                if (!person.Ref(In::IslandNr).IsEmpty()) continue;
-                if (++lIslandNr % kStatusStep == 0) showCount();
-                CalcIsland(app, colXrefRange, app.lvwIn.Store().Put(Decimal(lIslandNr, 4)), person);
+            for (std::int32_t i = 0; i < count; ++i) {
+                std::int32_t& island = islandOf[static_cast<std::size_t>(i)];
+                if (island == 0) {
+                    if (++lIslandNr % kStatusStep == 0) showCount();
+                    texts.push_back(app.lvwIn.Store().Put(Decimal(lIslandNr, 4)));
+                    graph.CalcIsland(lIslandNr, i, islandOf);
+                }
+                app.lvwIn.Item(i + 1).SetCell(In::IslandNr, texts[static_cast<std::size_t>(island)]);
             }
             showCount();
         },

@@ -4,8 +4,8 @@
 
 namespace swiftroll::modReadGedcom {
 
-/// Numbers the islands, the connected components of the links, in `IslandNr` of `lvwIn`, in the order of their
-/// first individuals. `colXrefRange` is that of `lvwXref`. Linear in individuals and links.
+/// Numbers the islands, the connected components of the links, in `IslandNr` of `lvwIn`, in the order of
+/// their first individuals. `colXrefRange` is that of `lvwXref`. Linear in individuals and links.
 void CalcIslands(Application& app, const XrefRanges& colXrefRange);
 
 }  // namespace swiftroll::modReadGedcom

@@ -94,11 +94,10 @@ std::int32_t LineReader::Read1Line() {
 }
 
 bool LineReader::AskToGoOn(const Failure& failure) {
-    const BoxAnswer answer = app_.Box(
-        " - Erreur Ligne"_t,
-        Concat({Decimal(failure.Number()), ": ", failure.What(), kLineEnd, "Ligne ", Decimal(lNrLines), kLineEnd,
-                TrimRight(sLine)}),
-        BoxButtons::OkCancel, BoxIcon::Question, BoxTopic::LineError);
+    const BoxAnswer answer = app_.Box(" - Erreur Ligne"_t,
+                                      Concat({Decimal(failure.Number()), ": ", failure.What(), kLineEnd,
+                                              "Ligne ", Decimal(lNrLines), kLineEnd, TrimRight(sLine)}),
+                                      BoxButtons::OkCancel, BoxIcon::Question, BoxTopic::LineError);
     app_.pnlMessage.Set("Erreur !"_t);
     if (answer == BoxAnswer::Ok) return true;
     app_.bAbort = true;
@@ -120,7 +119,8 @@ std::int32_t LineReader::ReadAndSplit() {
     if (lNrLines % 1000 == 999) ShowProgress();
     const bool oneDigit = SplitLine();
     if (iLevel == 0) {
-        if (!NoteRecordStart(scanner_->LinePosition()) && !AskToGoOn(Failure(FailureKind::DuplicateKey))) return -1;
+        if (!NoteRecordStart(scanner_->LinePosition()) && !AskToGoOn(Failure(FailureKind::DuplicateKey)))
+            return -1;
     } else if (!oneDigit) {
         NoteRecordEnd(scanner_->LinePosition());
     }
@@ -137,6 +137,11 @@ void LineReader::ShowProgress() {
 bool LineReader::SplitLine() {
     // Number of characters up to and with the first blank. Junk in front of the level, such as a byte order
     // mark, is removed and lowers it, so that junk with a blank in it leaves nothing to take a level from.
+    if (sLine.size() > 1 && sLine[1] == ' ' && sLine[0] >= '0' && sLine[0] <= '9') {
+        iLevel = static_cast<std::int16_t>(sLine[0] - '0');
+        TakeFields(sLine.substr(2));
+        return true;
+    }
     auto p = static_cast<std::int64_t>(sLine.find(' ') + 1);
     const auto digit = std::min(sLine.find_first_of("0123456789"), sLine.size());
     sLine.remove_prefix(digit);
@@ -149,13 +154,17 @@ bool LineReader::SplitLine() {
     if (p < 0 || sLine.empty()) throw Failure(FailureKind::InvalidArgument);
     if (p == 0) throw Failure(FailureKind::TypeMismatch);
     iLevel = LevelOf(sLine.substr(0, static_cast<std::size_t>(p - 1)));
-    const TextView rest = sLine.substr(static_cast<std::size_t>(p));
+    TakeFields(sLine.substr(static_cast<std::size_t>(p)));
+    return p <= 2;
+}
+
+void LineReader::TakeFields(TextView rest) {
     sXrefDef = GetXrefDef(rest);
     sLine = TrimLeft(rest.substr(sXrefDef.size()));
-    const auto blank = sLine.find(' ');
+    std::size_t blank = 0;
+    while (blank < sLine.size() && sLine[blank] != ' ') ++blank;
     sTag = sLine.substr(0, blank);
-    sValue = blank == TextView::npos ? TextView() : sLine.substr(blank + 1);
-    return p <= 2;
+    sValue = blank == sLine.size() ? TextView() : sLine.substr(blank + 1);
 }
 
 bool LineReader::NoteRecordStart(std::int64_t position) {
@@ -164,7 +173,11 @@ bool LineReader::NoteRecordStart(std::int64_t position) {
     const RecordRange closed{lPrevPos, lCurPos};
     if (sPrevTag == "HEAD") head = closed;
     if (sPrevTag == "SUBN") subn = closed;
-    const bool isNew = sPrevXref.empty() || colRecords_->Add(Concat({sPrevTag, " ", sPrevXref}), closed);
+    bool isNew = true;
+    if (!sPrevXref.empty()) {
+        sRecordKey_.assign(sPrevTag).append(1, ' ').append(sPrevXref);
+        isNew = colRecords_->Add(sRecordKey_, closed);
+    }
     sPrevTag = sTag;
     sPrevXref = sXrefDef;
     return isNew;

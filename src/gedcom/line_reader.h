@@ -15,18 +15,20 @@ struct RecordRange {
     friend bool operator==(const RecordRange&, const RecordRange&) = default;
 };
 
-/// Reads a GEDCOM file line by line, split into level, cross-reference, tag and value, and keeps the byte range
-/// of every level-0 record, so that records can be copied out of the file unchanged.
+/// Reads a GEDCOM file line by line, split into level, cross-reference, tag and value, and keeps the byte
+/// range of every level-0 record, so that records can be copied out of the file unchanged.
 class LineReader {
   public:
     explicit LineReader(Application& app) : app_(app) {}
 
-    /// Opens `sFile`; false after a box when it cannot be opened or is larger than positions can tell (2 GiB).
+    /// Opens `sFile`; false after a box when it cannot be opened or is larger than positions can tell (2
+    /// GiB).
     bool InitGedcom(TextView sFile);
     /// Sets positions and record ranges back for a new pass.
     void ResetRecords();
-    /// Goes to the next line that holds something. 0: the line stands in the fields below. Any other value: no
-    /// further line shall be taken; -1 is the end of the file or the user's abort, 1 a level of several digits.
+    /// Goes to the next line that holds something. 0: the line stands in the fields below. Any other value:
+    /// no further line shall be taken; -1 is the end of the file or the user's abort, 1 a level of several
+    /// digits.
     std::int32_t Read1Line();
     void Close() { scanner_.reset(); }
 
@@ -48,13 +50,16 @@ class LineReader {
     // Positions of the last two level-0 lines, and so the range of the record that the last one closed.
     std::int64_t lPrevPos = 1, lCurPos = 1;
     RecordRange head, subn;
-    /// Range of every level-0 record that has a cross-reference, under its tag, a blank and the cross-reference.
+    /// Range of every level-0 record that has a cross-reference, under its tag, a blank and the
+    /// cross-reference.
     const KeyedCollection<RecordRange>& colRecords() const { return *colRecords_; }
 
   private:
     std::int32_t ReadAndSplit();
     /// Splits `sLine`; true when the level has one digit. @throws Failure when it does not begin with a level
     bool SplitLine();
+    /// Takes cross-reference, tag and value from what stands behind the level.
+    void TakeFields(TextView rest);
     void ShowProgress();
     /// Notes that a record ends and another one starts at `position`; false when a record of the same tag and
     /// cross-reference was there before.
@@ -65,12 +70,14 @@ class LineReader {
 
     Application& app_;
     std::optional<LineScanner> scanner_;
-    std::unique_ptr<KeyedCollection<RecordRange>> colRecords_ = std::make_unique<KeyedCollection<RecordRange>>();
+    std::unique_ptr<KeyedCollection<RecordRange>> colRecords_ =
+        std::make_unique<KeyedCollection<RecordRange>>();
     Text sPrevTag, sPrevXref;
+    Text sRecordKey_;  // kept for its memory
 };
 
-/// The cross-reference at the head of `sText`, both "@" included, or all of it when the second "@" is missing;
-/// empty when the text does not begin with "@".
+/// The cross-reference at the head of `sText`, both "@" included, or all of it when the second "@" is
+/// missing; empty when the text does not begin with "@".
 TextView GetXrefDef(TextView sText);
 /// The trimmed text when it both starts and ends with "@", else the empty text.
 TextView GetXrefUsed(TextView sText);

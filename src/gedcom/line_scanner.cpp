@@ -1,6 +1,7 @@
 #include "gedcom/line_scanner.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace swiftroll::modReadGedcom {
@@ -8,14 +9,27 @@ namespace {
 
 constexpr std::size_t kBlock = std::size_t{1} << 18;
 
-bool IsLineEnd(char c) {
-    return c == '\r' || c == '\n';
+bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+/// High bit of each byte of `word` that equals `c`, the lowest of them exact.
+std::uint64_t Matches(std::uint64_t word, char c) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101u, kHighs = 0x8080808080808080u;
+    const std::uint64_t zeros = word ^ (kOnes * static_cast<unsigned char>(c));
+    return (zeros - kOnes) & ~zeros & kHighs;
 }
 
-std::size_t FindFrom(const char* bytes, std::size_t from, std::size_t size, char c) {
-    if (from >= size) return size;
-    const void* found = std::memchr(bytes + from, c, size - from);
-    return found == nullptr ? size : static_cast<std::size_t>(static_cast<const char*>(found) - bytes);
+/// Place of the first line end from `from` on, `size` when there is none. Eight bytes at a time.
+std::size_t FindLineEndFrom(const char* bytes, std::size_t from, std::size_t size) {
+    for (; from + sizeof(std::uint64_t) <= size; from += sizeof(std::uint64_t)) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, bytes + from, sizeof word);
+        const std::uint64_t found = Matches(word, '\r') | Matches(word, '\n');
+        if (found == 0) continue;
+        if constexpr (std::endian::native != std::endian::little) break;
+        return from + static_cast<std::size_t>(std::countr_zero(found)) / 8;
+    }
+    while (from < size && !IsLineEnd(bytes[from])) ++from;
+    return from;
 }
 
 }  // namespace
@@ -30,18 +44,12 @@ bool LineScanner::Fill(std::size_t keepFrom) {
     next_ -= keepFrom;
     lineStart_ -= std::min(lineStart_, keepFrom);
     lineEnd_ -= std::min(lineEnd_, keepFrom);
-    // What was searched without success stays searched.
-    lineFeed_ -= std::min(lineFeed_, keepFrom);
-    carriageReturn_ -= std::min(carriageReturn_, keepFrom);
-    const bool noLineFeed = lineFeed_ == kept, noCarriageReturn = carriageReturn_ == kept;
     size_ = kept;
     if (buffer_.size() - kept < kBlock / 2) buffer_.resize(2 * buffer_.size());
     ended_ = true;  // also when reading fails
     const std::size_t added = file_->Read(buffer_.data() + kept, buffer_.size() - kept);
     ended_ = added == 0;
     size_ += added;
-    if (noLineFeed) lineFeed_ = FindFrom(buffer_.data(), kept, size_, '\n');
-    if (noCarriageReturn) carriageReturn_ = FindFrom(buffer_.data(), kept, size_, '\r');
     return added > 0;
 }
 
@@ -57,10 +65,9 @@ bool LineScanner::SkipToText() {
 }
 
 bool LineScanner::FindLineEnd() {
+    lineEnd_ = next_;
     for (;;) {
-        if (lineFeed_ < next_) lineFeed_ = FindFrom(buffer_.data(), next_, size_, '\n');
-        if (carriageReturn_ < next_) carriageReturn_ = FindFrom(buffer_.data(), next_, size_, '\r');
-        lineEnd_ = std::min(lineFeed_, carriageReturn_);
+        lineEnd_ = FindLineEndFrom(buffer_.data(), lineEnd_, size_);
         if (lineEnd_ < size_) return true;
         if (!Fill(lineStart_)) return false;
     }

@@ -14,8 +14,8 @@ class LineScanner {
   public:
     explicit LineScanner(std::unique_ptr<File> file);
 
-    /// Goes to the next line; false at the end of the file. A last line whose end is the file's very last byte,
-    /// or that has no end, is not handed out: `Line` then holds it, empty when there is none.
+    /// Goes to the next line; false at the end of the file. A last line whose end is the file's very last
+    /// byte, or that has no end, is not handed out: `Line` then holds it, empty when there is none.
     /// @throws Failure FileAccess; the file then counts as ended
     bool Next();
     /// The line without its leading blanks and its end; valid until `Next`.
@@ -32,13 +32,10 @@ class LineScanner {
 
     std::unique_ptr<File> file_;
     std::vector<char> buffer_;
-    std::size_t size_ = 0;              // bytes in the buffer
-    std::int64_t bufferPosition_ = 0;   // position in the file, from 0, of the first of them
+    std::size_t size_ = 0;             // bytes in the buffer
+    std::int64_t bufferPosition_ = 0;  // position in the file, from 0, of the first of them
     std::size_t next_ = 0;
     std::size_t lineStart_ = 0, lineEnd_ = 0;
-    // First line feed and carriage return at or behind `next_`: each byte is searched once for each of them,
-    // whichever of them the file uses.
-    std::size_t lineFeed_ = 0, carriageReturn_ = 0;
     std::int64_t linePosition_ = 1;
     bool ended_ = false;
 };

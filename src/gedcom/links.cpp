@@ -8,6 +8,18 @@
 
 namespace swiftroll::modReadGedcom {
 
+namespace {
+
+/// The row of a key; a new one has `text` in its first cell.
+Row RowOf(Table& table, RowKey key, TextRef text, Widths& widths) {
+    const std::int32_t before = table.Count();
+    Row row = table.FindOrAdd(key, text);
+    if (table.Count() != before) SetCell(row, 1, text, widths);
+    return row;
+}
+
+}  // namespace
+
 LinkWords::LinkWords(TextStore& store)
     : Husband(store.Intern("Epoux"_t)),
       Wife(store.Intern("Epouse"_t)),
@@ -32,15 +44,15 @@ void Links::AddFamilyXRef(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sS
     app_.trail.Guard(
         "AddFamilyXRef",
         [&] {
-            const RowKey key(sFam, sIndi);
-            const auto known = app_.lvwFamilyXref.Find(key);
-            Row row = known ? *known : app_.lvwFamilyXref.Add(std::nullopt, key, sFam);
-            row.SetCell(FamilyXref::Type, sType);
-            row.SetCell(FamilyXref::IDIndi, sIndi);
-            row.SetCell(FamilyXref::Sex, sSex);
-            SetMaxLen(row, app_.lMaxLenFamilyXref);
+            Widths& widths = app_.lMaxLenFamilyXref;
+            Row row = RowOf(app_.lvwFamilyXref, RowKey(sFam, sIndi), sFam, widths);
+            SetCell(row, FamilyXref::Type, sType, widths);
+            SetCell(row, FamilyXref::IDIndi, sIndi, widths);
+            SetCell(row, FamilyXref::Sex, sSex, widths);
         },
-        [&] { return Report({sFam, sType, sIndi, sSex}); });
+        [&] {
+            return Report({sFam, sType, sIndi, sSex});
+        });
 }
 
 Row Links::AddFamily(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sPlace, std::int32_t lMin,
@@ -50,44 +62,43 @@ Row Links::AddFamily(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sPlace,
         "AddFamily",
         [&] {
             TextStore& store = app_.lvwFamily.Store();
-            const RowKey key(sFam);
-            row = app_.lvwFamily.Find(key);
-            if (!row) row = app_.lvwFamily.Add(std::nullopt, key, sFam);
-            if (sType == words_.Husband) row->SetCell(Family::IDHusb, sIndi);
-            if (sType == words_.Wife) row->SetCell(Family::IDWife, sIndi);
-            if (!sPlace.IsEmpty()) row->SetCell(Family::MarrPlace, sPlace);
+            Widths& widths = app_.lMaxLenFamily;
+            row = RowOf(app_.lvwFamily, RowKey(sFam), sFam, widths);
+            if (sType == words_.Husband) SetCell(*row, Family::IDHusb, sIndi, widths);
+            if (sType == words_.Wife) SetCell(*row, Family::IDWife, sIndi, widths);
+            if (!sPlace.IsEmpty()) SetCell(*row, Family::MarrPlace, sPlace, widths);
             const auto year = [&](std::int32_t value, std::int32_t none) {
                 return value == none ? TextRef() : store.Intern(Decimal(value));
             };
-            if (lMin != 0) row->SetCell(Family::MarrMin, year(lMin, kNoYearMin));
-            if (lMax != 0) row->SetCell(Family::MarrMax, year(lMax, kNoYearMax));
-            SetMaxLen(*row, app_.lMaxLenFamily);
+            if (lMin != 0) SetCell(*row, Family::MarrMin, year(lMin, kNoYearMin), widths);
+            if (lMax != 0) SetCell(*row, Family::MarrMax, year(lMax, kNoYearMax), widths);
         },
         [&] {
-            app_.trail.ErrorLog(Concat({Report({sFam, sType, sIndi, sPlace}), "/", Decimal(lMin), "/", Decimal(lMax)}));
+            app_.trail.ErrorLog(
+                Concat({Report({sFam, sType, sIndi, sPlace}), "/", Decimal(lMin), "/", Decimal(lMax)}));
             throw ProgramEnd{};
         });
     return *row;
 }
 
-void Links::AddXrefXRef(TextRef sId1, TextRef sType, TextRef sId2, TextRef sName1, TextRef sName2, TextRef sFam,
-                        TextRef sFamLabel) {
+void Links::AddXrefXRef(TextRef sId1, TextRef sType, TextRef sId2, TextRef sName1, TextRef sName2,
+                        TextRef sFam, TextRef sFamLabel) {
     app_.trail.Guard(
         "AddXrefXRef",
         [&] {
-            const RowKey key(sId1, sId2);
-            const auto known = app_.lvwXref.Find(key);
-            Row row = known ? *known : app_.lvwXref.Add(std::nullopt, key, sId1);
+            Widths& widths = app_.lMaxLenXref;
+            Row row = RowOf(app_.lvwXref, RowKey(sId1, sId2), sId1, widths);
             if (sId1.IsEmpty()) return;
-            row.SetCell(Xref::Type, sType);
-            row.SetCell(Xref::IDIndi2, sId2);
-            row.SetCell(Xref::Indi1, sName1);
-            row.SetCell(Xref::Indi2, sName2);
-            row.SetCell(Xref::IDFamily, sFam);
-            row.SetCell(Xref::Family, sFamLabel);
-            SetMaxLen(row, app_.lMaxLenXref);
+            SetCell(row, Xref::Type, sType, widths);
+            SetCell(row, Xref::IDIndi2, sId2, widths);
+            SetCell(row, Xref::Indi1, sName1, widths);
+            SetCell(row, Xref::Indi2, sName2, widths);
+            SetCell(row, Xref::IDFamily, sFam, widths);
+            SetCell(row, Xref::Family, sFamLabel, widths);
         },
-        [&] { return Report({sId1, sType, sId2, sName1, sName2, sFam, sFamLabel}); });
+        [&] {
+            return Report({sId1, sType, sId2, sName1, sName2, sFam, sFamLabel});
+        });
 }
 
 std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol) {
@@ -116,7 +127,9 @@ std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int
             }
             close(count);
         },
-        [&] { return Concat({sId, " / ", Decimal(lFirst), " / ", Decimal(i)}); });
+        [&] {
+            return Concat({sId, " / ", Decimal(lFirst), " / ", Decimal(i)});
+        });
     return ranges;
 }
 

@@ -27,11 +27,13 @@ class Links {
 
     /// The row of a family and an individual; the last writer of a pair wins.
     void AddFamilyXRef(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sSex);
-    /// The row of a family, made when it is new. `sType` "Epoux" or "Epouse" writes the spouse; an empty place,
-    /// a year 0 write nothing; 99999 and -1 empty the year. A failure ends the program after its report.
-    Row AddFamily(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sPlace, std::int32_t lMin, std::int32_t lMax);
-    /// The link from one individual to another; the last writer of an ordered pair wins. An empty `sId1` writes
-    /// nothing but the row itself.
+    /// The row of a family, made when it is new. `sType` "Epoux" or "Epouse" writes the spouse; an empty
+    /// place, a year 0 write nothing; 99999 and -1 empty the year. A failure ends the program after its
+    /// report.
+    Row AddFamily(TextRef sFam, TextRef sType, TextRef sIndi, TextRef sPlace, std::int32_t lMin,
+                  std::int32_t lMax);
+    /// The link from one individual to another; the last writer of an ordered pair wins. An empty `sId1`
+    /// writes nothing but the row itself.
     void AddXrefXRef(TextRef sId1, TextRef sType, TextRef sId2, TextRef sName1, TextRef sName2, TextRef sFam,
                      TextRef sFamLabel);
 
@@ -41,8 +43,8 @@ class Links {
     LinkWords words_;
 };
 
-/// Sorts a link table by the column numbered `iSortCol` from 0 and gives the range of rows of each identifier;
-/// after a failure, which is reported, as far as it got.
+/// Sorts a link table by the column numbered `iSortCol` from 0 and gives the range of rows of each
+/// identifier; after a failure, which is reported, as far as it got.
 std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol);
 
 }  // namespace swiftroll::modReadGedcom

@@ -19,9 +19,7 @@ Text ReplaceMarker(Text text, TextView marker, TextView by) {
 
 }  // namespace
 
-TextView CleanInPlace(TextView sPlace) {
-    return sPlace.substr(0, sPlace.find_last_not_of(" ,;") + 1);
-}
+TextView CleanInPlace(TextView sPlace) { return sPlace.substr(0, sPlace.find_last_not_of(" ,;") + 1); }
 
 PlaceFormatter::PlaceFormatter(const OptionRecord& options)
     : format_(options.txtPlaceFormat.Get()),
@@ -36,7 +34,8 @@ Text PlaceFormatter::Take1Place(TextView sPlace) const {
     // One after the other, so that a marker in the text of a part is replaced in its turn.
     for (int n = 1; n <= kMostParts && sOut.find('%') != Text::npos; ++n) {
         const auto part = static_cast<std::size_t>(n - 1);
-        sOut = ReplaceMarker(std::move(sOut), "%" + Decimal(n), part < parts.size() ? Trim(parts[part]) : TextView());
+        sOut = ReplaceMarker(std::move(sOut), "%" + Decimal(n),
+                             part < parts.size() ? Trim(parts[part]) : TextView());
     }
     sOut = ReplaceMarker(std::move(sOut), "%0", sPlace);
     sOut = ReplaceMarker(std::move(sOut), "%%", "%");
@@ -62,17 +61,24 @@ void SetInDates(Application& app) {
             const PlaceFormatter formatter(app);
             TextStore& store = app.lvwIn.Store();
             // Places come again and again; each is formatted once.
-            boost::unordered_flat_map<TextView, TextRef> formatted;
+            boost::unordered_flat_map<TextRef, TextRef> formatted;
             const auto takePlace = [&](const Row& row) {
                 const std::array<TextRef, 3> places = {row.Ref(In::BirthPlace), row.Ref(In::DeathPlace),
                                                        row.Ref(In::MarrPlace)};
                 const int preferred =
                     formatter.PreferredPlace({places[0].IsEmpty(), places[1].IsEmpty(), places[2].IsEmpty()});
-                const TextView place =
-                    preferred < 0 ? TextView() : store.Get(places[static_cast<std::size_t>(preferred)]);
+                const TextRef place = preferred < 0 ? TextRef() : places[static_cast<std::size_t>(preferred)];
                 const auto [known, isNew] = formatted.try_emplace(place);
-                if (isNew) known->second = store.Intern(formatter.Take1Place(place));
+                if (isNew) known->second = store.Intern(formatter.Take1Place(store.Get(place)));
                 return known->second;
+            };
+            // The cell of an event whose year was taken.
+            const auto cellOf = [](const Row& row, TextView year,
+                                   std::initializer_list<std::int16_t> columns) {
+                for (const std::int16_t column : columns) {
+                    if (row.Cell(column).data() == year.data()) return row.Ref(column);
+                }
+                return TextRef();
             };
             for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
                 Row row = app.lvwIn.Item(i);
@@ -80,8 +86,8 @@ void SetInDates(Application& app) {
                     TakeDateMin(row.Cell(In::BirthMin), row.Cell(In::DeathMin), row.Cell(In::MarrMin));
                 const TextView dateMax =
                     TakeDateMax(row.Cell(In::BirthMax), row.Cell(In::DeathMax), row.Cell(In::MarrMax));
-                row.SetCell(In::DateMin, store.Intern(dateMin));
-                row.SetCell(In::DateMax, store.Intern(dateMax));
+                row.SetCell(In::DateMin, cellOf(row, dateMin, {In::BirthMin, In::DeathMin, In::MarrMin}));
+                row.SetCell(In::DateMax, cellOf(row, dateMax, {In::BirthMax, In::DeathMax, In::MarrMax}));
                 row.SetCell(In::Place, takePlace(row));
                 SetMaxLen(row, app.lMaxLenIn);
             }

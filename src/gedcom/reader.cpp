@@ -32,7 +32,8 @@ void Reader::Prepare(const char*& stage, std::int16_t& counter) {
     lines.ResetRecords();
     colXrefRange = std::make_unique<XrefRanges>();
     stage = "LvwSort";
-    for (Table* table : {&app_.lvwIn, &app_.lvwFamily, &app_.lvwXref, &app_.lvwFamilyXref, &app_.lvwKinship}) {
+    for (Table* table :
+         {&app_.lvwIn, &app_.lvwFamily, &app_.lvwXref, &app_.lvwFamilyXref, &app_.lvwKinship}) {
         table->SetSorted(false);
         table->Clear();
     }
@@ -76,8 +77,8 @@ std::int32_t Reader::SkipDeeperLines() {
 bool Reader::AcceptCharset() {
     if (lines.sValue == "ASCII" || lines.sValue == "ANSI") return true;
     const BoxAnswer answer =
-        app_.Box(" - Charset"_t, Concat({lines.sValue, " : Jeu de caractères non supporté"_t}), BoxButtons::OkCancel,
-                 BoxIcon::Exclamation, BoxTopic::Charset);
+        app_.Box(" - Charset"_t, Concat({lines.sValue, " : Jeu de caractères non supporté"_t}),
+                 BoxButtons::OkCancel, BoxIcon::Exclamation, BoxTopic::Charset);
     if (answer != BoxAnswer::Cancel) return true;
     app_.bAbort = true;
     return false;

@@ -10,8 +10,8 @@ class Reader {
   public:
     explicit Reader(Application& app) : app_(app), lines(app) {}
 
-    /// Fills the tables from the file that `InitGedcom` of `lines` opened, or what was read of it when `bAbort`
-    /// is set. @throws ProgramEnd after the report of a failure of its own
+    /// Fills the tables from the file that `InitGedcom` of `lines` opened, or what was read of it when
+    /// `bAbort` is set. @throws ProgramEnd after the report of a failure of its own
     void ProcessGedcom();
 
   private:

@@ -1,8 +1,11 @@
 #include "gedcom/record_reader.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 #include "gedcom/places.h"
+#include "gedcom/tag.h"
 #include "tables/column_numbers.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -14,41 +17,39 @@ namespace {
 constexpr std::size_t kYears = 10000;
 constexpr std::int32_t kNoFamilyYearMax = 0;
 
-bool IsFamilyEvent(TextView tag) {
-    constexpr TextView kTags[] = {"MARR", "MARC", "MARL", "MARS", "ANNU", "DIV", "DIVF"};
+bool IsFamilyEvent(std::uint64_t tag) {
+    constexpr std::uint64_t kTags[] = {TagCode("MARR"), TagCode("MARC"), TagCode("MARL"), TagCode("MARS"),
+                                       TagCode("ANNU"), TagCode("DIV"),  TagCode("DIVF")};
     return std::find(std::begin(kTags), std::end(kTags), tag) != std::end(kTags);
 }
 
 }  // namespace
 
 PersonNames SplitName(TextView sValue) {
-    if (sValue.empty()) return {};
-    const std::vector<TextView> parts = Split(sValue, "/");
-    const TextView first = Trim(parts[0]);
-    switch (parts.size()) {
-        case 1:
-            return {Text(first), Text()};
-        case 2:
-            return {Text(Trim(parts[1])), Text(first)};
-        case 3: {
-            const TextView suffix = Trim(parts[2]);
-            return {Text(Trim(parts[1])), suffix.empty() ? Text(first) : Concat({first, "/", suffix})};
-        }
-        default:
-            return {Text(sValue.substr(std::min(first.size() + 1, sValue.size()))), Text(first)};
-    }
+    const auto slash1 = sValue.find('/');
+    const TextView first = Trim(sValue.substr(0, slash1));
+    if (slash1 == TextView::npos) return {first, {}, {}};
+    const TextView behind1 = sValue.substr(slash1 + 1);
+    const auto slash2 = behind1.find('/');
+    if (slash2 == TextView::npos) return {Trim(behind1), first, {}};
+    const TextView behind2 = behind1.substr(slash2 + 1);
+    if (behind2.find('/') == TextView::npos) return {Trim(behind1.substr(0, slash2)), first, Trim(behind2)};
+    // More slashes: the surname is all that stands behind the given names and one character.
+    return {sValue.substr(std::min(first.size() + 1, sValue.size())), first, {}};
 }
 
 RecordReader::RecordReader(Application& app, LineReader& lines, Links& links)
     : app_(app), lines_(lines), links_(links), store_(app.lvwIn.Store()), yearTexts_(kYears) {}
 
-TextRef RecordReader::UsedXref() const {
-    return store_.Intern(GetXrefUsed(lines_.sValue));
+TextRef RecordReader::UsedXref() const { return store_.Intern(GetXrefUsed(lines_.sValue)); }
+
+TextRef RecordReader::Sex(TextView sex) const {
+    if (sex == "M") return links_.Words().Male;
+    if (sex == "F") return links_.Words().Female;
+    return store_.Intern(sex);
 }
 
-TextRef RecordReader::Place() const {
-    return store_.Intern(CleanInPlace(lines_.sValue));
-}
+TextRef RecordReader::Place() const { return store_.Intern(CleanInPlace(lines_.sValue)); }
 
 TextRef RecordReader::YearText(std::int32_t year, std::int32_t none) {
     if (year == none) return {};
@@ -57,19 +58,26 @@ TextRef RecordReader::YearText(std::int32_t year, std::int32_t none) {
     return text;
 }
 
-Text RecordReader::CurrentRange() const {
-    return Concat({Decimal(lines_.lPrevPos), " ", Decimal(lines_.lCurPos)});
+void RecordReader::SetRange(Row& row) const {
+    constexpr std::size_t kDigits = 20;
+    std::array<char, 2 * kDigits + 1> range{};
+    char* end = std::to_chars(range.data(), range.data() + kDigits, lines_.lPrevPos).ptr;
+    *end = ' ';
+    end = std::to_chars(end + 1, range.data() + range.size(), lines_.lCurPos).ptr;
+    row.SetTag({range.data(), static_cast<std::size_t>(end - range.data())});
 }
 
 std::int32_t RecordReader::ReadIndividual() {
     sCurId_ = store_.Intern(lines_.sXrefDef);
     Individual individual;
     std::int32_t result = 0;
-    while ((result = lines_.Read1Line()) == 0 && lines_.iLevel > lines_.iBaseLevel) ReadIndividualLine(individual);
+    while ((result = lines_.Read1Line()) == 0 && lines_.iLevel > lines_.iBaseLevel)
+        ReadIndividualLine(individual);
     ++lNrRows_;
     Row row = app_.lvwIn.Add(lNrRows_, RowKey(sCurId_), sCurId_);
-    // The line that ended the record has been read, so these are the starts of this record and of the next one.
-    row.SetTag(CurrentRange());
+    // The line that ended the record has been read, so these are the starts of this record and of the next
+    // one.
+    SetRange(row);
     row.SetCell(In::LastName, individual.lastName);
     row.SetCell(In::FirstName, individual.firstName);
     row.SetCell(In::BirthPlace, individual.birthPlace);
@@ -83,42 +91,54 @@ std::int32_t RecordReader::ReadIndividual() {
 }
 
 void RecordReader::ReadIndividualLine(Individual& individual) {
-    const TextView tag = lines_.sTag;
+    const std::uint64_t tag = TagCode(lines_.sTag);
     if (lines_.iLevel == lines_.iBaseLevel + 1) {
         individual.event = Event::None;
-        if (tag == "NAME") {
-            ReadName(individual);
-        } else if (tag == "SEX") {
-            individual.sex = store_.Intern(Trim(lines_.sValue));
-        } else if (tag == "BIRT") {
-            individual.event = Event::Birth;
-        } else if (tag == "DEAT") {
-            individual.event = Event::Death;
-        } else if (tag == "FAMS") {
-            links_.AddFamilyXRef(UsedXref(), links_.Words().Fams, sCurId_, individual.sex);
-        } else if (tag == "FAMC") {
-            links_.AddFamilyXRef(UsedXref(), links_.Words().Famc, sCurId_, individual.sex);
-        } else if (tag == "ALIA") {
-            AddAlias(UsedXref());
+        switch (tag) {
+            case TagCode("NAME"):
+                return ReadName(individual);
+            case TagCode("SEX"):
+                individual.sex = Sex(Trim(lines_.sValue));
+                return;
+            case TagCode("BIRT"):
+                individual.event = Event::Birth;
+                return;
+            case TagCode("DEAT"):
+                individual.event = Event::Death;
+                return;
+            case TagCode("FAMS"):
+                return links_.AddFamilyXRef(UsedXref(), links_.Words().Fams, sCurId_, individual.sex);
+            case TagCode("FAMC"):
+                return links_.AddFamilyXRef(UsedXref(), links_.Words().Famc, sCurId_, individual.sex);
+            case TagCode("ALIA"):
+                return AddAlias(UsedXref());
+            default:
+                return;
         }
-    } else if (lines_.iLevel == lines_.iBaseLevel + 2 && individual.event != Event::None) {
+    }
+    if (lines_.iLevel == lines_.iBaseLevel + 2 && individual.event != Event::None) {
         const bool birth = individual.event == Event::Birth;
-        if (tag == "DATE") {
+        if (tag == TagCode("DATE")) {
             (birth ? individual.birth : individual.death) = GetYears(lines_.sValue);
-        } else if (tag == "PLAC") {
+        } else if (tag == TagCode("PLAC")) {
             (birth ? individual.birthPlace : individual.deathPlace) = Place();
         }
     }
 }
 
 void RecordReader::ReadName(Individual& individual) {
-    PersonNames names = SplitName(lines_.sValue);
-    if (app_.chkInvertNames.Checked()) std::swap(names.sLastName, names.sFirstName);
-    if (app_.chkUpperNames.Checked()) names.sLastName = UpperCase(names.sLastName);
-    individual.lastName = store_.Intern(names.sLastName);
-    individual.firstName = store_.Put(names.sFirstName);
+    const PersonNames names = SplitName(lines_.sValue);
+    TextView sLastName = names.sLastName, sFirstName = names.sFirstName;
+    if (!names.sSuffix.empty()) {
+        sWithSuffix_ = Concat({names.sFirstName, "/", names.sSuffix});
+        sFirstName = sWithSuffix_;
+    }
+    if (app_.chkInvertNames.Checked()) std::swap(sLastName, sFirstName);
+    individual.lastName = store_.Intern(app_.chkUpperNames.Checked() ? UpperCase(sLastName) : sLastName);
+    individual.firstName = store_.Put(sFirstName);
     ++lines_.lNrNames;
-    if (lines_.lNrNames % 100 == 0) app_.pnlIndividuals.Set(Concat({Decimal(lines_.lNrNames), " Individu(s)"_t}));
+    if (lines_.lNrNames % 100 == 0)
+        app_.pnlIndividuals.Set(Concat({Decimal(lines_.lNrNames), " Individu(s)"_t}));
 }
 
 void RecordReader::AddAlias(TextRef other) {
@@ -139,21 +159,21 @@ std::int32_t RecordReader::ReadFamilyRecord() {
     const std::int16_t base = lines_.iBaseLevel;
     std::int32_t result = lines_.Read1Line();
     while (result == 0 && lines_.iLevel > base) {
-        const bool isMemberLevel = lines_.iLevel == base + 1;
-        if (isMemberLevel && IsFamilyEvent(lines_.sTag)) {
+        const std::uint64_t tag = lines_.iLevel == base + 1 ? TagCode(lines_.sTag) : 0;
+        if (IsFamilyEvent(tag)) {
             // All events of a family widen one range of years and write one place.
             while ((result = lines_.Read1Line()) == 0 && lines_.iLevel > base + 1) {
                 if (lines_.iLevel == base + 2) ReadFamilyEvent(place, years);
             }
             continue;
         }
-        if (isMemberLevel && lines_.sTag == "HUSB") AddMember(words.Husband, words.Male);
-        if (isMemberLevel && lines_.sTag == "WIFE") AddMember(words.Wife, words.Female);
-        if (isMemberLevel && lines_.sTag == "CHIL") AddMember(words.Child, TextRef());
+        if (tag == TagCode("HUSB")) AddMember(words.Husband, words.Male);
+        if (tag == TagCode("WIFE")) AddMember(words.Wife, words.Female);
+        if (tag == TagCode("CHIL")) AddMember(words.Child, TextRef());
         result = lines_.Read1Line();
     }
     Row row = links_.AddFamily(sCurId_, TextRef(), TextRef(), place, years.lYearMin, years.lYearMax);
-    row.SetTag(CurrentRange());
+    SetRange(row);
     return result;
 }
 

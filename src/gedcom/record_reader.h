@@ -8,15 +8,16 @@
 
 namespace swiftroll::modReadGedcom {
 
-/// The names of a NAME value: given names, surname between slashes, suffix.
+/// The names of a NAME value: given names, surname between slashes, suffix; views of the value.
 struct PersonNames {
-    Text sLastName;
-    Text sFirstName;
+    TextView sLastName;
+    TextView sFirstName;
+    TextView sSuffix;
 };
 PersonNames SplitName(TextView sValue);
 
-/// Turns the lines of one record into rows. The current line is the record's level-0 line before, and the line
-/// that ended the record after. One is made for each read.
+/// Turns the lines of one record into rows. The current line is the record's level-0 line before, and the
+/// line that ended the record after. One is made for each read.
 class RecordReader {
   public:
     RecordReader(Application& app, LineReader& lines, Links& links);
@@ -43,8 +44,10 @@ class RecordReader {
     void ReadFamilyEvent(TextRef& place, Years& years);
     TextRef UsedXref() const;
     TextRef Place() const;
+    TextRef Sex(TextView sex) const;
     TextRef YearText(std::int32_t year, std::int32_t none);
-    Text CurrentRange() const;
+    /// Tags a row with the byte range of the record that was read.
+    void SetRange(Row& row) const;
 
     Application& app_;
     LineReader& lines_;
@@ -52,6 +55,7 @@ class RecordReader {
     TextStore& store_;
     std::int32_t lNrRows_ = 0;
     TextRef sCurId_;
+    Text sWithSuffix_;
     std::vector<TextRef> yearTexts_;  // by year
 };
 

@@ -20,9 +20,7 @@ constexpr TextView kTextKeys[kTextColumns] = {"ID",         "LastName",  "FirstN
 constexpr TextView kYearKeys[kYearColumns] = {"DateMin",  "DateMax",  "BirthMin", "BirthMax",
                                               "DeathMin", "DeathMax", "MarrMin",  "MarrMax"};
 
-bool IsSmallest(std::size_t yearColumn) {
-    return yearColumn % 2 == 0;
-}
+bool IsSmallest(std::size_t yearColumn) { return yearColumn % 2 == 0; }
 
 /// A column of the list: where its value comes from and where it goes.
 struct ColumnPair {
@@ -129,7 +127,8 @@ void ComputeList(Application& app) {
 
 void CalcOuptut(Application& app) {
     if (app.lvwIn.Count() > 0) {
-        app.trail.Guard("CalcOuptut", [&] { ComputeList(app); }, [] { return Text(); });
+        app.trail.Guard(
+            "CalcOuptut", [&] { ComputeList(app); }, [] { return Text(); });
     }
     app.bWaitCursor = false;
 }

@@ -14,8 +14,8 @@ RowFormatter::RowFormatter(Application& app) : app_(app), table_(*app.lvwActiveL
             app_.InitIndexes();
             Widths* widths = WidthsOf(table_);
             if (widths == nullptr) {
-                app_.Box(" - InitListItem"_t, Concat({"'Y a comme un problème ("_t, table_.Name(), ")", kLineEnd,
-                                                      "Merci de me prévenir immédiatement "_t}));
+                app_.Box(" - InitListItem"_t, Concat({"'Y a comme un problème ("_t, table_.Name(), ")",
+                                                      kLineEnd, "Merci de me prévenir immédiatement "_t}));
                 return;
             }
             lastPosition_ = &table_ == &app_.lvwOut ? app_.positions.iPosNumber : table_.ColumnCount();

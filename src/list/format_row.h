@@ -12,9 +12,10 @@ class RowFormatter {
     /// a box.
     explicit RowFormatter(Application& app);
 
-    /// The line of a row, without line end: its cells in the order of the columns that are switched on, those of
-    /// `lvwOut` up to `Number`. With `bTabs` tabs stand between them, else every column is padded to its width
-    /// and a blank. A failure, such as a cell wider than its column, is reported and gives the empty text.
+    /// The line of a row, without line end: its cells in the order of the columns that are switched on, those
+    /// of `lvwOut` up to `Number`. With `bTabs` tabs stand between them, else every column is padded to its
+    /// width and a blank. A failure, such as a cell wider than its column, is reported and gives the empty
+    /// text.
     Text FormatListItem(const Row& row, bool bTabs) const;
     /// The line of the captions.
     Text FormatHeaders(bool bTabs) const;

@@ -8,8 +8,8 @@ namespace swiftroll::modCalcOut {
 /// folded under `chkDelAccents`, and case under `chkIgnoreCase`.
 Text KeepAlphaNum(const OptionRecord& options, TextView sText, bool bForce);
 
-/// The group key of a row of `lvwIn`: a backslash and the comparison form of each text column that stands before
-/// `Number` in `lvwOut`, as of the last `InitIndexes`. Equal keys mean the same group.
+/// The group key of a row of `lvwIn`: a backslash and the comparison form of each text column that stands
+/// before `Number` in `lvwOut`, as of the last `InitIndexes`. Equal keys mean the same group.
 Text MakeSortKeyIn(const Positions& positions, const Row& row);
 /// The key of a row of `lvwOut`: that of every individual of its group, as long as no column was moved.
 Text MakeSortKeyOut(const Positions& positions, const Row& row);
@@ -21,7 +21,8 @@ enum class SortMode : std::int16_t { Number = 1, GroupKey = 2, Folded = 3 };
 /// ascending and descending. `GroupKey` sorts `lvwIn`, always ascending, and leaves the icons.
 void SortTable(Application& app, SortMode iMode, Table& table, Column& column);
 
-/// What a click on a column header does: with Shift it switches the column on or off for export, else it sorts.
+/// What a click on a column header does: with Shift it switches the column on or off for export, else it
+/// sorts.
 void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown);
 
 }  // namespace swiftroll::modCalcOut

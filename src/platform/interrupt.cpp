@@ -22,13 +22,9 @@ void NoteInterrupt(int signal) {
 
 }  // namespace
 
-void CatchInterrupts() {
-    std::signal(SIGINT, NoteInterrupt);
-}
+void CatchInterrupts() { std::signal(SIGINT, NoteInterrupt); }
 
-bool WasInterrupted() {
-    return interrupted != 0;
-}
+bool WasInterrupted() { return interrupted != 0; }
 
 bool ErrorIsTerminal() {
 #ifdef _WIN32

@@ -14,9 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path PathOf(TextView name) {
-    return fs::path(FileNameFromText(name));
-}
+fs::path PathOf(TextView name) { return fs::path(FileNameFromText(name)); }
 
 TextView Reason(int error) {
     switch (error) {
@@ -84,7 +82,9 @@ std::unique_ptr<File> StdFiles::Open(TextView name, Mode mode) {
     std::error_code ignored;
     if (fs::is_directory(path, ignored)) Fail(name, EISDIR);
     errno = 0;
-    std::FILE* stream = std::fopen(path.string().c_str(), mode == Mode::Read ? "rb" : mode == Mode::Write ? "wb" : "ab");
+    std::FILE* stream = std::fopen(path.string().c_str(), mode == Mode::Read    ? "rb"
+                                                          : mode == Mode::Write ? "wb"
+                                                                                : "ab");
     if (stream == nullptr) Fail(name, errno);
     return std::make_unique<StdFile>(stream, Text(name));
 }
@@ -109,8 +109,6 @@ void StdFiles::Delete(TextView name) {
     if (error) Fail(name, error.value());
 }
 
-std::unique_ptr<File> OpenStandardOutput() {
-    return std::make_unique<StdFile>(stdout, Text("-"));
-}
+std::unique_ptr<File> OpenStandardOutput() { return std::make_unique<StdFile>(stdout, Text("-")); }
 
 }  // namespace swiftroll::platform

@@ -25,7 +25,8 @@ SystemClock::SystemClock() {
 }
 
 Moment SystemClock::Now() {
-    const std::tm t = BrokenDown(static_cast<std::time_t>(fixed_.value_or(std::time(nullptr))), fixed_.has_value());
+    const std::tm t =
+        BrokenDown(static_cast<std::time_t>(fixed_.value_or(std::time(nullptr))), fixed_.has_value());
     return {t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_wday, t.tm_hour, t.tm_min, t.tm_sec};
 }
 

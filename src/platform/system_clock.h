@@ -6,8 +6,8 @@
 
 namespace swiftroll::platform {
 
-/// Local time; when the environment has SOURCE_DATE_EPOCH, that instant in UTC, so that outputs with dates can be
-/// reproduced.
+/// Local time; when the environment has SOURCE_DATE_EPOCH, that instant in UTC, so that outputs with dates
+/// can be reproduced.
 class SystemClock : public Clock {
   public:
     SystemClock();

@@ -79,9 +79,7 @@ Text UserFolders::Temporary() {
     return error ? Text() : TextOf(folder);
 }
 
-Text UserFolders::Program() {
-    return TextOf(ProgramFile().parent_path());
-}
+Text UserFolders::Program() { return TextOf(ProgramFile().parent_path()); }
 
 Text UserFolders::Models() {
     const fs::path program = ProgramFile().parent_path();
@@ -98,8 +96,6 @@ void UserFolders::Create(TextView folder) {
     fs::create_directories(fs::path(FileNameFromText(folder)), ignored);
 }
 
-Text UserFolders::Separator() {
-    return Text(1, static_cast<char>(fs::path::preferred_separator));
-}
+Text UserFolders::Separator() { return Text(1, static_cast<char>(fs::path::preferred_separator)); }
 
 }  // namespace swiftroll::platform

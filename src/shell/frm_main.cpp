@@ -52,8 +52,9 @@ void frmMain::Form_Load(TextView sCommandLine) {
             InitPaths();
             step = "InitMisc";
             for (Panel* panel : {&pnlLines, &pnlIndividuals, &pnlFamilies}) panel->Set("");
-            pnlMessage.Set("=> N'oubliez pas de consulter la disponibilité de mises-à-jour via le menu "
-                           "\"Aide / Vérifier...\""_t);
+            pnlMessage.Set(
+                "=> N'oubliez pas de consulter la disponibilité de mises-à-jour via le menu "
+                "\"Aide / Vérifier...\""_t);
             step = "GetAllControls";
             const Moment now = ports.clock.Now();
             sRunStart = Concat({ShortDate(now), " ", LongTime(now)});
@@ -76,7 +77,8 @@ void frmMain::Form_Load(TextView sCommandLine) {
             bStarting = false;
         },
         [&] {
-            trail.ErrorLog(Concat({step, "/0/", cboGedIn.Get(), "/", cboFileModel.Get(), "/", cboKinship.Get()}));
+            trail.ErrorLog(
+                Concat({step, "/0/", cboGedIn.Get(), "/", cboFileModel.Get(), "/", cboKinship.Get()}));
             throw ProgramEnd{};
         });
 }

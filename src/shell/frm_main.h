@@ -6,8 +6,8 @@
 namespace swiftroll {
 
 /// The main window without a screen: owner of all tables, options and commands. Loading it starts the
-/// application. A window, the headless program and the tests are presentations that set its controls and click
-/// its commands.
+/// application. A window, the headless program and the tests are presentations that set its controls and
+/// click its commands.
 class frmMain : public Application {
   public:
     explicit frmMain(const Ports& applicationPorts);

@@ -16,7 +16,8 @@ void frmMain::BindFiles() {
     };
     cmdSelectDirSwiftOut.Operation = [this] {
         const Text& caption = optOutExtension.Captions()[static_cast<std::size_t>(optOutExtension.Index())];
-        SelectFile(cboSwiftOut, true, {"Choisissez le fichier SwiftRoll à écrire"_t, caption, OutExtension()});
+        SelectFile(cboSwiftOut, true,
+                   {"Choisissez le fichier SwiftRoll à écrire"_t, caption, OutExtension()});
     };
     cmdSelectDirModel.Operation = [this] {
         const Text& caption = optOutExtension.Captions()[static_cast<std::size_t>(optOutExtension.Index())];
@@ -28,15 +29,18 @@ void frmMain::BindFiles() {
 
 void frmMain::SelectFile(ComboBox& combo, bool bSave, const FileRole& role) {
     SetFocus(combo);
-    bDialogCancelled = !trail.Guard("GetFile", [&] { return GetFile(combo, bSave, role); }, [&] { return combo.Get(); });
+    bDialogCancelled = !trail.Guard(
+        "GetFile", [&] { return GetFile(combo, bSave, role); }, [&] { return combo.Get(); });
 }
 
 bool frmMain::GetFile(ComboBox& combo, bool bSave, const FileRole& role) {
     Dialogs::FileRequest request{bSave, Text(role.title), combo.Get(), {}, role.extension};
-    if (request.fileName.ends_with(':') || request.fileName.ends_with('\\') || request.fileName.ends_with('/')) {
+    if (request.fileName.ends_with(':') || request.fileName.ends_with('\\') ||
+        request.fileName.ends_with('/')) {
         request.fileName += "*." + role.extension;
     }
-    request.filter = Concat({role.filterName, " (*.", role.extension, ")|*.", role.extension, "|Tous (*.*)|*.*"});
+    request.filter =
+        Concat({role.filterName, " (*.", role.extension, ")|*.", role.extension, "|Tous (*.*)|*.*"});
     Text chosen;
     BoxAnswer answer = BoxAnswer::Yes;
     do {
@@ -50,9 +54,10 @@ bool frmMain::GetFile(ComboBox& combo, bool bSave, const FileRole& role) {
 bool frmMain::MayOverwrite(TextView sFile, BoxAnswer& answer) {
     answer = BoxAnswer::Yes;
     if (ports.files.Exists(sFile)) {
-        answer = Box(" - Fichier existant"_t,
-                     Concat({"Le fichier existe déjà"_t, kLineEnd, sFile, kLineEnd, "Voulez-vous l'écraser ?"_t}),
-                     BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::OverwriteFile);
+        answer =
+            Box(" - Fichier existant"_t,
+                Concat({"Le fichier existe déjà"_t, kLineEnd, sFile, kLineEnd, "Voulez-vous l'écraser ?"_t}),
+                BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::OverwriteFile);
     }
     return answer != BoxAnswer::No;
 }
@@ -80,8 +85,8 @@ bool frmMain::CheckFileCbo(ComboBox& cbo) {
         return false;
     }
     Box(" - CheckFileCbo"_t,
-        Concat({"Vous allez écraser le fichier "_t, sRole, kLineEnd, "(Même nom de fichier)"_t}), BoxButtons::Ok,
-        BoxIcon::Exclamation);
+        Concat({"Vous allez écraser le fichier "_t, sRole, kLineEnd, "(Même nom de fichier)"_t}),
+        BoxButtons::Ok, BoxIcon::Exclamation);
     cbo.SetText(sPrevFile_ == text ? Text() : sPrevFile_);
     SetFocus(cbo);
     return false;

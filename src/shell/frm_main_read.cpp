@@ -19,7 +19,8 @@ void frmMain::BindReading() {
 
 void frmMain::cmdLoad_Click() {
     cmdLoad.Enabled = mnuReadGedCom.Enabled = cboLoad.Enabled = false;
-    trail.Guard("cmdLoad_Click", [this] { ReadFile(); }, [] { return Text(); });
+    trail.Guard(
+        "cmdLoad_Click", [this] { ReadFile(); }, [] { return Text(); });
     cmdLoad.Enabled = mnuReadGedCom.Enabled = cboLoad.Enabled = true;
 }
 
@@ -38,12 +39,11 @@ void frmMain::ReadFile() {
     modReadGedcom.lines.Close();
     ShowTab(Tab::In);
     if (!bAbort) {
-        const BoxAnswer answer =
-            Box(" - Recalcul"_t,
-                Concat({"Voulez-vous recalculer la sortie ?"_t, kLineEnd, kLineEnd,
-                        "(Nécessaire après une lecture, ou lorsque"_t, kLineEnd,
-                        " les colonnes en sortie ont été permutées)"_t}),
-                BoxButtons::YesNo, BoxIcon::Question, BoxTopic::Recalculation);
+        const BoxAnswer answer = Box(" - Recalcul"_t,
+                                     Concat({"Voulez-vous recalculer la sortie ?"_t, kLineEnd, kLineEnd,
+                                             "(Nécessaire après une lecture, ou lorsque"_t, kLineEnd,
+                                             " les colonnes en sortie ont été permutées)"_t}),
+                                     BoxButtons::YesNo, BoxIcon::Question, BoxTopic::Recalculation);
         if (answer == BoxAnswer::Yes) cmdCalcOutput_Click();
     }
     SetAllColumnIcons(*this);
@@ -55,16 +55,15 @@ void frmMain::cboLoad_Click() {
     chkProcFamilies_Click();
 }
 
-void frmMain::chkProcFamilies_Click() {
-    EnableFamilyCommands(bFamiliesRead);
-}
+void frmMain::chkProcFamilies_Click() { EnableFamilyCommands(bFamiliesRead); }
 
 void frmMain::EnableFamilyCommands(bool enabled) {
     cmdFindPath.Enabled = cmdSaveGed.Enabled = mnuFindPath.Enabled = enabled;
 }
 
 void frmMain::DisableKinshipCommands() {
-    mnuDrawKinship.Enabled = cmdDrawKinship.Enabled = cboDrawKinship.Enabled = cmdCopyTitle2kinship.Enabled = false;
+    mnuDrawKinship.Enabled = cmdDrawKinship.Enabled = cboDrawKinship.Enabled = cmdCopyTitle2kinship.Enabled =
+        false;
     cmdPrintKinship.Enabled = false;
 }
 

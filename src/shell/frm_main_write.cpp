@@ -23,9 +23,12 @@ void frmMain::BindWriting() {
     optOutExtension.OnClick = [this] { optOutExtension_Click(optOutExtension.Index()); };
     chkGenerXSL.OnClick = [this] { chkGenerXSL_Click(); };
     for (int i = 0; i < 3; ++i) {
-        txtOutExtension[static_cast<std::size_t>(i)].OnLostFocus = [this, i] { txtOutExtension_LostFocus(i); };
+        txtOutExtension[static_cast<std::size_t>(i)].OnLostFocus = [this, i] {
+            txtOutExtension_LostFocus(i);
+        };
     }
-    cmdCopyGedIn2SwiftOut.Operation = mnuCopyGedIn2SwiftOut.Operation = [this] { cmdCopyGedIn2SwiftOut_Click(); };
+    cmdCopyGedIn2SwiftOut.Operation =
+        mnuCopyGedIn2SwiftOut.Operation = [this] { cmdCopyGedIn2SwiftOut_Click(); };
 }
 
 void frmMain::cmdSaveSwift_Click() {
@@ -34,14 +37,17 @@ void frmMain::cmdSaveSwift_Click() {
         [this] {
             const BoxAnswer answer =
                 Box(" - Création Relevé-vif"_t,
-                    Concat({"Voulez-vous TOUT sortir, ou uniquement les lignes sélectionnées ?"_t, kLineEnd, kLineEnd,
-                            "Oui = Toutes les lignes"_t, kLineEnd, "Non = Uniquement les lignes sélectionnées"_t}),
+                    Concat({"Voulez-vous TOUT sortir, ou uniquement les lignes sélectionnées ?"_t, kLineEnd,
+                            kLineEnd, "Oui = Toutes les lignes"_t, kLineEnd,
+                            "Non = Uniquement les lignes sélectionnées"_t}),
                     BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::WriteAllRows);
             if (answer == BoxAnswer::Cancel) return;
             cmdSelectDirSwiftOut.Click();
             if (!bDialogCancelled) WriteSwiftFile(answer == BoxAnswer::No);
         },
-        [this] { return Concat({cboSwiftOut.Get(), "/", cboFileModel.Get()}); });
+        [this] {
+            return Concat({cboSwiftOut.Get(), "/", cboFileModel.Get()});
+        });
 }
 
 void frmMain::WriteSwiftFile(bool bSelectedOnly) {

@@ -15,10 +15,10 @@ void cboAdd(ComboBox& cbo) {
     const Text text(Trim(cbo.Get()));
     if (text.empty()) return;
     std::vector<Text> items = cbo.Items();
-    const auto same = cbo.ListIndex() >= 0
-                          ? items.begin() + cbo.ListIndex()
-                          : std::find_if(items.begin(), items.end(),
-                                         [&](const Text& item) { return UpperCase(item) == UpperCase(text); });
+    const auto same = cbo.ListIndex() >= 0 ? items.begin() + cbo.ListIndex()
+                                           : std::find_if(items.begin(), items.end(), [&](const Text& item) {
+                                                 return SameButCase(item, text);
+                                             });
     if (same != items.end()) items.erase(same);
     items.insert(items.begin(), text);
     if (items.size() > kLongestHistory) items.resize(kLongestHistory);

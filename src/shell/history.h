@@ -4,8 +4,8 @@
 
 namespace swiftroll::modCommon {
 
-/// Puts the trimmed text of a combo on top of its history, of ten names at most that differ by more than case,
-/// and picks it. An empty text changes nothing.
+/// Puts the trimmed text of a combo on top of its history, of ten names at most that differ by more than
+/// case, and picks it. An empty text changes nothing.
 void cboAdd(ComboBox& cbo);
 
 }  // namespace swiftroll::modCommon

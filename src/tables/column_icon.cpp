@@ -5,7 +5,8 @@ namespace swiftroll {
 void SetColumnIcon(Table& table, Column& column, bool bResetOthers) {
     if (bResetOthers) {
         for (Column& other : table.Columns()) {
-            const bool hasMark = other.Icon.ends_with("No") || other.Icon.ends_with("Up") || other.Icon.ends_with("Dw");
+            const bool hasMark =
+                other.Icon.ends_with("No") || other.Icon.ends_with("Up") || other.Icon.ends_with("Dw");
             other.Icon = hasMark ? other.Icon.substr(0, 2) + "No" : "OnNo";
         }
     }

@@ -4,9 +4,9 @@
 
 namespace swiftroll {
 
-/// Writes the sort mark of a column into its icon: "Dw" or "Up" when the table is sorted by it, else "No"; the
-/// selection mark stays. With `bResetOthers` every column first loses its sort mark, and one without an icon
-/// becomes "OnNo", selected for export.
+/// Writes the sort mark of a column into its icon: "Dw" or "Up" when the table is sorted by it, else "No";
+/// the selection mark stays. With `bResetOthers` every column first loses its sort mark, and one without an
+/// icon becomes "OnNo", selected for export.
 void SetColumnIcon(Table& table, Column& column, bool bResetOthers);
 
 /// Gives every column of the shown tables its icon: a column without one counts as selected.

@@ -7,8 +7,23 @@ namespace swiftroll {
 /// Column indexes of the tables that logic addresses, as the schema fixes them.
 namespace In {
 enum : std::int16_t {
-    ID = 1, LastName, FirstName, BirthPlace, BirthMin, BirthMax, DeathPlace, DeathMin, DeathMax, Place, DateMin,
-    DateMax, Sex, MarrPlace, MarrMin, MarrMax, IslandNr
+    ID = 1,
+    LastName,
+    FirstName,
+    BirthPlace,
+    BirthMin,
+    BirthMax,
+    DeathPlace,
+    DeathMin,
+    DeathMax,
+    Place,
+    DateMin,
+    DateMax,
+    Sex,
+    MarrPlace,
+    MarrMin,
+    MarrMax,
+    IslandNr
 };
 }
 namespace Out {

@@ -1,39 +1,76 @@
 #include "tables/key_index.h"
 
 namespace swiftroll {
+namespace {
 
-std::optional<KeyIndex::Slot> KeyIndex::Find(const RowKey& key) const {
-    if (key.IsPair()) {
-        const auto found = pairs_.find(key);
-        if (found == pairs_.end()) return std::nullopt;
-        return *found;
+/// Grows `entries` to hold number `symbol`, with room for more.
+template <class Entry>
+Entry& EntryOf(std::vector<Entry>& entries, std::uint32_t symbol, const Entry& none) {
+    if (symbol >= entries.size()) entries.resize(symbol + std::size_t{symbol} / 2 + 16, none);
+    return entries[symbol];
+}
+
+}  // namespace
+
+KeyIndex::Slot KeyIndex::FindPair(const RowKey& key) const {
+    const std::uint32_t symbol = key.first.Symbol();
+    if (symbol >= chains_.size()) return kNone;
+    const Chain& chain = chains_[symbol];
+    for (Slot slot = chain.first; slot != kNone; slot = entries_[slot].nextInChain) {
+        if (entries_[slot].key.second == key.second) return slot;
     }
-    if (key.IsEmpty()) return std::nullopt;
-    const std::uint32_t symbol = key.first.Symbol();
-    if (symbol >= slotOfSymbol_.size() || slotOfSymbol_[symbol] == kNone) return std::nullopt;
-    return slotOfSymbol_[symbol];
+    if (!chain.continues) return kNone;
+    const auto found = longChains_.find(key);
+    return found == longChains_.end() ? kNone : *found;
 }
 
-bool KeyIndex::Insert(Slot slot, const RowKey& key) {
-    if (key.IsPair()) return pairs_.insert(slot).second;
-    const std::uint32_t symbol = key.first.Symbol();
-    if (symbol >= slotOfSymbol_.size()) slotOfSymbol_.resize(symbol + symbol / 2 + 16, kNone);
-    if (slotOfSymbol_[symbol] != kNone) return false;
-    slotOfSymbol_[symbol] = slot;
-    return true;
+void KeyIndex::InsertPair(Slot slot, const RowKey& key) {
+    Chain& chain = EntryOf(chains_, key.first.Symbol(), Chain());
+    if (chain.length == kLongestChain) {
+        chain.continues = true;
+        longChains_.insert(slot);
+        return;
+    }
+    entries_[slot].nextInChain = chain.first;
+    chain.first = slot;
+    ++chain.length;
 }
 
-void KeyIndex::Erase(Slot slot, const RowKey& key) {
+void KeyIndex::Insert(Slot slot, const RowKey& key) {
+    entries_[slot].key = key;
     if (key.IsPair()) {
-        pairs_.erase(slot);
+        InsertPair(slot, key);
     } else if (!key.IsEmpty()) {
-        slotOfSymbol_[key.first.Symbol()] = kNone;
+        EntryOf(singles_, key.first.Symbol(), kNone) = slot;
     }
+}
+
+void KeyIndex::Erase(Slot slot) {
+    const RowKey key = KeyOf(slot);
+    if (key.IsPair()) {
+        ErasePair(slot, key);
+    } else if (!key.IsEmpty()) {
+        singles_[key.first.Symbol()] = kNone;
+    }
+    entries_[slot] = Entry();
+}
+
+void KeyIndex::ErasePair(Slot slot, const RowKey& key) {
+    Chain& chain = chains_[key.first.Symbol()];
+    for (Slot* link = &chain.first; *link != kNone; link = &entries_[*link].nextInChain) {
+        if (*link != slot) continue;
+        *link = entries_[slot].nextInChain;
+        --chain.length;
+        return;
+    }
+    longChains_.erase(slot);
 }
 
 void KeyIndex::Clear() {
-    slotOfSymbol_ = {};
-    pairs_ = decltype(pairs_)(0, pairs_.hash_function(), pairs_.key_eq());
+    entries_.Clear();
+    singles_ = {};
+    chains_ = {};
+    longChains_ = decltype(longChains_)(0, longChains_.hash_function(), longChains_.key_eq());
 }
 
 }  // namespace swiftroll

@@ -10,15 +10,16 @@
 
 namespace swiftroll {
 
-/// The key of a row: one interned text, or two that stand for their concatenation (a family and an individual,
-/// two individuals). Kept apart, a pair costs no text of its own and compares by references.
+/// The key of a row: one interned text, or two that stand for their concatenation (a family and an
+/// individual, two individuals). Kept apart, a pair costs no text of its own and compares by references.
 struct RowKey {
     TextRef first;
     TextRef second;
 
     RowKey() = default;
     /// An empty first part gives way to the second, as in the concatenation.
-    explicit RowKey(TextRef a, TextRef b = {}) : first(a.IsEmpty() ? b : a), second(a.IsEmpty() ? TextRef() : b) {}
+    explicit RowKey(TextRef a, TextRef b = {})
+        : first(a.IsEmpty() ? b : a), second(a.IsEmpty() ? TextRef() : b) {}
     bool IsEmpty() const { return first.IsEmpty(); }
     bool IsPair() const { return !second.IsEmpty(); }
     friend bool operator==(const RowKey&, const RowKey&) = default;
@@ -32,38 +33,70 @@ struct RowKeyHash {
     }
 };
 
-/// Where the row of each key is stored. Single keys are an array over the numbers of the interned texts:
-/// individuals that stand together in the file stay together in memory. Pairs are a hash set of slots.
+/// Where the row of each key is stored. All structures follow the numbers of the interned texts, so that what
+/// stands together in the file stays together in memory: single keys are an array over the first parts; pairs
+/// hang in short chains on their first parts, and the few that have longer chains continue in a hash set.
 class KeyIndex {
   public:
     using Slot = std::uint32_t;
-    explicit KeyIndex(const BlockVector<RowKey>& keys) : pairs_(0, PairHash{&keys}, PairEqual{&keys}) {}
+    KeyIndex() : longChains_(0, PairHash{&entries_}, PairEqual{&entries_}) {}
 
-    std::optional<Slot> Find(const RowKey& key) const;
-    /// Notes that `keys[slot]` is the key of `slot`; false when another slot has that key already.
-    bool Insert(Slot slot, const RowKey& key);
-    void Erase(Slot slot, const RowKey& key);
+    /// Number of slots, and room for one more slot without a key.
+    Slot SlotCount() const { return static_cast<Slot>(entries_.size()); }
+    void AddSlot() { entries_.push_back(Entry()); }
+    /// The key of a slot; empty when it has none.
+    const RowKey& KeyOf(Slot slot) const { return entries_[slot].key; }
+
+    std::optional<Slot> Find(const RowKey& key) const {
+        const Slot slot = key.IsPair() ? FindPair(key) : FindSingle(key);
+        if (slot == kNone) return std::nullopt;
+        return slot;
+    }
+    /// Gives a slot without a key one that no slot has; an empty key is none.
+    void Insert(Slot slot, const RowKey& key);
+    /// Takes the key of a slot away.
+    void Erase(Slot slot);
     void Clear();
 
   private:
     static constexpr Slot kNone = 0xFFFFFFFFu;
+    static constexpr std::uint8_t kLongestChain = 24;
 
+    struct Entry {
+        RowKey key;
+        Slot nextInChain = kNone;
+    };
+    struct Chain {
+        Slot first = kNone;
+        std::uint8_t length = 0;
+        bool continues = false;  // in the hash set
+    };
     struct PairHash {
         using is_transparent = void;
-        const BlockVector<RowKey>* keys;
-        std::size_t operator()(Slot slot) const { return RowKeyHash()((*keys)[slot]); }
+        const BlockVector<Entry>* entries;
+        std::size_t operator()(Slot slot) const { return RowKeyHash()((*entries)[slot].key); }
         std::size_t operator()(const RowKey& key) const { return RowKeyHash()(key); }
     };
     struct PairEqual {
         using is_transparent = void;
-        const BlockVector<RowKey>* keys;
-        bool operator()(Slot a, Slot b) const { return (*keys)[a] == (*keys)[b]; }
-        bool operator()(Slot a, const RowKey& b) const { return (*keys)[a] == b; }
-        bool operator()(const RowKey& a, Slot b) const { return a == (*keys)[b]; }
+        const BlockVector<Entry>* entries;
+        bool operator()(Slot a, Slot b) const { return (*entries)[a].key == (*entries)[b].key; }
+        bool operator()(Slot a, const RowKey& b) const { return (*entries)[a].key == b; }
+        bool operator()(const RowKey& a, Slot b) const { return a == (*entries)[b].key; }
     };
 
-    std::vector<Slot> slotOfSymbol_;
-    boost::unordered_flat_set<Slot, PairHash, PairEqual> pairs_;
+    Slot FindSingle(const RowKey& key) const {
+        if (key.IsEmpty() || key.first.Symbol() >= singles_.size()) return kNone;
+        return singles_[key.first.Symbol()];
+    }
+    Slot FindPair(const RowKey& key) const;
+    void InsertPair(Slot slot, const RowKey& key);
+    void ErasePair(Slot slot, const RowKey& key);
+
+    BlockVector<Entry> entries_;  // by slot
+    std::vector<Slot> singles_;   // by symbol
+    std::vector<Chain> chains_;   // by symbol of the first part
+    boost::unordered_flat_set<Slot, PairHash, PairEqual> longChains_;
 };
 
 }  // namespace swiftroll

@@ -117,9 +117,7 @@ std::vector<Column> KinshipColumns() {
                         {"NrLink", "Liaisons"_t, Alignment::Centre}});
 }
 
-std::shared_ptr<StoreGroup> OwnGroup() {
-    return std::make_shared<StoreGroup>();
-}
+std::shared_ptr<StoreGroup> OwnGroup() { return std::make_shared<StoreGroup>(); }
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tables/symbol_ranks.h"
 #include "tables/text_sort.h"
 #include "text/edit.h"
 #include "text/failure.h"
@@ -18,25 +19,30 @@ std::shared_ptr<TextStore> StoreGroup::Acquire() {
 }
 
 Table::Table(Text name, std::vector<Column> columns, std::shared_ptr<StoreGroup> group)
-    : name_(std::move(name)), columns_(std::move(columns)), group_(std::move(group)) {}
+    : name_(std::move(name)),
+      columns_(std::move(columns)),
+      columnCount_(static_cast<std::int16_t>(columns_.size())),
+      group_(std::move(group)),
+      cells_(columns_.size()) {}
 
 Column& Table::ColumnAt(std::int16_t index) {
-    if (index < 1 || index > ColumnCount()) throw Failure(FailureKind::IndexOutOfRange);
+    if (index < 1 || index > ColumnCount()) ThrowIndexOutOfRange();
     return columns_[static_cast<std::size_t>(index - 1)];
 }
 
 const Column& Table::ColumnAt(std::int16_t index) const {
-    if (index < 1 || index > ColumnCount()) throw Failure(FailureKind::IndexOutOfRange);
+    if (index < 1 || index > ColumnCount()) ThrowIndexOutOfRange();
     return columns_[static_cast<std::size_t>(index - 1)];
 }
 
 Column* Table::FindColumn(TextView key) {
-    const auto found = std::find_if(columns_.begin(), columns_.end(), [&](const Column& c) { return c.Key == key; });
+    const auto found =
+        std::find_if(columns_.begin(), columns_.end(), [&](const Column& c) { return c.Key == key; });
     return found == columns_.end() ? nullptr : &*found;
 }
 
 void Table::MoveColumn(std::int16_t index, std::int16_t position) {
-    if (position < 1 || position > ColumnCount()) throw Failure(FailureKind::IndexOutOfRange);
+    if (position < 1 || position > ColumnCount()) ThrowIndexOutOfRange();
     const std::int16_t old = ColumnAt(index).Position;
     for (Column& column : columns_) {
         if (old < column.Position && column.Position <= position) --column.Position;
@@ -50,56 +56,53 @@ TextStore& Table::Store() {
     return *store_;
 }
 
-Table::Slot Table::NewSlot(const RowKey& key) {
-    Slot slot = static_cast<Slot>(keys_.size());
-    if (freeSlots_.empty()) {
-        if (slot == 0x7FFFFFFF) throw Failure(FailureKind::Overflow);
-        keys_.push_back(key);
-        marks_.push_back(0);
-        cells_.Grow(cells_.size() + columns_.size());
-    } else {
-        slot = freeSlots_.back();
-        keys_[slot] = key;
-    }
-    if (!key.IsEmpty() && !index_.Insert(slot, key)) {
-        keys_[slot] = RowKey();
-        marks_[slot] = kFree;
-        if (freeSlots_.empty() || freeSlots_.back() != slot) freeSlots_.push_back(slot);
-        throw Failure(FailureKind::DuplicateKey, Concat({Store().Get(key.first), Store().Get(key.second)}));
-    }
-    if (!freeSlots_.empty() && freeSlots_.back() == slot) {
+Table::Slot Table::NewSlot() {
+    if (!freeSlots_.empty()) {
+        const Slot slot = freeSlots_.back();
         freeSlots_.pop_back();
-        marks_[slot] = 0;
+        return slot;
     }
+    const Slot slot = index_.SlotCount();
+    if (slot == 0x7FFFFFFF) throw Failure(FailureKind::Overflow);
+    cells_.Grow(slot + std::size_t{1});
+    marks_.push_back(0);
+    index_.AddSlot();
     return slot;
 }
 
-Row Table::Add(std::optional<std::int32_t> index, RowKey key, TextRef text) {
-    if (index && (*index < 1 || *index > Count() + 1)) throw Failure(FailureKind::IndexOutOfRange);
+Row Table::Append(const RowKey& key, TextRef text) {
     Store();
-    const Slot slot = NewSlot(key);
-    if (!index || *index == Count() + 1) {
-        order_.push_back(slot);
-        if (placesAreFresh_ && slot == place_.size()) place_.push_back(static_cast<std::uint32_t>(order_.size() - 1));
-        else placesAreFresh_ = false;
-    } else {
-        order_.insert(order_.begin() + (*index - 1), slot);
+    const Slot slot = NewSlot();
+    index_.Insert(slot, key);
+    placesAreFresh_ = placesAreFresh_ && slot == place_.size();
+    if (placesAreFresh_) place_.push_back(static_cast<std::uint32_t>(order_.size()));
+    order_.push_back(slot);
+    const Row row(*this, slot);
+    *row.cells_ = text;
+    return row;
+}
+
+Row Table::FindOrAdd(RowKey key, TextRef text) {
+    const auto known = index_.Find(key);
+    return known ? Row(*this, *known) : Append(key, text);
+}
+
+Row Table::Add(std::optional<std::int32_t> index, RowKey key, TextRef text) {
+    if (index && (*index < 1 || *index > Count() + 1)) ThrowIndexOutOfRange();
+    if (index_.Find(key)) {
+        throw Failure(FailureKind::DuplicateKey, Concat({store_->Get(key.first), store_->Get(key.second)}));
+    }
+    const Row row = Append(key, text);
+    if (index && *index < Count()) {
+        std::rotate(order_.begin() + (*index - 1), order_.end() - 1, order_.end());
         placesAreFresh_ = false;
     }
-    Row row(*this, slot);
-    row.SetCell(1, text);
     return row;
 }
 
 Row Table::Add(std::optional<std::int32_t> index, TextView key, TextView text) {
     const TextRef keyRef = Store().Intern(key);
     return Add(index, RowKey(keyRef), key == text ? keyRef : Store().Put(text));
-}
-
-std::optional<Row> Table::Find(RowKey key) {
-    const auto slot = index_.Find(key);
-    if (!slot) return std::nullopt;
-    return Row(*this, *slot);
 }
 
 std::optional<Row> Table::Find(TextView key) {
@@ -121,30 +124,24 @@ Row Table::Item(TextView key) {
     throw Failure(FailureKind::KeyNotFound, key);
 }
 
-Row Table::Item(std::int32_t index) {
-    if (index < 1 || index > Count()) throw Failure(FailureKind::IndexOutOfRange);
-    return Row(*this, order_[static_cast<std::size_t>(index - 1)]);
-}
-
 void Table::Remove(std::int32_t index) {
     const Row row = Item(index);
     const Slot slot = row.slot_;
     for (std::int16_t column = 0; column <= ColumnCount() && !looks_.empty(); ++column) {
         looks_.erase(row.LookPlace(column));
     }
-    index_.Erase(slot, keys_[slot]);
-    keys_[slot] = RowKey();
-    marks_[slot] = kFree;
-    for (std::size_t c = 0; c < columns_.size(); ++c) cells_[slot * columns_.size() + c] = TextRef();
+    index_.Erase(slot);
+    marks_[slot] = 0;
+    std::fill_n(row.cells_, columns_.size(), TextRef());
     if (slot < tags_.size()) tags_[slot] = TextRef();
     freeSlots_.push_back(slot);
     order_.erase(order_.begin() + (index - 1));
     placesAreFresh_ = false;
+    ++generation_;
 }
 
 void Table::Clear() {
     cells_.Clear();
-    keys_.Clear();
     tags_.Clear();
     marks_.Clear();
     looks_.clear();
@@ -153,6 +150,7 @@ void Table::Clear() {
     place_ = {};
     freeSlots_ = {};
     placesAreFresh_ = false;
+    ++generation_;
     store_.reset();
 }
 
@@ -183,10 +181,29 @@ void Table::SortBy(std::int16_t sortKey, std::int16_t sortOrder) {
 void Table::Resort() {
     if (!sorted_ || Count() < 2) return;
     const auto column = static_cast<std::size_t>(sortKey_);
-    const std::size_t stride = columns_.size();
+    if (const auto order = OrderBySymbols(column)) return Reorder(*order);
     std::vector<TextView> texts(order_.size());
-    for (std::size_t i = 0; i < order_.size(); ++i) texts[i] = store_->Get(cells_[order_[i] * stride + column]);
+    for (std::size_t i = 0; i < order_.size(); ++i) texts[i] = store_->Get(cells_.Row(order_[i])[column]);
     Reorder(SortedOrder(texts, sortOrder_ == 1));
+}
+
+/// The order of the rows by a column whose texts are all interned, as identifiers are: the texts that occur
+/// are sorted, each once, and the rows follow by counting. Nothing for other columns.
+std::optional<std::vector<std::uint32_t>> Table::OrderBySymbols(std::size_t column) const {
+    std::vector<TextRef> refs(order_.size());
+    for (std::size_t i = 0; i < order_.size(); ++i) {
+        refs[i] = cells_.Row(order_[i])[column];
+        if (!refs[i].IsInterned()) return std::nullopt;
+    }
+    const SymbolRanks ranks(*store_, refs, sortOrder_ == 1);
+    // Where the rows of each rank begin.
+    std::vector<std::uint32_t> next(ranks.Count() + 1);
+    for (const TextRef ref : refs) ++next[ranks.Of(ref) + 1];
+    for (std::size_t rank = 1; rank < next.size(); ++rank) next[rank] += next[rank - 1];
+    std::vector<std::uint32_t> order(refs.size());
+    for (std::size_t i = 0; i < refs.size(); ++i)
+        order[next[ranks.Of(refs[i])]++] = static_cast<std::uint32_t>(i);
+    return order;
 }
 
 void Table::SortByForms(const std::vector<TextView>& forms, std::int16_t sortKey, std::int16_t sortOrder) {
@@ -207,23 +224,9 @@ void Table::Reorder(const std::vector<std::uint32_t>& permutation) {
 }
 
 void Table::RefreshPlaces() {
-    place_.resize(keys_.size());
+    place_.resize(index_.SlotCount());
     for (std::size_t i = 0; i < order_.size(); ++i) place_[order_[i]] = static_cast<std::uint32_t>(i);
     placesAreFresh_ = true;
-}
-
-void Row::CheckAlive() const {
-    if (slot_ >= table_->marks_.size() || (table_->marks_[slot_] & Table::kFree) != 0) {
-        throw Failure(FailureKind::IndexOutOfRange);
-    }
-}
-
-std::size_t Row::Place(std::int16_t column) const {
-    if (column < 1 || static_cast<std::size_t>(column) > table_->columns_.size()) {
-        throw Failure(FailureKind::IndexOutOfRange);
-    }
-    CheckAlive();
-    return slot_ * table_->columns_.size() + static_cast<std::size_t>(column - 1);
 }
 
 std::int32_t Row::Index() const {
@@ -234,7 +237,7 @@ std::int32_t Row::Index() const {
 
 std::string Row::Key() const {
     CheckAlive();
-    const RowKey& key = table_->keys_[slot_];
+    const RowKey& key = table_->index_.KeyOf(slot_);
     return Concat({table_->store_->Get(key.first), table_->store_->Get(key.second)});
 }
 
@@ -271,7 +274,7 @@ CellLook Row::Look(std::int16_t column) const {
 }
 
 void Row::SetLook(std::int16_t column, const CellLook& look) {
-    if (column != 0) Place(column);
+    if (column != 0) CellAt(column);
     CheckAlive();
     if (look == CellLook()) {
         table_->looks_.erase(LookPlace(column));

@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "tables/block_vector.h"
+#include "tables/cell_blocks.h"
 #include "tables/column.h"
 #include "tables/key_index.h"
 #include "tables/text_store.h"
+#include "text/failure.h"
 
 namespace swiftroll {
 
@@ -48,7 +50,7 @@ class Table {
 
     const Text& Name() const { return name_; }
     std::int32_t Count() const { return static_cast<std::int32_t>(order_.size()); }
-    std::int16_t ColumnCount() const { return static_cast<std::int16_t>(columns_.size()); }
+    std::int16_t ColumnCount() const { return columnCount_; }
     /// The column of an index from 1. @throws Failure IndexOutOfRange
     Column& ColumnAt(std::int16_t index);
     const Column& ColumnAt(std::int16_t index) const;
@@ -63,6 +65,8 @@ class Table {
     /// @throws Failure DuplicateKey, IndexOutOfRange
     Row Add(std::optional<std::int32_t> index, RowKey key, TextRef text);
     Row Add(std::optional<std::int32_t> index, TextView key, TextView text);
+    /// The row of a key; a new one at the end with `text` in its first cell when there is none.
+    Row FindOrAdd(RowKey key, TextRef text);
     /// The row of a key or of a 1-based place, in constant time. @throws Failure KeyNotFound, IndexOutOfRange
     Row Item(TextView key);
     Row Item(std::int32_t index);
@@ -94,36 +98,39 @@ class Table {
   private:
     friend class Row;
     using Slot = KeyIndex::Slot;
-    static constexpr std::uint8_t kSelected = 1, kChecked = 2, kFree = 4;
+    static constexpr std::uint8_t kSelected = 1, kChecked = 2;
 
-    Slot NewSlot(const RowKey& key);
+    Slot NewSlot();
+    Row Append(const RowKey& key, TextRef text);
     void Resort();
+    std::optional<std::vector<std::uint32_t>> OrderBySymbols(std::size_t column) const;
     void Reorder(const std::vector<std::uint32_t>& permutation);
     void RefreshPlaces();
 
     Text name_;
     std::vector<Column> columns_;
+    std::int16_t columnCount_;
     std::shared_ptr<StoreGroup> group_;
     std::shared_ptr<TextStore> store_;
 
-    BlockVector<TextRef> cells_;      // slot * number of columns + column
-    BlockVector<RowKey> keys_;        // by slot
-    BlockVector<TextRef> tags_;       // by slot, grown when a tag is written
-    BlockVector<std::uint8_t> marks_; // by slot
-    boost::unordered_flat_map<std::uint64_t, CellLook> looks_; // by LookPlace
-    KeyIndex index_{keys_};
-    std::vector<Slot> order_;         // slots in the order of the rows
-    std::vector<std::uint32_t> place_; // by slot, the inverse of order_; refreshed when asked for
+    CellBlocks cells_;
+    BlockVector<TextRef> tags_;                                 // by slot, grown when a tag is written
+    BlockVector<std::uint8_t> marks_;                           // by slot
+    boost::unordered_flat_map<std::uint64_t, CellLook> looks_;  // by LookPlace
+    KeyIndex index_;                                            // keys by slot, and slots by key
+    std::vector<Slot> order_;                                   // slots in the order of the rows
+    std::vector<std::uint32_t> place_;  // by slot, the inverse of order_; refreshed when asked for
     bool placesAreFresh_ = false;
     std::vector<Slot> freeSlots_;
+    std::uint32_t generation_ = 0;  // grows when rows go, so that handles from before are refused
 
     bool sorted_ = false;
     std::int16_t sortKey_ = 0;
     std::int16_t sortOrder_ = 0;
 };
 
-/// A row of a table: a handle that stays with its row through sorts and insertions. A handle to a row that is
-/// gone throws at its next use.
+/// A row of a table: a handle that stays with its row through sorts and insertions. When rows were removed,
+/// or the table cleared, a handle from before throws Failure IndexOutOfRange at its next use.
 class Row {
   public:
     /// 1-based place in the table at present.
@@ -135,11 +142,21 @@ class Row {
     TextView SubItems(std::int16_t i) const { return Cell(static_cast<std::int16_t>(i + 1)); }
     /// Cell by column index from 1.
     TextView Cell(std::int16_t column) const { return table_->store_->Get(Ref(column)); }
-    TextRef Ref(std::int16_t column) const { return table_->cells_[Place(column)]; }
-    void SetCell(std::int16_t column, TextRef ref) { table_->cells_[Place(column)] = ref; }
+    TextRef Ref(std::int16_t column) const { return CellAt(column); }
+    void SetCell(std::int16_t column, TextRef ref) { CellAt(column) = ref; }
     void SetCell(std::int16_t column, TextView text) { SetCell(column, table_->Store().Put(text)); }
     void SetSubItems(std::int16_t i, TextRef ref) { SetCell(static_cast<std::int16_t>(i + 1), ref); }
     void SetSubItems(std::int16_t i, TextView text) { SetCell(static_cast<std::int16_t>(i + 1), text); }
+    /// Calls `visit(column, length)` for every cell that is not empty.
+    template <class Visitor>
+    void VisitLengths(Visitor visit) const {
+        CheckAlive();
+        const TextStore& store = *table_->store_;
+        for (std::int16_t column = 1; column <= table_->columnCount_; ++column) {
+            const TextRef ref = cells_[column - 1];
+            if (!ref.IsEmpty()) visit(column, store.Get(ref).size());
+        }
+    }
 
     TextView Tag() const;
     void SetTag(TextView tag);
@@ -155,19 +172,39 @@ class Row {
     CellLook Look(std::int16_t column = 0) const;
     void SetLook(std::int16_t column, const CellLook& look);
 
-    friend bool operator==(const Row&, const Row&) = default;
+    friend bool operator==(const Row& a, const Row& b) { return a.table_ == b.table_ && a.slot_ == b.slot_; }
 
   private:
     friend class Table;
-    Row(Table& table, Table::Slot slot) : table_(&table), slot_(slot) {}
-    void CheckAlive() const;
-    std::size_t Place(std::int16_t column) const;
+    Row(Table& table, Table::Slot slot)
+        : table_(&table), cells_(table.cells_.Row(slot)), slot_(slot), generation_(table.generation_) {}
+    void CheckAlive() const {
+        if (generation_ != table_->generation_) ThrowIndexOutOfRange();
+    }
+    TextRef& CellAt(std::int16_t column) const {
+        CheckAlive();
+        if (column < 1 || column > table_->columnCount_) ThrowIndexOutOfRange();
+        return cells_[column - 1];
+    }
     std::uint64_t LookPlace(std::int16_t column) const;
     bool HasMark(std::uint8_t mark) const;
     void SetMark(std::uint8_t mark, bool on);
 
     Table* table_;
+    TextRef* cells_;
     Table::Slot slot_;
+    std::uint32_t generation_;
 };
+
+inline Row Table::Item(std::int32_t index) {
+    if (index < 1 || index > Count()) ThrowIndexOutOfRange();
+    return Row(*this, order_[static_cast<std::size_t>(index - 1)]);
+}
+
+inline std::optional<Row> Table::Find(RowKey key) {
+    const auto slot = index_.Find(key);
+    if (!slot) return std::nullopt;
+    return Row(*this, *slot);
+}
 
 }  // namespace swiftroll

@@ -1,6 +1,7 @@
 #include "tables/text_sort.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 
@@ -37,6 +38,35 @@ bool IsInOrder(const std::vector<TextView>& texts, bool descending) {
                           [&](TextView a, TextView b) { return descending ? b < a : a < b; });
 }
 
+/// Sorts by head, equal heads in their present order, by counting one byte after the other.
+void SortByHead(std::vector<Entry>& entries) {
+    constexpr unsigned kByteValues = 256;
+    std::vector<Entry> sorted(entries.size());
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        std::array<std::size_t, kByteValues + 1> next{};
+        for (const Entry& entry : entries) ++next[(entry.head >> shift & 0xFF) + 1];
+        // A byte that is the same everywhere needs no pass.
+        if (std::find(next.begin(), next.end(), entries.size()) != next.end()) continue;
+        for (unsigned value = 1; value <= kByteValues; ++value) next[value] += next[value - 1];
+        for (const Entry& entry : entries) sorted[next[entry.head >> shift & 0xFF]++] = entry;
+        entries.swap(sorted);
+    }
+}
+
+/// Sorts runs of equal heads by the rest of their texts.
+void SortEqualHeads(std::vector<Entry>& entries, const std::vector<TextView>& texts, bool descending) {
+    const auto isBefore = [&](const Entry& a, const Entry& b) {
+        const int order = texts[a.place].compare(texts[b.place]);
+        return descending ? order > 0 : order < 0;
+    };
+    for (auto first = entries.begin(); first != entries.end();) {
+        const auto last =
+            std::find_if(first, entries.end(), [&](const Entry& e) { return e.head != first->head; });
+        if (last - first > 1) std::stable_sort(first, last, isBefore);
+        first = last;
+    }
+}
+
 }  // namespace
 
 std::vector<std::uint32_t> SortedOrder(const std::vector<TextView>& texts, bool descending) {
@@ -44,18 +74,11 @@ std::vector<std::uint32_t> SortedOrder(const std::vector<TextView>& texts, bool 
     const std::size_t skipped = CommonPrefix(texts);
     std::vector<Entry> entries(texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        entries[i] = {Head(texts[i], skipped), static_cast<std::uint32_t>(i)};
+        const std::uint64_t head = Head(texts[i], skipped);
+        entries[i] = {descending ? ~head : head, static_cast<std::uint32_t>(i)};
     }
-    const std::size_t compared = skipped + sizeof(std::uint64_t);
-    std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
-        if (a.head != b.head) return (a.head < b.head) != descending;
-        const TextView x = texts[a.place], y = texts[b.place];
-        if (x.size() > compared || y.size() > compared || x.size() != y.size()) {
-            const int order = x.compare(y);
-            if (order != 0) return (order < 0) != descending;
-        }
-        return a.place < b.place;
-    });
+    SortByHead(entries);
+    SortEqualHeads(entries, texts, descending);
     std::vector<std::uint32_t> order(texts.size());
     for (std::size_t i = 0; i < order.size(); ++i) order[i] = entries[i].place;
     return order;

@@ -3,9 +3,11 @@
 #include <boost/unordered/unordered_flat_set.hpp>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "tables/block_vector.h"
+#include "tables/numbered_texts.h"
 #include "text/text.h"
 
 namespace swiftroll {
@@ -22,7 +24,9 @@ class TextRef {
   private:
     friend class TextStore;
     friend class KeyIndex;
+    friend class SymbolRanks;
     friend struct RowKeyHash;
+    friend std::size_t hash_value(TextRef ref) { return ref.bits_; }
     static constexpr std::uint32_t kInternedBit = 0x80000000u;
     explicit TextRef(std::uint32_t bits) : bits_(bits) {}
     /// Number of an interned text, dense from 0 in the order of first use.
@@ -31,7 +35,7 @@ class TextRef {
 };
 
 /// The texts of one or several tables: written once, never moved, freed together. A text takes its bytes, one
-/// byte for the length (five for long ones) and padding to four.
+/// byte for the length (five for long ones, none for interned ones) and padding to four.
 class TextStore {
   public:
     TextStore();
@@ -48,12 +52,17 @@ class TextStore {
 
     TextView Get(TextRef ref) const {
         if (ref.IsEmpty()) return {};
-        const std::uint32_t place = ref.bits_ & TextRef::kInternedBit ? symbols_[ref.Symbol()].place : ref.bits_;
-        const char* head = chunks_[place >> kChunkBits] + std::size_t{place & kChunkMask} * kUnit;
+        if (ref.IsInterned()) {
+            const Symbol& symbol = symbols_[ref.Symbol()];
+            return {At(symbol.place), symbol.length};
+        }
+        const char* head = At(ref.bits_);
         const auto length = static_cast<unsigned char>(*head);
         if (length != kLongText) return {head + 1, length};
         return LongText(head);
     }
+    /// Number of an interned text, dense from 0 in the order of first use.
+    std::optional<std::uint32_t> NumberOf(TextView text) const;
     std::size_t InternedCount() const { return symbols_.size(); }
 
   private:
@@ -64,35 +73,37 @@ class TextStore {
     static constexpr std::uint32_t kChunkMask = kChunkUnits - 1;
     static constexpr unsigned char kLongText = 255;
 
-    struct Symbol {
-        std::uint32_t place;
-        std::uint32_t hash;
-    };
-    // The set holds symbol numbers; it is asked with a text and its hash.
-    struct Probe {
-        TextView text;
-        std::uint32_t hash;
-    };
+    // The set holds the numbers of the texts that are not told by a number of their own; it is asked with
+    // texts.
     struct SymbolHash {
         using is_transparent = void;
-        const BlockVector<Symbol>* symbols;
-        std::size_t operator()(std::uint32_t symbol) const { return Mix((*symbols)[symbol].hash); }
-        std::size_t operator()(const Probe& probe) const { return Mix(probe.hash); }
-        static std::size_t Mix(std::uint32_t hash) { return hash * 0x9E3779B97F4A7C15u; }
+        const TextStore* store;
+        std::size_t operator()(std::uint32_t symbol) const { return (*this)(store->SymbolText(symbol)); }
+        std::size_t operator()(TextView text) const { return HashOf(text); }
     };
     struct SymbolEqual {
         using is_transparent = void;
         const TextStore* store;
         bool operator()(std::uint32_t a, std::uint32_t b) const { return a == b; }
-        bool operator()(const Probe& probe, std::uint32_t symbol) const {
-            return store->symbols_[symbol].hash == probe.hash &&
-                   store->Get(TextRef(symbol | TextRef::kInternedBit)) == probe.text;
+        bool operator()(TextView text, std::uint32_t symbol) const {
+            return store->SymbolText(symbol) == text;
         }
-        bool operator()(std::uint32_t symbol, const Probe& probe) const { return (*this)(probe, symbol); }
+        bool operator()(std::uint32_t symbol, TextView text) const { return (*this)(text, symbol); }
     };
+    TextView SymbolText(std::uint32_t symbol) const { return Get(TextRef(symbol | TextRef::kInternedBit)); }
 
+    // The length of an interned text stands here, so that asking for it touches no text.
+    struct Symbol {
+        std::uint32_t place;
+        std::uint32_t length;
+    };
+    const char* At(std::uint32_t place) const {
+        return chunks_[place >> kChunkBits] + std::size_t{place & kChunkMask} * kUnit;
+    }
     static TextView LongText(const char* head);
-    std::uint32_t Write(TextView text);
+    static std::size_t HashOf(TextView text);
+    std::optional<std::uint32_t> Known(TextView text, const std::optional<NumberedTexts::Place>& place) const;
+    std::uint32_t WriteBytes(TextView prefix, TextView text);
     char* Reserve(std::size_t units);
 
     std::vector<std::unique_ptr<char[]>> allocations_;
@@ -100,7 +111,8 @@ class TextStore {
     std::vector<char*> chunks_;
     std::uint64_t nextUnit_ = 1;
     BlockVector<Symbol> symbols_;
-    boost::unordered_flat_set<std::uint32_t, SymbolHash, SymbolEqual> index_;
+    NumberedTexts numbered_;
+    boost::unordered_flat_set<std::uint32_t, SymbolHash, SymbolEqual> others_;
 };
 
 }  // namespace swiftroll

@@ -1,5 +1,6 @@
 #include "text/edit.h"
 
+#include <algorithm>
 #include <array>
 
 namespace swiftroll {
@@ -27,18 +28,21 @@ TextView TrimLeft(TextView text) {
     return first == TextView::npos ? TextView() : text.substr(first);
 }
 
-TextView TrimRight(TextView text) {
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
+TextView TrimRight(TextView text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
 
-TextView Trim(TextView text) {
-    return TrimRight(TrimLeft(text));
-}
+TextView Trim(TextView text) { return TrimRight(TrimLeft(text)); }
 
 Text UpperCase(TextView text) {
     Text out(text);
-    for (char& c : out) c = kUpper[static_cast<unsigned char>(c)];
+    for (char& c : out) c = UpperCase(c);
     return out;
+}
+
+char UpperCase(char c) { return kUpper[static_cast<unsigned char>(c)]; }
+
+bool SameButCase(TextView a, TextView b) {
+    return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                                [](char x, char y) { return UpperCase(x) == UpperCase(y); });
 }
 
 Text LowerCaseAscii(TextView text) {
@@ -94,8 +98,6 @@ Text AlignRight(TextView text, std::size_t width) {
     return Text(width - text.size(), ' ').append(text);
 }
 
-TextView FileNamePart(TextView path) {
-    return path.substr(path.find_last_of("\\/") + 1);
-}
+TextView FileNamePart(TextView path) { return path.substr(path.find_last_of("\\/") + 1); }
 
 }  // namespace swiftroll

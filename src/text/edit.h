@@ -14,6 +14,9 @@ TextView Trim(TextView text);
 
 /// The text in capitals of Windows-1252: a-z, à-þ but ÷, œ, š, ž and ÿ have one; ß, µ and ƒ stay.
 Text UpperCase(TextView text);
+char UpperCase(char c);
+/// Whether the texts are equal in capitals.
+bool SameButCase(TextView a, TextView b);
 /// ASCII letters in lower case; other bytes stay.
 Text LowerCaseAscii(TextView text);
 

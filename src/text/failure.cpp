@@ -37,6 +37,8 @@ TextView Description(FailureKind kind) {
 Failure::Failure(FailureKind kind, TextView detail, std::source_location where)
     : kind_(kind), description_(Concat({Description(kind), " (", detail, ")"})), line_(where.line()) {}
 
+void ThrowIndexOutOfRange(std::source_location where) { throw Failure(FailureKind::IndexOutOfRange, where); }
+
 Failure CurrentFailure() {
     try {
         throw;

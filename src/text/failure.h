@@ -46,6 +46,9 @@ class Failure : public std::exception {
     std::uint32_t line_;
 };
 
+/// Throws an IndexOutOfRange failure. Apart from its callers, so that a check costs them a comparison.
+[[noreturn]] void ThrowIndexOutOfRange(std::source_location where = std::source_location::current());
+
 /// The exception being handled, as a Failure: memory exhaustion and faults of the standard library too.
 /// Call it in a catch block only; what is no std::exception is thrown on.
 Failure CurrentFailure();

@@ -14,11 +14,11 @@ struct CodeRange {
 
 // The odd corners (Ø is "D", × is a letter, Œ is a blank) are part of what existing lists were sorted by.
 constexpr CodeRange kFoldedLetters[] = {
-    {192, 198, 'A'}, {199, 199, 'C'}, {200, 203, 'E'}, {204, 207, 'I'}, {208, 208, 'D'}, {209, 209, 'N'},
-    {210, 214, 'O'}, {215, 215, 'x'}, {216, 216, 'D'}, {217, 220, 'U'}, {221, 221, 'Y'}, {222, 222, 'D'},
-    {223, 223, 'S'}, {224, 230, 'a'}, {231, 231, 'c'}, {232, 235, 'e'}, {236, 239, 'i'}, {240, 240, 'd'},
-    {241, 241, 'n'}, {242, 246, 'o'}, {248, 248, 'o'}, {249, 252, 'u'}, {253, 253, 'y'}, {254, 254, 'd'},
-    {255, 255, 'y'}};
+    {192, 198, 'A'}, {199, 199, 'C'}, {200, 203, 'E'}, {204, 207, 'I'}, {208, 208, 'D'},
+    {209, 209, 'N'}, {210, 214, 'O'}, {215, 215, 'x'}, {216, 216, 'D'}, {217, 220, 'U'},
+    {221, 221, 'Y'}, {222, 222, 'D'}, {223, 223, 'S'}, {224, 230, 'a'}, {231, 231, 'c'},
+    {232, 235, 'e'}, {236, 239, 'i'}, {240, 240, 'd'}, {241, 241, 'n'}, {242, 246, 'o'},
+    {248, 248, 'o'}, {249, 252, 'u'}, {253, 253, 'y'}, {254, 254, 'd'}, {255, 255, 'y'}};
 
 constexpr std::array<char, 256> InitAlphaNum() {
     std::array<char, 256> table{};
@@ -66,9 +66,7 @@ Text FoldAccents(TextView text) {
     return out;
 }
 
-void AppendComparisonForm(Text& out, TextView text) {
-    AppendFolded(out, text, kAlphaNumCapitals);
-}
+void AppendComparisonForm(Text& out, TextView text) { AppendFolded(out, text, kAlphaNumCapitals); }
 
 Text ComparisonForm(TextView text) {
     Text out;

@@ -12,7 +12,8 @@ namespace {
 template <class Integer>
 Integer Narrow(TextView text) {
     const TextView digits = Trim(text);
-    const bool plain = digits.find_first_not_of("0123456789", digits.starts_with('-') ? 1 : 0) == TextView::npos;
+    const bool plain =
+        digits.find_first_not_of("0123456789", digits.starts_with('-') ? 1 : 0) == TextView::npos;
     const auto number = ParseDecimal(digits);
     if (!number) {
         // Digits alone that give no number are too many digits.
@@ -46,12 +47,8 @@ std::optional<std::int64_t> ParseDecimal(TextView text) {
     return number;
 }
 
-std::int32_t ToLong(TextView text) {
-    return Narrow<std::int32_t>(text);
-}
+std::int32_t ToLong(TextView text) { return Narrow<std::int32_t>(text); }
 
-std::int16_t ToInteger(TextView text) {
-    return Narrow<std::int16_t>(text);
-}
+std::int16_t ToInteger(TextView text) { return Narrow<std::int16_t>(text); }
 
 }  // namespace swiftroll

@@ -4,8 +4,8 @@
 
 namespace swiftroll::modGenFileFromModel {
 
-/// One pass over the rows of `lvwOut` that tells where a new entry of the alphabetical index begins: the first
-/// `txtINDEX` characters of the first component of the row's key.
+/// One pass over the rows of `lvwOut` that tells where a new entry of the alphabetical index begins: the
+/// first `txtINDEX` characters of the first component of the row's key.
 class IndexPass {
   public:
     explicit IndexPass(const Application& app) : app_(app) {}
@@ -30,8 +30,8 @@ Text CalcINDEXes(Application& app, bool bSelectedOnly, TextView sEmptyCell);
 class AnchorWriter {
   public:
     explicit AnchorWriter(Application& app) : app_(app), pass_(app) {}
-    /// Writes an anchor when the row begins an entry: with `bXml` a line of the XML file, else a piece of HTML.
-    /// A failure of the index is reported once, and there are no anchors from there on.
+    /// Writes an anchor when the row begins an entry: with `bXml` a line of the XML file, else a piece of
+    /// HTML. A failure of the index is reported once, and there are no anchors from there on.
     void PutINDEX(File& iFile, const Row& row, bool bXml);
 
   private:

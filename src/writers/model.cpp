@@ -43,8 +43,10 @@ class Splitter {
 };
 
 void RemoveTags(ModelPieces& pieces) {
-    for (Text* piece : {&pieces.sModelRow1Open, &pieces.sModelRow2Open}) *piece = ReplaceAll(*piece, "<tr>", "");
-    for (Text* piece : {&pieces.sModelRow1Close, &pieces.sModelRow2Close}) *piece = ReplaceAll(*piece, kRowEnd, "");
+    for (Text* piece : {&pieces.sModelRow1Open, &pieces.sModelRow2Open})
+        *piece = ReplaceAll(*piece, "<tr>", "");
+    for (Text* piece : {&pieces.sModelRow1Close, &pieces.sModelRow2Close})
+        *piece = ReplaceAll(*piece, kRowEnd, "");
     for (Text* piece : {&pieces.sModelCell1, &pieces.sModelCell2}) {
         *piece = ReplaceAll(ReplaceAll(*piece, "<td>", ""), kCellEnd, "");
     }

@@ -16,8 +16,8 @@ constexpr TextView kPaddedElement = "%ELEMENT% ";
 /// One document on its way to its file.
 class Document {
   public:
-    Document(Application& app, const modReadGedcom::LineReader& lines, ModelPieces model, OutFormat iOutFormat,
-             bool bSelectedOnly, TextView sEmptyCell)
+    Document(Application& app, const modReadGedcom::LineReader& lines, ModelPieces model,
+             OutFormat iOutFormat, bool bSelectedOnly, TextView sEmptyCell)
         : app_(app),
           variables_(app, lines),
           model_(std::move(model)),
@@ -55,10 +55,12 @@ class Document {
   private:
     void PlaceIndex() {
         constexpr TextView kIndex = "%INDEX%";
-        const bool hasPlace = model_.sModelHead.find(kIndex) != Text::npos || model_.sModelTail.find(kIndex) != Text::npos;
+        const bool hasPlace =
+            model_.sModelHead.find(kIndex) != Text::npos || model_.sModelTail.find(kIndex) != Text::npos;
         if (format_ == OutFormat::Text || app_.txtINDEX.Get() == "0" || !hasPlace) return;
         const Text links = CalcINDEXes(app_, selectedOnly_, emptyCell_);
-        for (Text* piece : {&model_.sModelHead, &model_.sModelTail}) *piece = ReplaceAll(*piece, kIndex, links);
+        for (Text* piece : {&model_.sModelHead, &model_.sModelTail})
+            *piece = ReplaceAll(*piece, kIndex, links);
     }
 
     void Print(TextView sText) { PrintWithOtherTags(*file_, sText, variables_); }

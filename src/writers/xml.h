@@ -7,8 +7,8 @@ namespace swiftroll::modGenFileFromModel {
 /// Element names by position of `lvwOut`, up to `Number`: the captions in comparison form without blanks.
 PerColumn<Text> MakeColumnTags(const Application& app);
 
-/// Writes `lvwOut`, all of it or its marked rows, as XML that refers to the stylesheet `sXslName` unless that is
-/// empty. A step that fails is skipped and nothing is reported.
+/// Writes `lvwOut`, all of it or its marked rows, as XML that refers to the stylesheet `sXslName` unless that
+/// is empty. A step that fails is skipped and nothing is reported.
 /// @return whether every step succeeded
 bool WriteXML(Application& app, TextView sOutFile, TextView sXslName, bool bSelectedOnly);
 

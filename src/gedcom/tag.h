@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+#include "text/text.h"
+
+namespace swiftroll::modReadGedcom {
+
+/// A tag of up to eight characters as a number, so that a line is told by a switch; 0 for a longer one.
+constexpr std::uint64_t TagCode(TextView tag) {
+    if (tag.size() > sizeof(std::uint64_t)) return 0;
+    std::uint64_t code = 0;
+    for (const char c : tag) code = code << 8 | static_cast<unsigned char>(c);
+    return code;
+}
+
+}  // namespace swiftroll::modReadGedcom
