@@ -139,6 +139,7 @@ class Runner {
     }
 
     void Do() {
+        hasRead_ = true;
         main_.cmdLoad.Click();
         if (dialogs_.HasRefusal() || !Mark()) return;
         if (arguments_.job == Job::Tables) {
@@ -184,7 +185,7 @@ class Runner {
 
     void Finish() {
         progress_.Wipe();
-        if (arguments_.quiet) return;
+        if (arguments_.quiet || !hasRead_) return;
         for (const Panel* panel :
              {&main_.pnlLines, &main_.pnlIndividuals, &main_.pnlFamilies, &main_.pnlMessage}) {
             if (!panel->Get().empty()) PrintError(panel->Get());
@@ -200,6 +201,7 @@ class Runner {
     TerminalProgress progress_;
     frmMain main_;
     std::vector<Table*> tables_;
+    bool hasRead_ = false;
     bool failed_ = false;
 };
 

@@ -15,7 +15,7 @@ class Printer {
   public:
     Printer() {
         for (unsigned code = 0; code < 256; ++code) isPlain_[code] = code < 0x80;
-        for (const unsigned char c : {'\t', '\n', '\r', '\\'}) isPlain_[c] = false;
+        for (const char c : {'\t', '\n', '\r', '\\'}) isPlain_[static_cast<unsigned char>(c)] = false;
     }
 
     void Cell(TextView text) {

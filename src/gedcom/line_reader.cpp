@@ -106,11 +106,14 @@ bool LineReader::AskToGoOn(const Failure& failure) {
 
 std::int32_t LineReader::ReadAndSplit() {
     if (!scanner_) return -1;
+    // The scanner is free to move what it held.
+    sLine = sXrefDef = sTag = sValue = {};
     if (!scanner_->Next()) {
         // The record still open ends at a dropped last line that would have begun another one, such as the
         // "0 TRLR" of a file with bare line feeds, or at the end of the file.
-        const bool atLine = IsLevel0(scanner_->Line());
-        NoteRecordEnd(atLine ? scanner_->LinePosition() : scanner_->ReadPosition() + 1);
+        sLine = scanner_->Line();
+        NoteRecordEnd(IsLevel0(sLine) ? scanner_->LinePosition() : scanner_->ReadPosition() + 1);
+        sLine = {};
         Close();
         return -1;
     }
@@ -130,8 +133,8 @@ std::int32_t LineReader::ReadAndSplit() {
 void LineReader::ShowProgress() {
     app_.pnlLines.Set(Concat({"Ligne(s) GEDCOM : "_t, Decimal(std::int64_t{lNrLines} + 1)}));
     constexpr std::int64_t kUnit = 128;
-    app_.ProgressBar1.Show(static_cast<double>(scanner_->ReadPosition() / kUnit * kUnit),
-                           static_cast<double>(lProgressTotal));
+    const std::int64_t wholeUnits = scanner_->ReadPosition() / kUnit * kUnit;
+    app_.ProgressBar1.Show(static_cast<double>(wholeUnits), static_cast<double>(lProgressTotal));
 }
 
 bool LineReader::SplitLine() {
@@ -159,12 +162,14 @@ bool LineReader::SplitLine() {
 }
 
 void LineReader::TakeFields(TextView rest) {
-    sXrefDef = GetXrefDef(rest);
-    sLine = TrimLeft(rest.substr(sXrefDef.size()));
-    std::size_t blank = 0;
-    while (blank < sLine.size() && sLine[blank] != ' ') ++blank;
-    sTag = sLine.substr(0, blank);
-    sValue = blank == sLine.size() ? TextView() : sLine.substr(blank + 1);
+    sXrefDef = rest.starts_with('@') ? GetXrefDef(rest) : TextView();
+    rest.remove_prefix(sXrefDef.size());
+    sLine = rest.starts_with(' ') ? TrimLeft(rest) : rest;
+    const char* const end = sLine.data() + sLine.size();
+    const char* blank = sLine.data();
+    while (blank != end && *blank != ' ') ++blank;
+    sTag = {sLine.data(), static_cast<std::size_t>(blank - sLine.data())};
+    sValue = blank == end ? TextView() : TextView(blank + 1, static_cast<std::size_t>(end - blank - 1));
 }
 
 bool LineReader::NoteRecordStart(std::int64_t position) {
@@ -186,7 +191,7 @@ bool LineReader::NoteRecordStart(std::int64_t position) {
 void LineReader::NoteRecordEnd(std::int64_t position) {
     sTag = sXrefDef = sValue = {};
     const bool isNew = NoteRecordStart(position);
-    if (!isNew) AskToGoOn(Failure(FailureKind::DuplicateKey));
+    if (!isNew && !app_.bAbort) AskToGoOn(Failure(FailureKind::DuplicateKey));
 }
 
 }  // namespace swiftroll::modReadGedcom

@@ -54,14 +54,18 @@ bool LineScanner::Fill(std::size_t keepFrom) {
 }
 
 bool LineScanner::SkipToText() {
-    linePosition_ = ReadPosition() + 1;
-    for (;;) {
-        if (next_ == size_ && !Fill(next_)) return false;
+    std::int64_t behindLineEnd = ReadPosition();
+    for (;; ++next_) {
+        if (next_ == size_ && !Fill(next_)) break;
         const char c = buffer_[next_];
-        if (!IsLineEnd(c) && c != ' ') return true;
-        ++next_;
-        if (IsLineEnd(c)) linePosition_ = ReadPosition() + 1;
+        if (IsLineEnd(c)) {
+            behindLineEnd = ReadPosition() + 1;
+        } else if (c != ' ') {
+            break;
+        }
     }
+    linePosition_ = behindLineEnd + 1;
+    return next_ < size_;
 }
 
 bool LineScanner::FindLineEnd() {

@@ -21,7 +21,10 @@ std::tm BrokenDown(std::time_t time, bool utc) {
 }  // namespace
 
 SystemClock::SystemClock() {
-    if (const char* epoch = std::getenv("SOURCE_DATE_EPOCH")) fixed_ = ParseDecimal(epoch);
+    constexpr std::int64_t kYear1 = -62135596800, kYear10000 = 253402300800;
+    const char* epoch = std::getenv("SOURCE_DATE_EPOCH");
+    const auto seconds = epoch == nullptr ? std::nullopt : ParseDecimal(epoch);
+    if (seconds && *seconds >= kYear1 && *seconds < kYear10000) fixed_ = seconds;
 }
 
 Moment SystemClock::Now() {

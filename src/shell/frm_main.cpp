@@ -50,6 +50,8 @@ void frmMain::Form_Load(TextView sCommandLine) {
         [&] {
             bStarting = true;
             InitPaths();
+            step = "InitCTT";
+            AttachTips();
             step = "InitMisc";
             for (Panel* panel : {&pnlLines, &pnlIndividuals, &pnlFamilies}) panel->Set("");
             pnlMessage.Set(

@@ -42,6 +42,8 @@ class frmMain : public Application {
     void BindFiles();
     void BindOptionRules();
 
+    void AttachTips();
+    void chkTips_Click();
     void InitPaths();
     void InitCombos();
 

@@ -21,8 +21,8 @@ class BlockVector {
         if (size > size_) size_ = size;
     }
     void push_back(const T& value) {
-        Grow(size_ + 1);
-        (*this)[size_ - 1] = value;
+        if (size_ == blocks_.size() << kBlockBits) blocks_.push_back(std::make_unique<T[]>(kBlockSize));
+        (*this)[size_++] = value;
     }
     void Clear() {
         blocks_.clear();

@@ -9,7 +9,7 @@ namespace swiftroll {
 /// icon becomes "OnNo", selected for export.
 void SetColumnIcon(Table& table, Column& column, bool bResetOthers);
 
-/// Gives every column of the shown tables its icon: a column without one counts as selected.
+/// Brings the sort marks of all columns of the shown tables up to date.
 void SetAllColumnIcons(TableSet& tables);
 
 }  // namespace swiftroll

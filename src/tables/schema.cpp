@@ -122,13 +122,21 @@ std::shared_ptr<StoreGroup> OwnGroup() { return std::make_shared<StoreGroup>(); 
 }  // namespace
 
 TableSet::TableSet()
-    : lvwIn("lvwIn", InColumns(), readGroup_),
-      lvwOut("lvwOut", OutColumns(), OwnGroup()),
-      lvwXref("lvwXref", XrefColumns(), readGroup_),
-      lvwXref1("lvwXref1", Xref1Columns(), OwnGroup()),
-      lvwFamily("lvwFamily", FamilyColumns(), readGroup_),
-      lvwFamilyXref("lvwFamilyXref", FamilyXrefColumns(), readGroup_),
-      lvwKinship("lvwKinship", KinshipColumns(), OwnGroup()) {}
+    : lvwIn("lvwIn", "Liste des individus se trouvant dans le fichier GEDCOM en Entrée."_t, InColumns(),
+            readGroup_),
+      lvwOut("lvwOut",
+             "Liste des individus définis dans le ficher GEDCOM en entrée regroupés suivant les colonnes qui "
+             "se trouvent "
+             "avant la colonne Nbre."_t,
+             OutColumns(), OwnGroup()),
+      lvwXref("lvwXref", "Ensemble de tous les liens entres les individus."_t, XrefColumns(), readGroup_),
+      lvwXref1("lvwXref1", TextView(), Xref1Columns(), OwnGroup()),
+      lvwFamily("lvwFamily", "Liste des familles."_t, FamilyColumns(), readGroup_),
+      lvwFamilyXref("lvwFamilyXref", "Composition des familles."_t, FamilyXrefColumns(), readGroup_),
+      lvwKinship(
+          "lvwKinship",
+          "Ensemble des liens de parenté entre les 2 individus sélectionnés dans la liste en Entrée."_t,
+          KinshipColumns(), OwnGroup()) {}
 
 std::vector<Table*> TableSet::All() {
     return {&lvwIn, &lvwOut, &lvwXref, &lvwXref1, &lvwFamily, &lvwFamilyXref, &lvwKinship};

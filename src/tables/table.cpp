@@ -18,8 +18,10 @@ std::shared_ptr<TextStore> StoreGroup::Acquire() {
     return store;
 }
 
-Table::Table(Text name, std::vector<Column> columns, std::shared_ptr<StoreGroup> group)
-    : name_(std::move(name)),
+Table::Table(Text name, TextView tip, std::vector<Column> columns, std::shared_ptr<StoreGroup> group)
+    : Tip(tip),
+      name_(std::move(name)),
+      baseTip_(tip),
       columns_(std::move(columns)),
       columnCount_(static_cast<std::int16_t>(columns_.size())),
       group_(std::move(group)),

@@ -44,11 +44,16 @@ class StoreGroup {
 /// aside.
 class Table {
   public:
-    Table(Text name, std::vector<Column> columns, std::shared_ptr<StoreGroup> group);
+    /// `tip` tells a user what the table holds.
+    Table(Text name, TextView tip, std::vector<Column> columns, std::shared_ptr<StoreGroup> group);
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
     const Text& Name() const { return name_; }
+    /// What the tool tip says at rest, and what it says at present.
+    const Text& BaseTip() const { return baseTip_; }
+    void SetBaseTip(TextView tip) { Tip = baseTip_ = tip; }
+    Text Tip;
     std::int32_t Count() const { return static_cast<std::int32_t>(order_.size()); }
     std::int16_t ColumnCount() const { return columnCount_; }
     /// The column of an index from 1. @throws Failure IndexOutOfRange
@@ -108,6 +113,7 @@ class Table {
     void RefreshPlaces();
 
     Text name_;
+    Text baseTip_;
     std::vector<Column> columns_;
     std::int16_t columnCount_;
     std::shared_ptr<StoreGroup> group_;

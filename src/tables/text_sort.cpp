@@ -28,8 +28,13 @@ std::size_t CommonPrefix(const std::vector<TextView>& texts) {
 std::uint64_t Head(TextView text, std::size_t skipped) {
     const TextView rest = text.substr(skipped);
     std::uint64_t head = 0;
-    std::memcpy(&head, rest.data(), std::min(rest.size(), sizeof head));
-    if constexpr (std::endian::native == std::endian::little) head = __builtin_bswap64(head);
+    if (rest.size() >= sizeof head) {
+        std::memcpy(&head, rest.data(), sizeof head);
+        return std::endian::native == std::endian::little ? __builtin_bswap64(head) : head;
+    }
+    for (std::size_t i = 0; i < sizeof head; ++i) {
+        head = head << 8 | (i < rest.size() ? static_cast<unsigned char>(rest[i]) : 0u);
+    }
     return head;
 }
 

@@ -1,5 +1,6 @@
 #include "tables/text_store.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -54,8 +55,7 @@ std::uint32_t TextStore::WriteBytes(TextView prefix, TextView text) {
     if (text.size() > std::numeric_limits<std::int32_t>::max()) throw Failure(FailureKind::OutOfMemory);
     const std::size_t units = (prefix.size() + text.size() + kUnit - 1) / kUnit;
     char* head = Reserve(units);
-    std::memcpy(head, prefix.data(), prefix.size());
-    std::memcpy(head + prefix.size(), text.data(), text.size());
+    std::copy(text.begin(), text.end(), std::copy(prefix.begin(), prefix.end(), head));
     const auto place = static_cast<std::uint32_t>(nextUnit_);
     nextUnit_ += units;
     return place;

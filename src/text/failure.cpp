@@ -8,6 +8,13 @@
 
 namespace swiftroll {
 
+namespace {
+
+// Exceptions of the standard library do not tell where they were thrown.
+constexpr std::uint32_t kNoLine = 0;
+
+}  // namespace
+
 TextView Description(FailureKind kind) {
     switch (kind) {
         case FailureKind::InvalidArgument:
@@ -34,10 +41,10 @@ TextView Description(FailureKind kind) {
     return {};
 }
 
-Failure::Failure(FailureKind kind, TextView detail, std::source_location where)
-    : kind_(kind), description_(Concat({Description(kind), " (", detail, ")"})), line_(where.line()) {}
+Failure::Failure(FailureKind kind, TextView detail, std::uint32_t line)
+    : kind_(kind), description_(Concat({Description(kind), " (", detail, ")"})), line_(line) {}
 
-void ThrowIndexOutOfRange(std::source_location where) { throw Failure(FailureKind::IndexOutOfRange, where); }
+void ThrowIndexOutOfRange(std::uint32_t line) { throw Failure(FailureKind::IndexOutOfRange, line); }
 
 Failure CurrentFailure() {
     try {
@@ -45,11 +52,13 @@ Failure CurrentFailure() {
     } catch (const Failure& failure) {
         return failure;
     } catch (const std::bad_alloc&) {
-        return Failure(FailureKind::OutOfMemory);
+        return Failure(FailureKind::OutOfMemory, kNoLine);
     } catch (const std::length_error&) {
-        return Failure(FailureKind::OutOfMemory);
+        return Failure(FailureKind::OutOfMemory, kNoLine);
+    } catch (const std::out_of_range&) {
+        return Failure(FailureKind::IndexOutOfRange, kNoLine);
     } catch (const std::exception& exception) {
-        return Failure(FailureKind::Internal, exception.what());
+        return Failure(FailureKind::Internal, exception.what(), kNoLine);
     }
 }
 

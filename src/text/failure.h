@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <exception>
-#include <source_location>
 
 #include "text/text.h"
 
@@ -28,15 +27,15 @@ TextView Description(FailureKind kind);
 /// A failed run-time check: it leaves the procedure, and the error trail reports it.
 class Failure : public std::exception {
   public:
-    explicit Failure(FailureKind kind, std::source_location where = std::source_location::current())
-        : kind_(kind), description_(Description(kind)), line_(where.line()) {}
+    explicit Failure(FailureKind kind, std::uint32_t line = __builtin_LINE())
+        : kind_(kind), description_(Description(kind)), line_(line) {}
     /// With `detail` (a file, a key) behind the description.
-    Failure(FailureKind kind, TextView detail, std::source_location where = std::source_location::current());
+    Failure(FailureKind kind, TextView detail, std::uint32_t line = __builtin_LINE());
 
     FailureKind Kind() const { return kind_; }
     std::int32_t Number() const { return static_cast<std::int32_t>(kind_); }
     const Text& What() const { return description_; }
-    /// Source line of the failed check.
+    /// Source line of the failed check, 0 where it is not known.
     std::uint32_t Line() const { return line_; }
     const char* what() const noexcept override { return description_.c_str(); }
 
@@ -47,7 +46,7 @@ class Failure : public std::exception {
 };
 
 /// Throws an IndexOutOfRange failure. Apart from its callers, so that a check costs them a comparison.
-[[noreturn]] void ThrowIndexOutOfRange(std::source_location where = std::source_location::current());
+[[noreturn]] void ThrowIndexOutOfRange(std::uint32_t line = __builtin_LINE());
 
 /// The exception being handled, as a Failure: memory exhaustion and faults of the standard library too.
 /// Call it in a catch block only; what is no std::exception is thrown on.

@@ -13,7 +13,8 @@ template <class Integer>
 Integer Narrow(TextView text) {
     const TextView digits = Trim(text);
     const bool plain =
-        digits.find_first_not_of("0123456789", digits.starts_with('-') ? 1 : 0) == TextView::npos;
+        digits.find_first_not_of("0123456789", digits.starts_with('-') || digits.starts_with('+') ? 1 : 0) ==
+        TextView::npos;
     const auto number = ParseDecimal(digits);
     if (!number) {
         // Digits alone that give no number are too many digits.

@@ -45,11 +45,10 @@ class LenientFile : public File {
 
 PerColumn<Text> MakeColumnTags(const Application& app) {
     PerColumn<Text> tags;
-    for (const Column& column : app.lvwOut.Columns()) {
-        if (column.Position > app.positions.iPosNumber) continue;
-        Text tag = ComparisonForm(column.Caption);
-        std::erase(tag, ' ');
-        tags[column.Position] = tag;
+    const Positions::OfTable& positions = app.positions.Of(app.lvwOut);
+    for (std::int16_t position = 1; position <= app.positions.iPosNumber; ++position) {
+        tags[position] = ComparisonForm(app.lvwOut.ColumnAt(positions.iColAtPos[position]).Caption);
+        std::erase(tags[position], ' ');
     }
     return tags;
 }
