@@ -33,9 +33,11 @@ Control::Control(Window& window, ControlKind kind, const ControlTexts& texts)
 
 void Window::SetFocus(Control& control) {
     if (activeControl_ == &control) return;
-    const Control* previous = activeControl_;
-    activeControl_ = &control;
+    const Control* previous = std::exchange(activeControl_, nullptr);
     if (previous != nullptr) previous->LoseFocus();
+    // What runs on losing the focus may have sent it elsewhere.
+    if (activeControl_ != nullptr) return;
+    activeControl_ = &control;
     control.TakeFocus();
     Fire(OnFocusChanged);
 }

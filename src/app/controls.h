@@ -148,7 +148,7 @@ class ComboBox : public Control {
     bool isSelector_;
     std::vector<Text> items_;
     Text text_;
-    int listIndex_ = -1;
+    int listIndex_ = isSelector_ ? 0 : -1;
 };
 
 /// Rows with a number each, which the user puts in order.

@@ -65,10 +65,12 @@ std::string Joined(const std::vector<std::string>& words) {
 /// The library's message, in French.
 std::string Translated(const CLI::ParseError& error, const CLI::App& app) {
     const std::string what = error.what();
-    if (error.get_name() == "ExtrasError")
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
         return "argument inconnu ou pas encore possible : " + Joined(app.remaining(true));
-    if (error.get_name() == "ArgumentMismatch")
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
         return "valeur manquante ou en trop pour " + what.substr(0, what.find(':'));
+    }
     return "arguments incorrects (" + what + ")";
 }
 

@@ -83,6 +83,9 @@ class Runner {
         if (WritesStylesheet() && dialogs_.outputFile == kStandardOutput) {
             throw UsageError("--xsl demande un fichier de sortie");
         }
+        if (WritesStylesheet() && StylesheetFile() == dialogs_.outputFile) {
+            throw UsageError("la sortie a le nom de sa feuille de style : " + arguments_.output);
+        }
     }
 
     int Format() const {

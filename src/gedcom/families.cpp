@@ -9,6 +9,7 @@ namespace swiftroll::modReadGedcom {
 namespace {
 
 constexpr std::int32_t kStatusStep = 200;
+constexpr std::int32_t kLookAhead = 8;
 
 /// The display names of all individuals, made in one pass in the order of `lvwIn`, which does not change
 /// meanwhile.
@@ -77,6 +78,7 @@ class FamilyCopier {
         bool marriageCopied = false;
         for (std::int32_t i = 1; i <= count; ++i) {
             if (i % kStatusStep == 0) ShowStatus(i, count);
+            LookAhead(i, count);
             Row member = app_.lvwFamilyXref.Item(i);
             // Both tables stand in the order of the family identifiers; families without members are passed
             // over.
@@ -84,18 +86,25 @@ class FamilyCopier {
                 family = app_.lvwFamily.Item(++lFamIndex);
                 marriageCopied = false;
             }
-            Widths& widths = app_.lMaxLenFamilyXref;
-            member.SetCell(FamilyXref::Family, family->Ref(Family::Fam));
+            const TextRef label = family->Ref(Family::Fam);
+            member.SetCell(FamilyXref::Family, label);
             const auto person = app_.lvwIn.Find(RowKey(member.Ref(FamilyXref::IDIndi)));
             if (!person) continue;
-            SetCell(member, FamilyXref::Indi, names_.Of(*person), widths);
+            SetCell(member, FamilyXref::Family, label, app_.lMaxLenFamilyXref);
+            SetCell(member, FamilyXref::Indi, names_.Of(*person), app_.lMaxLenFamilyXref);
             LinkMember(member, *person, *family);
-            SetMaxLen(member, widths);
             // The same for every member, so once is enough.
             if (!std::exchange(marriageCopied, true)) FillLvwIn(*family);
             if (app_.bAbort) break;
         }
         ShowStatus(count, count);
+    }
+
+    /// Fetches the rows that the loop will come to: the member first, the person it names a little later.
+    void LookAhead(std::int32_t i, std::int32_t count) const {
+        app_.lvwFamilyXref.Prefetch(i + 2 * kLookAhead);
+        if (i + kLookAhead > count) return;
+        app_.lvwIn.Prefetch(RowKey(app_.lvwFamilyXref.Item(i + kLookAhead).Ref(FamilyXref::IDIndi)));
     }
 
     void ShowStatus(std::int32_t done, std::int32_t count) {
@@ -127,8 +136,8 @@ class FamilyCopier {
         const TextRef childType = sex == words.Male     ? words.Son
                                   : sex == words.Female ? words.Daughter
                                                         : words.Child;
-        member.SetCell(FamilyXref::Sex, sex);
-        member.SetCell(FamilyXref::Type, childType);
+        SetCell(member, FamilyXref::Sex, sex, app_.lMaxLenFamilyXref);
+        SetCell(member, FamilyXref::Type, childType, app_.lMaxLenFamilyXref);
         const bool hasHusband = !family.Ref(Family::IDHusb).IsEmpty(),
                    hasWife = !family.Ref(Family::IDWife).IsEmpty();
         const TextRef parent = family.Ref(hasHusband ? Family::IDHusb

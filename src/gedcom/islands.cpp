@@ -9,6 +9,7 @@ namespace swiftroll::modReadGedcom {
 namespace {
 
 constexpr std::int32_t kStatusStep = 100;
+constexpr std::int32_t kLookAhead = 16;
 
 /// The links as numbers: rows of `lvwIn` from 0, and for each the links that leave it. The walk then stays in
 /// small arrays, wherever the rows stand in memory.
@@ -17,6 +18,7 @@ class LinkGraph {
     LinkGraph(Application& app, const XrefRanges& colXrefRange) {
         targets_.reserve(static_cast<std::size_t>(app.lvwXref.Count()));
         for (std::int32_t i = 1; i <= app.lvwXref.Count(); ++i) {
+            app.lvwXref.Prefetch(i + kLookAhead);
             const auto linked = app.lvwIn.Find(RowKey(app.lvwXref.Item(i).Ref(Xref::IDIndi2)));
             targets_.push_back(linked ? linked->Index() - 1 : kNobody);
         }

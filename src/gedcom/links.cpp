@@ -10,6 +10,8 @@ namespace swiftroll::modReadGedcom {
 
 namespace {
 
+constexpr std::int32_t kLookAhead = 16;
+
 /// The row of a key; a new one has `text` in its first cell.
 Row RowOf(Table& table, RowKey key, TextRef text, Widths& widths) {
     const std::int32_t before = table.Count();
@@ -118,6 +120,7 @@ std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int
             lFirst = 1;
             sId = table.Item(1).Text();
             for (i = 2; i <= count; ++i) {
+                table.Prefetch(i + kLookAhead);
                 const TextView text = table.Item(i).Text();
                 if (text.data() == sId.data() || text == sId) continue;
                 app.ProgressBar1.Show(i, count);

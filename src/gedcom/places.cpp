@@ -12,6 +12,9 @@ namespace {
 
 constexpr int kMostParts = 20;
 constexpr int kTrimPasses = 20;
+// A place whose parts hold markers can grow without end; no honest one grows as much as this.
+constexpr std::size_t kMostGrowth = 64;
+constexpr std::size_t kGrowthAllowed = std::size_t{1} << 20;
 
 Text ReplaceMarker(Text text, TextView marker, TextView by) {
     return text.find(marker) == Text::npos ? std::move(text) : ReplaceAll(text, marker, by);
@@ -36,6 +39,9 @@ Text PlaceFormatter::Take1Place(TextView sPlace) const {
         const auto part = static_cast<std::size_t>(n - 1);
         sOut = ReplaceMarker(std::move(sOut), "%" + Decimal(n),
                              part < parts.size() ? Trim(parts[part]) : TextView());
+        if (sOut.size() > kGrowthAllowed + kMostGrowth * (format_.size() + sPlace.size())) {
+            throw Failure(FailureKind::OutOfMemory);
+        }
     }
     sOut = ReplaceMarker(std::move(sOut), "%0", sPlace);
     sOut = ReplaceMarker(std::move(sOut), "%%", "%");

@@ -49,7 +49,12 @@ TextRef RecordReader::Sex(TextView sex) const {
     return store_.Intern(sex);
 }
 
-TextRef RecordReader::Place() const { return store_.Intern(CleanInPlace(lines_.sValue)); }
+TextRef RecordReader::Place() {
+    // One record, and its neighbours in the register, often name one place.
+    const TextView place = CleanInPlace(lines_.sValue);
+    if (place != store_.Get(lastPlace_)) lastPlace_ = store_.Intern(place);
+    return lastPlace_;
+}
 
 TextRef RecordReader::YearText(std::int32_t year, std::int32_t none) {
     if (year == none) return {};

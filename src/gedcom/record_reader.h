@@ -43,7 +43,7 @@ class RecordReader {
     void AddMember(TextRef type, TextRef sex);
     void ReadFamilyEvent(TextRef& place, Years& years);
     TextRef UsedXref() const;
-    TextRef Place() const;
+    TextRef Place();
     TextRef Sex(TextView sex) const;
     TextRef YearText(std::int32_t year, std::int32_t none);
     /// Tags a row with the byte range of the record that was read.
@@ -55,6 +55,7 @@ class RecordReader {
     TextStore& store_;
     std::int32_t lNrRows_ = 0;
     TextRef sCurId_;
+    TextRef lastPlace_;
     Text sWithSuffix_;
     std::vector<TextRef> yearTexts_;  // by year
 };

@@ -37,6 +37,7 @@ frmMain::frmMain(const Ports& applicationPorts)
       cmdCopyTitle2kinship(*this, {"cmdCopyTitle2kinship", ">"}, {}, false),
       cmdPrintKinship(*this, {"cmdPrintKinship"}, {}, false),
       modReadGedcom(*this) {
+    DisableKinshipCommands();
     BindReading();
     BindWriting();
     BindFiles();

@@ -89,7 +89,10 @@ void frmMain::optOutExtension_Click(int Index) {
     }
     txtINDEX.Enabled = Index != kText;
     chkGenerXSL.Enabled = Index == kXml;
-    if (cboSaveSwift.ListIndex() != Index) cboSaveSwift.SetListIndex(Index);
+    if (cboSaveSwift.ListIndex() != Index) {
+        cboSaveSwift.SetListIndex(Index);
+        return;  // its handler comes back here and does the rest
+    }
     if (bFormLoading) return;
     ChangeSwiftOutExtension();
     FileCombo_LostFocus(cboSwiftOut);
@@ -141,7 +144,8 @@ void frmMain::ChangeKinshipExtension() {
 void frmMain::cmdCopyGedIn2SwiftOut_Click() {
     cboSwiftOut.SetText("");
     ChangeSwiftOutExtension();
-    FileCombo_LostFocus(cboSwiftOut);
+    cboSwiftOut.TakeFocus();
+    cboSwiftOut.LoseFocus();
 }
 
 }  // namespace swiftroll

@@ -16,6 +16,8 @@ KeyIndex::Slot KeyIndex::FindPair(const RowKey& key) const {
     const std::uint32_t symbol = key.first.Symbol();
     if (symbol >= chains_.size()) return kNone;
     const Chain& chain = chains_[symbol];
+    // Most pairs asked for are new; the filter tells so without a walk.
+    if ((chain.filter & FilterBit(key)) == 0) return kNone;
     for (Slot slot = chain.first; slot != kNone; slot = entries_[slot].nextInChain) {
         if (entries_[slot].key.second == key.second) return slot;
     }
@@ -26,6 +28,7 @@ KeyIndex::Slot KeyIndex::FindPair(const RowKey& key) const {
 
 void KeyIndex::InsertPair(Slot slot, const RowKey& key) {
     Chain& chain = EntryOf(chains_, key.first.Symbol(), Chain());
+    chain.filter = static_cast<std::uint16_t>(chain.filter | FilterBit(key));
     if (chain.length == kLongestChain) {
         chain.continues = true;
         longChains_.insert(slot);

@@ -68,9 +68,13 @@ class KeyIndex {
     };
     struct Chain {
         Slot first = kNone;
+        std::uint16_t filter = 0;  // a bit for each second part that was ever inserted
         std::uint8_t length = 0;
         bool continues = false;  // in the hash set
     };
+    static std::uint16_t FilterBit(const RowKey& key) {
+        return static_cast<std::uint16_t>(1u << (key.second.Symbol() * 0x9E3779B9u >> 28));
+    }
     struct PairHash {
         using is_transparent = void;
         const BlockVector<Entry>* entries;

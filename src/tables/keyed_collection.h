@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -27,8 +28,9 @@ class KeyedCollection {
 
   private:
     TextView Folded(TextView key) const {
-        folded_.assign(1, ' ');  // so that no key is empty
-        for (const char c : key) folded_ += UpperCase(c);
+        folded_.resize(key.size() + 1);
+        folded_[0] = ' ';  // so that no key is empty
+        std::transform(key.begin(), key.end(), folded_.begin() + 1, [](char c) { return UpperCase(c); });
         return folded_;
     }
 

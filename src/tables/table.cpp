@@ -76,8 +76,11 @@ Row Table::Append(const RowKey& key, TextRef text) {
     Store();
     const Slot slot = NewSlot();
     index_.Insert(slot, key);
-    placesAreFresh_ = placesAreFresh_ && slot == place_.size();
-    if (placesAreFresh_) place_.push_back(static_cast<std::uint32_t>(order_.size()));
+    inSlotOrder_ = inSlotOrder_ && slot == order_.size();
+    if (placesAreFresh_) {
+        place_.resize(index_.SlotCount());
+        place_[slot] = static_cast<std::uint32_t>(order_.size());
+    }
     order_.push_back(slot);
     const Row row(*this, slot);
     *row.cells_ = text;
@@ -97,7 +100,7 @@ Row Table::Add(std::optional<std::int32_t> index, RowKey key, TextRef text) {
     const Row row = Append(key, text);
     if (index && *index < Count()) {
         std::rotate(order_.begin() + (*index - 1), order_.end() - 1, order_.end());
-        placesAreFresh_ = false;
+        inSlotOrder_ = placesAreFresh_ = false;
     }
     return row;
 }
@@ -138,7 +141,8 @@ void Table::Remove(std::int32_t index) {
     if (slot < tags_.size()) tags_[slot] = TextRef();
     freeSlots_.push_back(slot);
     order_.erase(order_.begin() + (index - 1));
-    placesAreFresh_ = false;
+    // Taking the last row away moves no other.
+    if (index <= Count()) inSlotOrder_ = placesAreFresh_ = false;
     ++generation_;
 }
 
@@ -152,6 +156,7 @@ void Table::Clear() {
     place_ = {};
     freeSlots_ = {};
     placesAreFresh_ = false;
+    inSlotOrder_ = true;
     ++generation_;
     store_.reset();
 }
@@ -222,7 +227,7 @@ void Table::Reorder(const std::vector<std::uint32_t>& permutation) {
     std::vector<Slot> sorted(order_.size());
     for (std::size_t i = 0; i < sorted.size(); ++i) sorted[i] = order_[permutation[i]];
     order_ = std::move(sorted);
-    placesAreFresh_ = false;
+    inSlotOrder_ = placesAreFresh_ = false;
 }
 
 void Table::RefreshPlaces() {
@@ -233,6 +238,7 @@ void Table::RefreshPlaces() {
 
 std::int32_t Row::Index() const {
     CheckAlive();
+    if (table_->inSlotOrder_) return static_cast<std::int32_t>(slot_ + 1);
     if (!table_->placesAreFresh_) table_->RefreshPlaces();
     return static_cast<std::int32_t>(table_->place_[slot_] + 1);
 }

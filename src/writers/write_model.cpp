@@ -12,6 +12,7 @@ namespace {
 
 constexpr TextView kRightAlignedCell = "<td align=\"right\"";
 constexpr TextView kPaddedElement = "%ELEMENT% ";
+constexpr TextView kIndex = "%INDEX%";
 
 /// One document on its way to its file.
 class Document {
@@ -27,7 +28,7 @@ class Document {
         const bool asksForPadding = model_.sModelCell2.find(kPaddedElement) != Text::npos;
         marker_ = asksForPadding ? kPaddedElement : kElement;
         padCells_ = asksForPadding && format_ == OutFormat::Text;
-        PlaceIndex();
+        MakeIndex();
     }
 
     void Open(TextView sOutFile) {
@@ -37,7 +38,7 @@ class Document {
             // The opening tells what is wrong.
         }
         file_ = app_.ports.files.Open(sOutFile, Files::Mode::Write);
-        Print(model_.sModelHead);
+        PrintWithIndex(model_.sModelHead);
     }
 
     void WriteRest() {
@@ -48,19 +49,26 @@ class Document {
         } else {
             WriteDataRows();
         }
-        Print(model_.sModelTail);
+        PrintWithIndex(model_.sModelTail);
         file_->Close();
     }
 
   private:
-    void PlaceIndex() {
-        constexpr TextView kIndex = "%INDEX%";
+    void MakeIndex() {
         const bool hasPlace =
             model_.sModelHead.find(kIndex) != Text::npos || model_.sModelTail.find(kIndex) != Text::npos;
         if (format_ == OutFormat::Text || app_.txtINDEX.Get() == "0" || !hasPlace) return;
-        const Text links = CalcINDEXes(app_, selectedOnly_, emptyCell_);
-        for (Text* piece : {&model_.sModelHead, &model_.sModelTail})
-            *piece = ReplaceAll(*piece, kIndex, links);
+        index_ = CalcINDEXes(app_, selectedOnly_, emptyCell_);
+    }
+
+    /// Prints the head or the tail, the index at its places. It goes to the file piece by piece, since a
+    /// model may ask for it many times.
+    void PrintWithIndex(TextView sText) {
+        const std::vector<TextView> pieces = index_ ? Split(sText, kIndex) : std::vector{sText};
+        for (std::size_t i = 0; i < pieces.size(); ++i) {
+            if (i > 0) Print(*index_);
+            Print(pieces[i]);
+        }
     }
 
     void Print(TextView sText) { PrintWithOtherTags(*file_, sText, variables_); }
@@ -135,6 +143,7 @@ class Document {
     TextView marker_;
     bool padCells_ = false;
     Widths padWidth_;
+    std::optional<Text> index_;  // nothing when the index is not made
     std::unique_ptr<File> file_;
 };
 
