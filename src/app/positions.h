@@ -36,9 +36,9 @@ inline void SetMaxLen(const Row& row, Widths& widths) {
 
 /// Writes a cell and raises the entry of its column: what `SetMaxLen` does, for one cell.
 inline void SetCell(Row& row, std::int16_t column, TextRef ref, Widths& widths) {
-    row.SetCell(column, ref);
-    const auto length = static_cast<std::int32_t>(row.Cell(column).size());
-    if (widths[column] < length) widths[column] = length;
+    const auto length = static_cast<std::int32_t>(row.Write(column, ref));
+    std::int32_t& width = widths[column];
+    if (width < length) width = length;
 }
 
 /// Where the columns of each table stand, as of the last `InitIndexes`. Logic reads these and not the

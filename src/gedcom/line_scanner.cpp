@@ -4,12 +4,34 @@
 #include <bit>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace swiftroll::modReadGedcom {
 namespace {
 
 constexpr std::size_t kBlock = std::size_t{1} << 18;
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+#if defined(__SSE2__)
+
+/// Place of the first line end among the whole blocks of sixteen bytes from `from` on; where they end
+/// otherwise.
+std::size_t SkipBlocks(const char* bytes, std::size_t from, std::size_t size) {
+    const __m128i carriageReturns = _mm_set1_epi8('\r'), lineFeeds = _mm_set1_epi8('\n');
+    for (; from + sizeof(__m128i) <= size; from += sizeof(__m128i)) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + from));
+        const __m128i ends =
+            _mm_or_si128(_mm_cmpeq_epi8(block, carriageReturns), _mm_cmpeq_epi8(block, lineFeeds));
+        const auto found = static_cast<unsigned>(_mm_movemask_epi8(ends));
+        if (found != 0) return from + static_cast<std::size_t>(std::countr_zero(found));
+    }
+    return from;
+}
+
+#else
 
 /// High bit of each byte of `word` that equals `c`, the lowest of them exact.
 std::uint64_t Matches(std::uint64_t word, char c) {
@@ -18,16 +40,22 @@ std::uint64_t Matches(std::uint64_t word, char c) {
     return (zeros - kOnes) & ~zeros & kHighs;
 }
 
-/// Place of the first line end from `from` on, `size` when there is none. Eight bytes at a time.
-std::size_t FindLineEndFrom(const char* bytes, std::size_t from, std::size_t size) {
+/// Where the first block of eight bytes from `from` on stands that holds a line end, or that is no whole
+/// block.
+std::size_t SkipBlocks(const char* bytes, std::size_t from, std::size_t size) {
     for (; from + sizeof(std::uint64_t) <= size; from += sizeof(std::uint64_t)) {
         std::uint64_t word = 0;
         std::memcpy(&word, bytes + from, sizeof word);
-        const std::uint64_t found = Matches(word, '\r') | Matches(word, '\n');
-        if (found == 0) continue;
-        if constexpr (std::endian::native != std::endian::little) break;
-        return from + static_cast<std::size_t>(std::countr_zero(found)) / 8;
+        if ((Matches(word, '\r') | Matches(word, '\n')) != 0) break;
     }
+    return from;
+}
+
+#endif
+
+/// Place of the first line end from `from` on, `size` when there is none.
+std::size_t FindLineEndFrom(const char* bytes, std::size_t from, std::size_t size) {
+    from = SkipBlocks(bytes, from, size);
     while (from < size && !IsLineEnd(bytes[from])) ++from;
     return from;
 }

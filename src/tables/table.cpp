@@ -67,7 +67,6 @@ Table::Slot Table::NewSlot() {
     const Slot slot = index_.SlotCount();
     if (slot == 0x7FFFFFFF) throw Failure(FailureKind::Overflow);
     cells_.Grow(slot + std::size_t{1});
-    marks_.push_back(0);
     index_.AddSlot();
     return slot;
 }
@@ -136,7 +135,7 @@ void Table::Remove(std::int32_t index) {
         looks_.erase(row.LookPlace(column));
     }
     index_.Erase(slot);
-    marks_[slot] = 0;
+    if (slot < marks_.size()) marks_[slot] = 0;
     std::fill_n(row.cells_, columns_.size(), TextRef());
     if (slot < tags_.size()) tags_[slot] = TextRef();
     freeSlots_.push_back(slot);
@@ -262,11 +261,12 @@ void Row::SetTag(TextView tag) {
 
 bool Row::HasMark(std::uint8_t mark) const {
     CheckAlive();
-    return (table_->marks_[slot_] & mark) != 0;
+    return slot_ < table_->marks_.size() && (table_->marks_[slot_] & mark) != 0;
 }
 
 void Row::SetMark(std::uint8_t mark, bool on) {
     CheckAlive();
+    table_->marks_.Grow(slot_ + std::size_t{1});
     std::uint8_t& marks = table_->marks_[slot_];
     marks = static_cast<std::uint8_t>(on ? marks | mark : marks & ~mark);
 }

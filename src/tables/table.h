@@ -136,7 +136,7 @@ class Table {
 
     CellBlocks cells_;
     BlockVector<TextRef> tags_;                                 // by slot, grown when a tag is written
-    BlockVector<std::uint8_t> marks_;                           // by slot
+    BlockVector<std::uint8_t> marks_;                           // by slot, grown when a row is marked
     boost::unordered_flat_map<std::uint64_t, CellLook> looks_;  // by LookPlace
     KeyIndex index_;                                            // keys by slot, and slots by key
     std::vector<Slot> order_;                                   // slots in the order of the rows
@@ -167,6 +167,11 @@ class Row {
     TextRef Ref(std::int16_t column) const { return CellAt(column); }
     void SetCell(std::int16_t column, TextRef ref) { CellAt(column) = ref; }
     void SetCell(std::int16_t column, TextView text) { SetCell(column, table_->Store().Put(text)); }
+    /// Writes a cell and gives the length of its text.
+    std::size_t Write(std::int16_t column, TextRef ref) {
+        CellAt(column) = ref;
+        return ref.IsEmpty() ? 0 : table_->store_->Get(ref).size();
+    }
     void SetSubItems(std::int16_t i, TextRef ref) { SetCell(static_cast<std::int16_t>(i + 1), ref); }
     void SetSubItems(std::int16_t i, TextView text) { SetCell(static_cast<std::int16_t>(i + 1), text); }
     /// Calls `visit(column, length)` for every cell that is not empty.
