@@ -12,7 +12,8 @@ class MemoryFile : public File {
     MemoryFile(MemoryFiles& files, Text name) : files_(files), name_(std::move(name)) {}
     std::size_t Read(char* buffer, std::size_t size) override {
         const Text& bytes = files_.contents[name_];
-        size = std::min({size, bytes.size() - position_, files_.readSize});
+        if (position_ >= files_.breaksAt) throw Failure(FailureKind::FileAccess, name_);
+        size = std::min({size, bytes.size() - position_, files_.readSize, files_.breaksAt - position_});
         std::copy_n(bytes.data() + position_, size, buffer);
         position_ += size;
         return size;
@@ -23,7 +24,9 @@ class MemoryFile : public File {
         files_.room -= fitting.size();
         if (fitting.size() < bytes.size()) throw Failure(FailureKind::FileAccess, name_);
     }
-    std::int64_t Length() override { return static_cast<std::int64_t>(files_.contents[name_].size()); }
+    std::int64_t Length() override {
+        return files_.toldLength.value_or(static_cast<std::int64_t>(files_.contents[name_].size()));
+    }
     void Close() override {}
 
   private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 
 #include "app/ports.h"
@@ -23,6 +24,10 @@ class MemoryFiles : public Files {
     std::size_t room = static_cast<std::size_t>(-1);
     /// Largest number of bytes that one read gives.
     std::size_t readSize = static_cast<std::size_t>(-1);
+    /// Number of bytes of a file behind which reading it fails.
+    std::size_t breaksAt = static_cast<std::size_t>(-1);
+    /// What files tell as their length in place of it.
+    std::optional<std::int64_t> toldLength;
 };
 
 }  // namespace swiftroll::test

@@ -12,7 +12,8 @@ BoxAnswer ScriptedDialogs::Show(const MessageBox& box) {
         return answer;
     }
     if (box.topic == BoxTopic::Recalculation) return BoxAnswer::No;
-    return box.buttons == BoxButtons::YesNo || box.buttons == BoxButtons::YesNoCancel ? BoxAnswer::Yes : BoxAnswer::Ok;
+    return box.buttons == BoxButtons::YesNo || box.buttons == BoxButtons::YesNoCancel ? BoxAnswer::Yes
+                                                                                      : BoxAnswer::Ok;
 }
 
 bool ScriptedDialogs::AskFile(const FileRequest& request, Text& chosen) {
@@ -49,8 +50,6 @@ Text RowText(const Row& row) {
     return text;
 }
 
-Text WithCrLf(TextView text) {
-    return ReplaceAll(text, "\n", "\r\n");
-}
+Text WithCrLf(TextView text) { return ReplaceAll(text, "\n", "\r\n"); }
 
 }  // namespace swiftroll::test

@@ -9,8 +9,8 @@
 
 namespace swiftroll::test {
 
-/// Answers the boxes from a script, and keeps what they said. Without a script: OK, Yes, and No to the question
-/// of the recalculation.
+/// Answers the boxes from a script, and keeps what they said. Without a script: OK, Yes, and No to the
+/// question of the recalculation.
 class ScriptedDialogs : public Dialogs {
   public:
     BoxAnswer Show(const MessageBox& box) override;

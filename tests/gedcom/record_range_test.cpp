@@ -1,0 +1,169 @@
+// The byte ranges of records, and what disturbs them: duplicates, bad lines, levels that the reader does not
+// know.
+#include <algorithm>
+
+#include "gedcom/reader_fixture.h"
+#include "tables/column_numbers.h"
+
+namespace swiftroll::test {
+namespace {
+
+using modReadGedcom::RecordRange;
+
+/// Reads records of one order, line end and file end, and compares every range with the bytes of its record.
+void ExpectRanges(std::vector<Text> records, TextView lineEnd, TextView fileEnd) {
+    for (Text& record : records) record = ReplaceAll(record, "|", lineEnd);
+    if (!records[0].starts_with(' ')) records[0].insert(0, "\xEF\xBB\xBF");
+    if (fileEnd.empty()) records.back().resize(records.back().size() - lineEnd.size());
+    TestMain t;
+    Text& file = t.files.contents["in.ged"];
+    for (const Text& record : records) file += record;
+    if (fileEnd != "|") file += ReplaceAll(fileEnd, "|", lineEnd);
+    t.Read(Text(file));
+    SCOPED_TRACE('"' + file + '"');
+    const auto& lines = t.main.modReadGedcom.lines;
+    const auto expect = [&](TextView sign, const Text& told) {
+        const auto has = [&](const Text& record) { return record.find(sign) != Text::npos; };
+        EXPECT_EQ(told, *std::find_if(records.begin(), records.end(), has));
+    };
+    const auto found = [&](TextView key) {
+        return Slice(file, lines.colRecords().Find(key).value_or(RecordRange{}));
+    };
+    expect("HEAD", Slice(file, lines.head));
+    expect("SUBN", Slice(file, lines.subn));
+    expect("SUBN", found("SUBN @S1@"));
+    expect("INDI", found("indi @i1@"));
+    expect("FAM", found("FAM @F1@"));
+    expect("NOTE", found("NOTE @N1@"));
+    expect("INDI", Slice(file, t.main.lvwIn.Item(1)));
+    expect("FAM", Slice(file, t.main.lvwFamily.Item(1)));
+    EXPECT_EQ(lines.colRecords().Count(), 4u);
+}
+
+TEST(RecordRanges, AreTheBytesOfTheRecordsWhateverTheLineEndsAndTheOrder) {
+    std::vector<Text> records = {"0 HEAD|1 CHAR ANSI||", "0 @S1@ SUBN|1 TEMP x|",
+                                 "0 @I1@ INDI|| |  1 NAME A /B/|2 SOUR|", "0 @F1@ FAM|1 HUSB @I1@|",
+                                 "  0 @N1@ NOTE text|1 CONC more|"};
+    for (std::size_t turn = 0; turn < records.size(); ++turn) {
+        for (const TextView lineEnd : {"\r\n", "\n", "\r"}) {
+            for (const TextView fileEnd : {"0 TRLR|", "0 TRLR", " 0 TRLR |", "|", ""}) {
+                ExpectRanges(records, lineEnd, fileEnd);
+            }
+        }
+        std::rotate(records.begin(), records.begin() + 1, records.end());
+    }
+}
+
+TEST(RecordRanges, AreThoseOfTheLastFileOnlyAndEndWithALevelOfSeveralDigits) {
+    AfterReading t("0 HEAD\n0 @S1@ SUBN\n0 @N1@ NOTE\n0 TRLR\n");
+    t.Read("0 @I1@ INDI\r\n1 NAME Jean /DUPONT/\r\n10 SOUR\r\n0 @I2@ INDI\r\n0 TRLR\r\n");
+    const auto& lines = t.main.modReadGedcom.lines;
+    EXPECT_EQ(lines.head, (RecordRange{1, 1}));
+    EXPECT_EQ(lines.subn, (RecordRange{0, 0}));
+    EXPECT_EQ(lines.colRecords().Count(), 1u);
+    EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::LastName, In::IslandNr}), Rows({"@I1@|DUPONT|0001"}));
+    EXPECT_EQ(Slice(t.files.contents["in.ged"], t.main.lvwIn.Item(1)),
+              "0 @I1@ INDI\r\n1 NAME Jean /DUPONT/\r\n");
+    EXPECT_EQ(t.dialogs.boxes.back().topic, BoxTopic::Recalculation);
+}
+
+TEST(RecordRanges, ASecondRecordOfOneReferenceIsToldOnceAndLosesNothing) {
+    const Text unfinished = "1 CONC " + Text(600'000, 'x');
+    for (const TextView behind : {TextView("0 @N2@ NOTE c\n0 @I1@ INDI\n1 SEX M\n0 TRLR\n"),
+                                  TextView("0 @I1@ INDI\n1 SEX M\n"), TextView(), TextView(unfinished)}) {
+        SCOPED_TRACE(behind.substr(0, 40));
+        AfterReading t(Concat({"0 @N1@ NOTE a\n0 @n1@ NOTE b\n1 CONC d\n", behind}));
+        const auto& records = t.main.modReadGedcom.lines.colRecords();
+        const auto& boxes = t.dialogs.boxes;
+        ASSERT_EQ(boxes.size(), 2u);
+        EXPECT_EQ(boxes[0].topic, BoxTopic::LineError);
+        EXPECT_TRUE(boxes[0].text.starts_with("457: ")) << boxes[0].text;
+        EXPECT_EQ(boxes[1].topic, BoxTopic::Recalculation);
+        EXPECT_EQ(Slice(t.files.contents["in.ged"], records.Find("NOTE @N1@").value()), "0 @N1@ NOTE a\r\n");
+        EXPECT_EQ(records.Find("NOTE @N2@").has_value(), behind.find("@N2@") != TextView::npos);
+        const bool hasPerson = behind.find("INDI") != TextView::npos;
+        EXPECT_EQ(CellsOf(t.main.lvwIn, {In::Sex}), hasPerson ? Rows({"M"}) : Rows({}));
+    }
+}
+
+TEST(RecordRanges, AFamilyWrittenTwiceHasOneRow) {
+    AfterReading t(
+        "0 @I1@ INDI\n0 @F1@ FAM\n1 HUSB @I1@\n1 MARR\n2 DATE 1800\n2 PLAC Lyon\n"
+        "0 @F1@ FAM\n1 DIV\n2 DATE 1810\n0 TRLR\n");
+    EXPECT_EQ(RowsOf(t.main.lvwFamily), Rows({"@F1@|@I1@|||Lyon|1810|1810| x |||"}));
+    EXPECT_EQ(t.dialogs.boxes.size(), 2u);
+}
+
+TEST(RecordRanges, TwoIndividualsOfOneReferenceEndTheProgramAfterAReport) {
+    const std::pair<TextView, TextView> cases[] = {
+        {"0 @I2@ INDI\n0 TRLR\n", "INDI"}, {"0 TRLR\n", "TRLR"}, {"", ""}};
+    for (const auto& [behind, line] : cases) {
+        TestMain t;
+        EXPECT_THROW(t.Read(WithCrLf(Concat({"0 @I1@ INDI\n1 SEX M\n0 @I1@ INDI\n1 SEX F\n", behind}))),
+                     ProgramEnd);
+        EXPECT_EQ(t.main.trail.Reports(), 1);
+        const MessageBox& report = t.dialogs.boxes.back();
+        EXPECT_TRUE(report.title.ends_with(" - Erreur \"ProcessGedcom")) << report.title;
+        EXPECT_TRUE(report.text.starts_with("457: ")) << report.text;
+        EXPECT_TRUE(report.text.ends_with(Concat({"\r\n    |ReadLines/21/", line, "|"}))) << report.text;
+    }
+}
+
+TEST(LineErrors, AreToldWithNumberLineAndRest) {
+    for (const TextView c :
+         {"une suite de note -> 5", "suite -> 5", "suite de 1804 -> 5 1804", "a 12 -> 13 12",
+          "le 12 mars 1804 -> 13 12 mars 1804", "1 -> 13 1", "1SEX   -> 13 1SEX", "1e1 SEX F -> 13 1e1 SEX F",
+          "32768 SEX F   -> 6 32768 SEX F", "99999999999999999999 X -> 6 99999999999999999999 X"}) {
+        const auto [line, told] = Sides(c);
+        const TextView number = told.substr(0, told.find(' '));
+        const TextView rest = told.substr(std::min(told.size(), number.size() + 1));
+        AfterReading t(Concat({"0 @I1@ INDI\n1 SEX M\n", line, "\n1 NAME Jean /DUPONT/\n0 TRLR\n"}));
+        ASSERT_EQ(t.dialogs.boxes.size(), 2u) << line;
+        const MessageBox& box = t.dialogs.boxes[0];
+        EXPECT_EQ(box.title, t.main.MainCaption() + " - Erreur Ligne");
+        const TextView description = Description(static_cast<FailureKind>(ToLong(number)));
+        EXPECT_EQ(box.text, Concat({number, ": ", description, "\r\nLigne 3\r\n", rest}));
+        EXPECT_TRUE(box.buttons == BoxButtons::OkCancel && box.icon == BoxIcon::Question);
+        // With OK only the faulty line is dropped.
+        EXPECT_EQ(CellsOf(t.main.lvwIn, {In::LastName, In::Sex}), Rows({"DUPONT|M"})) << line;
+        EXPECT_EQ(t.main.pnlLines.Get(), "Ligne(s) GEDCOM : 6");
+    }
+}
+
+TEST(LineErrors, CancelKeepsWhatWasReadAndAborts) {
+    TestMain t;
+    t.dialogs.answers = {BoxAnswer::Cancel};
+    t.main.chkUpperNames.SetChecked(true);
+    t.Read(WithCrLf("0 @I1@ INDI\n1 NAME Jean /Dupont/\n  suite\n1 SEX M\n0 @I2@ INDI\n0 TRLR\n"));
+    EXPECT_EQ(t.dialogs.boxes.size(), 1u);
+    EXPECT_TRUE(t.main.bAbort);
+    EXPECT_EQ(t.main.pnlMessage.Get(), "Erreur !");
+    EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::LastName, In::Sex, In::IslandNr}), Rows({"@I1@|DUPONT||"}));
+    EXPECT_EQ(Slice(t.files.contents["in.ged"], t.main.lvwIn.Item(1)),
+              "0 @I1@ INDI\r\n1 NAME Jean /Dupont/\r\n");
+    EXPECT_FALSE(t.main.chkUpperNames.Checked() || t.main.cmdFindPath.Enabled || !t.main.cmdLoad.Enabled);
+}
+
+TEST(Charset, OtherSetsAreToldAndReadAllTheSame) {
+    for (const TextView value : {"ANSEL", "UTF-8", "ansi", "ANSI ", "", "ANSI", "ASCII"}) {
+        // Lines too deep outside records are skipped, and the line that is reached is read.
+        AfterReading t(Concat({"3 X\n2 Y\n0 HEAD\n2 VERS 5\n2 DATE\n1 CHAR ", value,
+                               "\n2 CHAR deeper\n0 @I1@ INDI\n3 NAME x\n1 CHAR inside\n0 TRLR\n"}));
+        EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::LastName}), Rows({"@I1@|"}));
+        const bool known = value == "ANSI" || value == "ASCII";
+        ASSERT_EQ(t.dialogs.boxes.size(), known ? 1u : 2u) << value;
+        if (known) continue;
+        const MessageBox& box = t.dialogs.boxes[0];
+        EXPECT_EQ(box.title, t.main.MainCaption() + " - Charset");
+        EXPECT_EQ(box.text, Concat({value, " : Jeu de caractères non supporté"_t}));
+        EXPECT_TRUE(box.buttons == BoxButtons::OkCancel && box.icon == BoxIcon::Exclamation);
+    }
+    TestMain cancelled;
+    cancelled.dialogs.answers = {BoxAnswer::Cancel};
+    cancelled.Read(WithCrLf("0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n0 TRLR\n"));
+    EXPECT_EQ(cancelled.dialogs.boxes.size(), 1u);
+    EXPECT_TRUE(cancelled.main.bAbort && cancelled.main.lvwIn.Count() == 0);
+}
+
+}  // namespace
+}  // namespace swiftroll::test

@@ -1,0 +1,224 @@
+#include "tables/table.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <random>
+
+#include "support/kind_of.h"
+#include "tables/schema.h"
+#include "text/edit.h"
+
+namespace swiftroll {
+namespace {
+
+using test::KindOf;
+constexpr FailureKind kOutOfRange = FailureKind::IndexOutOfRange;
+const CellLook kBold{.Tag = "t", .ToolTipText = "tip", .Icon = "i", .ForeColor = 255, .Bold = true};
+
+/// The first cells in the present order of the rows, one behind the other.
+Text ColumnText(Table& table) {
+    Text text;
+    for (std::int32_t i = 1; i <= table.Count(); ++i) text += table.Item(i).Text();
+    return text;
+}
+
+class TableTest : public testing::Test {
+  protected:
+    /// Adds one row a character, with the character as its key and its first cell.
+    void AddRows(TextView characters) {
+        for (const char& c : characters) table.Add({}, TextView(&c, 1), TextView(&c, 1));
+    }
+    RowKey Pair(TextView first, TextView second) {
+        return RowKey(table.Store().Intern(first), table.Store().Intern(second));
+    }
+    TableSet tables;
+    Table& table = tables.lvwXref1;
+};
+
+/// What a row of a plain list holds.
+struct PlainRow {
+    Text key, cell, interned, tag;
+    int marks;
+    friend bool operator==(const PlainRow&, const PlainRow&) = default;
+};
+
+PlainRow Plain(const Row& row) {
+    const int marks = row.Selected() + 2 * row.Checked() + 4 * (row.Look(3) == kBold);
+    EXPECT_EQ(row.Marked(), row.Selected() || row.Checked());
+    return {row.Key(), Text(row.Cell(1)), Text(row.Cell(2)), Text(row.Tag()), marks};
+}
+
+// Random additions, changes, removals, sorts and look-ups, compared with a plain list. A few first parts with
+// many second ones, so that every way of keeping a pair is used; few cells, so that sorts must be stable, in
+// a column of interned texts and in one of others.
+TEST_F(TableTest, BehavesAsAPlainListOfRows) {
+    std::mt19937 random(1);
+    const TextView ids[] = {"@I2@", "", "@I10@", "@I1@"};
+    std::vector<PlainRow> rows;
+    const auto placeOf = [&](const Text& key) {
+        const auto has = [&](const PlainRow& row) { return row.key == key; };
+        return static_cast<std::int32_t>(std::find_if(rows.begin(), rows.end(), has) - rows.begin()) + 1;
+    };
+    for (int step = 0; step < 12000; ++step) {
+        const Text first = random() % 8 == 0 ? "" : "@F" + std::to_string(random() % 3) + "@";
+        const bool isSingle = !first.empty() && random() % 10 == 0;
+        const Text second = isSingle ? "" : "@I" + std::to_string(random() % 60) + "@";
+        const Text key = first + second;
+        const std::int32_t known = placeOf(key);
+        const bool isKnown = known <= table.Count();
+        const auto act = random() % 100;
+        const Text cell = std::to_string(random() % 8);
+        if (act < 50) {
+            const auto at = static_cast<std::int32_t>(random() % (rows.size() + 1)) + 1;
+            const auto kind = KindOf([&] { table.Add(at, Pair(first, second), table.Store().Put(cell)); });
+            ASSERT_EQ(kind, isKnown ? std::optional(FailureKind::DuplicateKey) : std::nullopt) << key;
+            if (!isKnown) rows.insert(rows.begin() + (at - 1), PlainRow{key, cell, "", "", 0});
+        } else if (act < 65 && isKnown) {
+            const Text id(ids[random() % 4]);
+            const int marks = static_cast<int>(random() % 8);
+            rows[static_cast<std::size_t>(known - 1)] = {key, cell, id, cell, marks};
+            Row row = table.Item(key);
+            row.SetCell(1, TextView(cell));
+            row.SetCell(2, table.Store().Intern(id));
+            row.SetTag(cell);
+            row.SetSelected((marks & 1) != 0);
+            row.SetChecked((marks & 2) != 0);
+            row.SetLook(3, (marks & 4) != 0 ? kBold : CellLook());
+        } else if (act < 94 && isKnown) {
+            table.Remove(known);
+            rows.erase(rows.begin() + (known - 1));
+        } else if (act >= 95) {
+            const auto text = random() % 2 == 0 ? &PlainRow::cell : &PlainRow::interned;
+            const bool descending = random() % 2 == 0;
+            table.SortBy(text == &PlainRow::interned, descending);
+            std::stable_sort(rows.begin(), rows.end(), [&](const PlainRow& a, const PlainRow& b) {
+                return descending ? b.*text < a.*text : a.*text < b.*text;
+            });
+        } else if (act == 94 && random() % 10 == 0) {
+            table.Clear();
+            rows.clear();
+        }
+        ASSERT_EQ(table.Count(), static_cast<std::int32_t>(rows.size()));
+        const auto found = table.Find(key);
+        ASSERT_EQ(found.has_value(), placeOf(key) <= table.Count()) << key;
+        ASSERT_TRUE(!found || found->Index() == placeOf(key)) << key;
+        for (std::size_t i = 0; i < rows.size() && step % 20 == 0; ++i)
+            ASSERT_TRUE(Plain(table.Item(static_cast<std::int32_t>(i + 1))) == rows[i]) << step << key;
+    }
+}
+
+TEST_F(TableTest, EveryAccessIsChecked) {
+    AddRows("ab");
+    Row row = table.Item(1);
+    for (const std::int32_t index : {0, -1, 3, INT32_MAX, INT32_MIN}) {
+        EXPECT_EQ(KindOf([&] { table.Item(index); }), kOutOfRange) << index;
+        EXPECT_EQ(KindOf([&] { table.Remove(index); }), kOutOfRange) << index;
+        EXPECT_EQ(KindOf([&] { table.Add(index == 3 ? 4 : index, "k", "t"); }), kOutOfRange) << index;
+    }
+    for (const std::int16_t column : std::initializer_list<std::int16_t>{-1, 0, 6, 32767}) {
+        EXPECT_EQ(KindOf([&] { row.Cell(column); }), kOutOfRange) << column;
+        EXPECT_EQ(KindOf([&] { row.SetCell(column, TextView("x")); }), kOutOfRange) << column;
+        EXPECT_EQ(KindOf([&] { table.ColumnAt(column); }), kOutOfRange) << column;
+        EXPECT_EQ(KindOf([&] { table.MoveColumn(1, column); }), kOutOfRange) << column;
+    }
+    for (const std::int16_t key : std::initializer_list<std::int16_t>{-1, 5}) {
+        EXPECT_EQ(KindOf([&] { table.SetSortKey(key); }), kOutOfRange);
+        EXPECT_EQ(KindOf([&] { table.SortBy(key, 0); }), kOutOfRange);
+        EXPECT_EQ(KindOf([&] { table.SortByForms({"1", "2"}, key, 0); }), kOutOfRange);
+    }
+    EXPECT_EQ(KindOf([&] { row.SetLook(6, {}); }), kOutOfRange);
+    EXPECT_EQ(KindOf([&] { table.SortByForms({"1"}, 0, 0); }), FailureKind::InvalidArgument);
+    for (const TextView key : {"", "x", "B", "k"})
+        EXPECT_EQ(KindOf([&] { table.Item(key); }), FailureKind::KeyNotFound) << key;
+    EXPECT_EQ(ColumnText(table), "ab");
+    EXPECT_TRUE(!table.Sorted() && table.SortKey() == 0);
+}
+
+TEST_F(TableTest, AHandleStaysWithItsRow) {
+    AddRows("ba");
+    const Row row = table.Item("b");
+    for (int i = 0; i < 10000; ++i) table.Add(1, "", "c");
+    EXPECT_EQ(row.Index(), 10001);
+    table.SortBy(0, 0);
+    EXPECT_EQ(row.Index(), 2);
+    EXPECT_EQ(row.Text(), "b");
+    EXPECT_EQ(table.FindOrAdd(Pair("a", ""), {}).Index(), 1);
+    EXPECT_EQ(table.FindOrAdd(Pair("a", "b"), {}).Index(), 10003);
+}
+
+TEST_F(TableTest, AHandleFromBeforeARemovalIsRefused) {
+    const std::function<void(Row&)> uses[] = {
+        [](Row& row) { row.Text(); },
+        [](Row& row) { row.SetCell(1, TextView("x")); },
+        [](Row& row) { row.Index(); },
+        [](Row& row) { row.Key(); },
+        [](Row& row) { row.Tag(); },
+        [](Row& row) { row.SetTag("x"); },
+        [](Row& row) { row.Marked(); },
+        [](Row& row) { row.SetChecked(true); },
+        [](Row& row) { row.Look(); },
+        [](Row& row) { row.SetLook(0, {}); },
+        [](Row& row) { row.VisitLengths([](std::int16_t, std::size_t) {}); },
+    };
+    AddRows("abc");
+    Row removed = table.Item(2), before = table.Item(1);
+    table.Remove(2);
+    Row cleared = table.Item(1);
+    table.Clear();
+    AddRows("abc");
+    for (Row* row : {&removed, &before, &cleared}) {
+        for (const auto& use : uses) EXPECT_EQ(KindOf([&] { use(*row); }), kOutOfRange);
+    }
+    EXPECT_EQ(ColumnText(table), "abc");
+}
+
+TEST_F(TableTest, SortedSortKeyAndSortOrder) {
+    AddRows("bca");
+    const TextView second[] = {"2", "1", "3"};
+    for (std::int32_t i = 1; i <= 3; ++i) table.Item(i).SetSubItems(1, second[i - 1]);
+    table.SetSortKey(1);
+    table.SetSortOrder(1);
+    EXPECT_EQ(ColumnText(table), "bca") << "not before Sorted is set";
+    table.SetSorted(true);
+    EXPECT_EQ(ColumnText(table), "abc");
+    table.SetSortOrder(0);
+    EXPECT_EQ(ColumnText(table), "cba");
+    table.SetSortKey(0);
+    EXPECT_EQ(ColumnText(table), "abc");
+    table.SetSorted(false);
+    table.SetSortOrder(1);
+    EXPECT_EQ(ColumnText(table), "abc");
+    table.SortByForms({"2", "1", "2"}, 2, 0);
+    EXPECT_EQ(ColumnText(table), "bac") << "by the forms alone";
+    EXPECT_TRUE(table.Sorted() && table.SortKey() == 2 && table.SortOrder() == 0);
+    table.SortByForms({"1", "2", "2"}, 2, 1);
+    EXPECT_EQ(ColumnText(table), "acb");
+    table.Clear();
+    EXPECT_TRUE(table.Sorted());
+    table.SetSortOrder(0);  // of an empty table
+}
+
+TEST_F(TableTest, TablesOfOneReadShareTheirTexts) {
+    Row indi = tables.lvwIn.Add({}, "@I1@", "@I1@");
+    Row link = tables.lvwXref.Add({}, RowKey(indi.Ref(1)), indi.Ref(1));
+    tables.lvwIn.Clear();
+    EXPECT_EQ(link.Text(), "@I1@");
+    EXPECT_EQ(&tables.lvwIn.Store(), &tables.lvwXref.Store());
+    EXPECT_NE(&tables.lvwOut.Store(), &tables.lvwXref.Store());
+}
+
+TEST_F(TableTest, MovedColumnsCloseUp) {
+    const std::tuple<std::int16_t, std::int16_t, TextView> moves[] = {
+        {2, 4, "14235"}, {5, 1, "25341"}, {5, 5, "14235"}, {3, 2, "14235"}, {2, 2, "12345"}, {1, 5, "51234"}};
+    for (const auto& [index, position, expected] : moves) {
+        table.MoveColumn(index, position);
+        Text positions;
+        for (const Column& column : table.Columns()) positions += static_cast<char>('0' + column.Position);
+        EXPECT_EQ(positions, expected) << index << " to " << position;
+    }
+}
+
+}  // namespace
+}  // namespace swiftroll

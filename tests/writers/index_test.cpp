@@ -1,0 +1,114 @@
+// The alphabetical index: its links, and the anchors that they lead to.
+#include "tables/column_numbers.h"
+#include "writers/writers_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+const Text kIndexed = Concat({"%INDEX%", kBareHtml});
+
+/// What stands behind each occurrence of `before`, up to the next quotation mark or "<".
+Texts Names(TextView document, TextView before) {
+    Texts names;
+    for (auto at = document.find(before); at != TextView::npos; at = document.find(before, at + 1)) {
+        const TextView rest = document.substr(at + before.size());
+        names.emplace_back(rest.substr(0, rest.find_first_of("\"<")));
+    }
+    return names;
+}
+Texts Links(TextView html) { return Names(html, "<A href=\"#SR_"); }
+Texts Anchors(TextView html) { return Names(html, "<A NAME=\"SR_"); }
+Texts Tags(TextView xml) { return Names(xml, "<tag>SR_"); }
+
+TEST_F(Writing, EveryEntryHasItsLinkAndItsAnchor) {
+    ListSurnames({"Durand", "dupont", "Li", "Le Gall", "MARTIN", "Le Bris", "", "Dupont"});
+    const struct {
+        TextView length;
+        Texts entries;
+    } cases[] = {
+        {"1", {"_", "D", "L", "M"}},
+        {"2", {"_", "DU", "LE", "LI", "MA"}},
+        {"4", {"_", "DUPO", "DURA", "LE_B", "LE_G", "LI_", "MART"}},
+        {" 30", {"_", "DUPONT_", "DURAND_", "LE_BRIS_", "LE_GALL_", "LI_", "MARTIN_"}},
+    };
+    for (const auto& c : cases) {
+        main.txtINDEX.SetText(c.length);
+        const Text html = Write(kHtml, kIndexed);
+        EXPECT_EQ(Links(html), c.entries) << c.length;
+        EXPECT_EQ(Anchors(html), c.entries) << c.length;
+        EXPECT_EQ(Tags(Write(kXml, "")), c.entries) << c.length;
+    }
+    EXPECT_TRUE(Write(kHtml, kIndexed)
+                    .starts_with("<A href=\"#SR__\">_</A>&nbsp;<A href=\"#SR_DUPONT_\">DUPONT_</A>&nbsp;"));
+}
+
+TEST_F(Writing, NoIndexForZeroNorForText) {
+    ListSurnames({"A", "B"});
+    main.txtINDEX.SetText("0");
+    const Text html = Write(kHtml, kIndexed);
+    EXPECT_TRUE(html.starts_with("%INDEX%head")) << html;
+    EXPECT_EQ(Anchors(html), (Texts{""}));
+    EXPECT_EQ(Tags(Write(kXml, "")), (Texts{""}));
+    main.txtINDEX.SetText("1");
+    EXPECT_TRUE(Write(kText, kIndexed).starts_with("%INDEX%headNomNbre"));
+    // Between the rows it is no place for the index.
+    const TextView between = "<tr><td>%ELEMENT%</td></tr>%INDEX%<tr><td>%ELEMENT%</td></tr>";
+    EXPECT_NE(Write(kHtml, between).find("</tr>%INDEX%<tr>"), Text::npos);
+    EXPECT_TRUE(Told().empty());
+}
+
+TEST_F(Writing, RowsLeftOutHaveNeitherLinkNorAnchor) {
+    ListSurnames({"A", "B1", "B2", "C", "D"});
+    main.lvwOut.Item(3).SetSelected(true);
+    main.lvwOut.Item(5).SetChecked(true);
+    const Text html = Write(kHtml, kIndexed, BoxAnswer::No);
+    EXPECT_EQ(Links(html), (Texts{"B", "D"}));
+    EXPECT_EQ(Anchors(html), (Texts{"B", "D"}));
+    EXPECT_EQ(Tags(Write(kXml, "", BoxAnswer::No)), (Texts{"B", "D"}));
+}
+
+TEST_F(Writing, EntriesFollowTheOrderOfTheRows) {
+    ListSurnames({"A1", "B", "A2"});
+    for (const auto& [row, cell] : {std::pair{1, "1"}, {2, "3"}, {3, "2"}}) {
+        main.lvwOut.Item(row).SetCell(Out::Number, TextView(cell));
+    }
+    main.lvwOut.SortBy(Out::Number - 1, 0);
+    const Text html = Write(kHtml, kIndexed);
+    EXPECT_EQ(Links(html), (Texts{"A", "B", "A"}));
+    EXPECT_EQ(Anchors(html), (Texts{"A", "B", "A"}));
+}
+
+TEST_F(Writing, ABadLengthIsReportedOnceAPass) {
+    ListSurnames({"A", "B", "C"});
+    for (const TextView length : {"1x", "", "-1", "32768"}) {
+        main.txtINDEX.SetText(length);
+        const Text html = Write(kHtml, kIndexed);
+        EXPECT_EQ(Told().size(), 2u) << length;
+        EXPECT_EQ(html.find("<A "), Text::npos) << html;
+        EXPECT_TRUE(html.starts_with("head<tr><td>Nom</td>")) << html;
+        EXPECT_TRUE(html.ends_with("<td>C</td><td align=\"right\">     1</td></tr>tail")) << html;
+        EXPECT_EQ(Tags(Write(kXml, "")), Texts{});
+        EXPECT_EQ(Told().size(), 1u) << length;
+        EXPECT_TRUE(dialogs.boxes.back().title.ends_with(" - Erreur \"PutINDEX"));
+        EXPECT_TRUE(main.bWriteComplete);
+    }
+}
+
+TEST_F(Writing, EntriesAreCountedInSixteenBits) {
+    Texts names;
+    for (int i = 0; i < 32767; ++i) names.push_back(Decimal(i, 5));
+    ListSurnames(names);
+    main.txtINDEX.SetText("5");
+    EXPECT_EQ(Tags(Write(kXml, "")).size(), 32767u);
+    EXPECT_TRUE(Told().empty());
+    AddIndividual(main, "@more@", {{"LastName", "Z"}});
+    main.cmdCalcOutput.Click();
+    const Text html = Write(kHtml, kIndexed);
+    EXPECT_EQ(Told().size(), 2u);
+    EXPECT_TRUE(Links(html).empty());
+    EXPECT_EQ(Anchors(html).size(), 32767u);
+    EXPECT_TRUE(html.ends_with("<td>Z</td><td align=\"right\">     1</td></tr>tail"));
+}
+
+}  // namespace
+}  // namespace swiftroll::test
