@@ -44,7 +44,7 @@ fs::path ProgramFile() {
 #endif
 }
 
-Text TextOf(fs::path path) {
+Text TextOf(const fs::path& path) {
     Text text = FileNameToText(path.string());
     while (text.size() > 1 && (text.back() == '/' || text.back() == '\\')) text.pop_back();
     return text;
