@@ -5,20 +5,20 @@
 namespace swiftroll {
 namespace {
 
-struct ColumnSpec {
+struct ColumnText {
     TextView key;
     TextView caption;
     Alignment align = Alignment::Left;
 };
 
-std::vector<Column> MakeColumns(std::initializer_list<ColumnSpec> specs) {
+std::vector<Column> MakeColumns(std::initializer_list<ColumnText> texts) {
     std::vector<Column> columns;
-    for (const ColumnSpec& spec : specs) {
+    for (const ColumnText& text : texts) {
         Column column;
         column.Index = column.Position = static_cast<std::int16_t>(columns.size() + 1);
-        column.Key = spec.key;
-        column.Caption = spec.caption;
-        column.Align = spec.align;
+        column.Key = text.key;
+        column.Caption = text.caption;
+        column.Align = text.align;
         columns.push_back(std::move(column));
     }
     return columns;

@@ -12,111 +12,82 @@
 namespace swiftroll::test {
 namespace {
 
-TEST(Grouping, OneRowAGroupWithItsYearsAndItsCount) {
-    TestMain t;
-    Arrange(t.main.lvwOut, {"Place", "BirthMin", "LastName", "BirthMax", "MarrMin", "MarrMax"});
-    AddIndividual(t.main, "@1@", {{"LastName", "Martin"}, {"Place", "Paris"}});
-    AddIndividual(t.main, "@2@", {{"LastName", "Dupont"}, {"Place", "Paris"}, {"BirthMax", "1860"}});
-    AddIndividual(t.main, "@3@", {{"LastName", "DUPONT"}, {"Place", "PARIS "}, {"BirthMin", "1850"}});
-    AddIndividual(t.main, "@4@", {{"LastName", "Dupônt"_t}, {"Place", "-Paris"}, {"BirthMin", "900"}});
-    AddIndividual(t.main, "@5@", {{"LastName", "Dupont"}, {"Place", "Paris"}, {"BirthMax", "950"}});
-    AddIndividual(t.main, "@6@", {{"LastName", "Du-Pont"}, {"Place", "Paris"}, {"BirthMin", "1700"}});
+struct Grouping : testing::Test, TestMain {
+    Texts List(const std::vector<TextView>& keys) {
+        Arrange(main.lvwOut, keys);
+        main.cmdCalcOutput.Click();
+        return ListOf(main);
+    }
+};
+
+TEST_F(Grouping, OneRowAGroupWithItsYearsAndItsCount) {
+    AddIndividual(main, "@1@", {{"LastName", "Martin"}, {"Place", "Paris"}});
+    AddIndividual(main, "@2@", {{"LastName", "Dupont"}, {"Place", "Paris"}, {"BirthMax", "1860"}});
+    AddIndividual(main, "@3@", {{"LastName", "DUPONT"}, {"Place", "PARIS "}, {"BirthMin", "1850"}});
+    AddIndividual(main, "@4@", {{"LastName", "Dupônt"_t}, {"Place", "-Paris"}, {"BirthMin", "900"}});
+    AddIndividual(main, "@5@", {{"LastName", "Dupont"}, {"Place", "Paris"}, {"BirthMax", "950"}});
+    AddIndividual(main, "@6@", {{"LastName", "Du-Pont"}, {"Place", "Paris"}, {"BirthMin", "1700"}});
     for (int i = 0; i < 12; ++i) {
-        AddIndividual(t.main, Concat({"@L", Decimal(i), "@"}), {{"LastName", "Le  Gall"}, {"MarrMax", "0"}});
+        AddIndividual(main, Concat({"@L", Decimal(i), "@"}), {{"LastName", "Le  Gall"}, {"MarrMax", "0"}});
     }
-    t.main.cmdCalcOutput.Click();
-    EXPECT_EQ(ListOf(t.main), (Texts{"Paris|1700|Du-Pont||||     1", "Paris|900|Dupont|1860|||     4",
-                                     "Paris||Martin||||     1", "||Le  Gall|||0|    12"}));
-    EXPECT_EQ(t.main.SSTab1, Tab::Out);
-    EXPECT_EQ(t.main.lvwActiveListView, &t.main.lvwOut);
-    EXPECT_EQ(t.main.pnlMessage.Get(), "");
-    EXPECT_FALSE(t.main.bWaitCursor);
-    EXPECT_EQ(ColumnOf(t.main.lvwIn, "LastName").front(), "Du-Pont");
-    EXPECT_EQ(ColumnOf(t.main.lvwIn, "LastName").back(), "Le  Gall");
+    EXPECT_EQ(List({"Place", "BirthMin", "LastName", "BirthMax", "MarrMin", "MarrMax"}),
+              (Texts{"Paris|1700|Du-Pont||||     1", "Paris|900|Dupont|1860|||     4",
+                     "Paris||Martin||||     1", "||Le  Gall|||0|    12"}));
+    EXPECT_EQ(main.lvwActiveListView, &main.lvwOut);
+    EXPECT_EQ(main.pnlMessage.Get(), "");
+    EXPECT_FALSE(main.bWaitCursor);
 }
 
-TEST(Grouping, KeysOfTheListAreThoseOfItsIndividuals) {
-    TestMain t;
-    Arrange(t.main.lvwOut, {"Place", "DateMin", "LastName", "Sex"});
-    AddIndividual(t.main, "@1@", {{"LastName", "d'Orÿ"_t}, {"Place", "Saint-Malo, (35)"}, {"Sex", "M"}});
-    AddIndividual(t.main, "@2@", {{"LastName", "Øre"_t}});
-    t.main.cmdCalcOutput.Click();
-    EXPECT_EQ(t.main.lvwOut.Item(2).Key(), "\\\\DRE\\");
-    EXPECT_EQ(t.main.lvwOut.Item(1).Key(), "\\SAINT MALO 35\\D ORY\\M");
+TEST_F(Grouping, KeysOfTheListAreThoseOfItsIndividuals) {
+    AddIndividual(main, "@1@", {{"LastName", "d'Orÿ"_t}, {"Place", "Saint-Malo, (35)"}, {"Sex", "M"}});
+    AddIndividual(main, "@2@", {{"LastName", "Øre"_t}});
+    List({"Place", "DateMin", "LastName", "Sex"});
+    EXPECT_EQ(main.lvwOut.Item(2).Key(), "\\\\DRE\\");
+    EXPECT_EQ(main.lvwOut.Item(1).Key(), "\\SAINT MALO 35\\D ORY\\M");
     for (std::int32_t i = 1; i <= 2; ++i) {
-        const Row row = t.main.lvwOut.Item(i);
-        EXPECT_EQ(modCalcOut::MakeSortKeyOut(t.main.positions, row), row.Key());
-        EXPECT_EQ(modCalcOut::MakeSortKeyIn(t.main.positions, t.main.lvwIn.Item(i)), row.Key());
-        EXPECT_EQ(t.main.lvwOut.Item(TextView(row.Key())), row);
+        const Row row = main.lvwOut.Item(i);
+        EXPECT_EQ(modCalcOut::MakeSortKeyOut(main.positions, row), row.Key());
+        EXPECT_EQ(modCalcOut::MakeSortKeyIn(main.positions, main.lvwIn.Item(i)), row.Key());
     }
 }
 
-TEST(Grouping, FollowsTheColumnsAtEachComputation) {
-    TestMain t;
-    AddIndividual(t.main, "@1@", {{"LastName", "Le Gall"}, {"Place", "Brest"}, {"DateMin", "1700"}});
-    AddIndividual(t.main, "@2@", {{"LastName", "LE-GALL"}, {"Place", "Quimper"}, {"DateMin", "1690"}});
-    AddIndividual(t.main, "@3@", {{"LastName", "Legall"}, {"Place", "Brest"}, {"DateMin", "1710"}});
-    const auto list = [&](const std::vector<TextView>& keys) {
-        Arrange(t.main.lvwOut, keys);
-        t.main.cmdCalcOutput.Click();
-        return ListOf(t.main);
-    };
-    EXPECT_EQ(list({"LastName", "Place"}),
-              (Texts{"Le Gall|Brest|     1", "LE-GALL|Quimper|     1", "Legall|Brest|     1"}));
-    EXPECT_EQ(list({"DateMin", "LastName"}), (Texts{"1690|Le Gall|     2", "1710|Legall|     1"}));
-    EXPECT_EQ(ColumnOf(t.main.lvwOut, "Place"), (Texts{"", ""}));
-    EXPECT_EQ(list({"ID"}), (Texts{"@1@|     1", "@2@|     1", "@3@|     1"}));
-    EXPECT_EQ(list({"DateMin"}), (Texts{"1690|     3"}));
-    EXPECT_EQ(list({}), (Texts{"     3"}));
-    EXPECT_EQ(t.main.lvwOut.Item(1).Key(), "");
-    EXPECT_EQ(t.main.lvwOut.Item(1).Text(), "");
-    EXPECT_TRUE(t.dialogs.boxes.empty());
+TEST_F(Grouping, FollowsTheColumnsAtEachComputation) {
+    AddIndividual(main, "@1@", {{"LastName", "Le Gall"}, {"Place", "Brest"}, {"DateMin", "1700"}});
+    AddIndividual(main, "@2@", {{"LastName", "LE-GALL"}, {"Place", "Quimper"}, {"DateMin", "1690"}});
+    EXPECT_EQ(List({"LastName", "Place"}), (Texts{"Le Gall|Brest|     1", "LE-GALL|Quimper|     1"}));
+    EXPECT_EQ(List({"DateMin", "LastName"}), Texts{"1690|Le Gall|     2"});
+    EXPECT_EQ(ColumnOf(main.lvwOut, "Place"), Texts{""});
+    EXPECT_EQ(List({}), Texts{"     2"});
+    EXPECT_EQ(main.lvwOut.Item(1).Key(), "");
+    // Without individuals the list stays.
+    main.lvwIn.Clear();
+    EXPECT_EQ(List({}), Texts{"     2"});
+    EXPECT_FALSE(main.bWaitCursor);
 }
 
-TEST(Grouping, WidthsOfTheList) {
-    TestMain t;
-    AddIndividual(t.main, "@1@",
-                  {{"LastName", "Montmorency"}, {"FirstName", "Anne"}, {"Place", "Chantilly"}});
-    t.main.cmdCalcOutput.Click();
-    EXPECT_EQ(t.main.lMaxLenOut[Out::LastName], 11);
-    t.main.lvwIn.Clear();
-    AddIndividual(t.main, "@1@", {{"LastName", "Ney"}, {"FirstName", "Michel"}, {"BirthMin", "1769"}});
-    Arrange(t.main.lvwOut, {"LastName", "DateMin"});
-    t.main.cmdCalcOutput.Click();
+TEST_F(Grouping, WidthsOfTheList) {
+    AddIndividual(main, "@1@", {{"LastName", "Montmorency"}, {"FirstName", "Anne"}, {"Place", "Chantilly"}});
+    List({});
+    main.lvwIn.Clear();
+    AddIndividual(main, "@1@", {{"LastName", "Ney"}, {"FirstName", "Michel"}, {"BirthMin", "1769"}});
+    List({"LastName", "DateMin"});
     Text widths;
-    for (const Column& column : t.main.lvwOut.Columns()) {
-        widths += Concat({Decimal(t.main.lMaxLenOut[column.Index]), " "});
-    }
+    for (const Column& column : main.lvwOut.Columns()) widths += Decimal(main.lMaxLenOut[column.Index]);
     // Columns behind `Number` count too, and years have their four digits whatever they hold.
-    EXPECT_EQ(widths, "3 3 6 0 4 4 6 0 4 4 0 4 4 0 4 4 0 0 ");
+    EXPECT_EQ(widths, "336044604404404400");
 }
 
-TEST(Grouping, WithoutIndividualsTheListStays) {
-    TestMain t;
-    AddIndividual(t.main, "@1@", {{"LastName", "Ney"}});
-    t.main.cmdCalcOutput.Click();
-    t.main.lvwOut.Item(1).SetSelected(true);
-    t.main.lvwIn.Clear();
-    t.main.bWaitCursor = true;
-    t.main.cmdCalcOutput.Click();
-    ASSERT_EQ(t.main.lvwOut.Count(), 1);
-    EXPECT_TRUE(t.main.lvwOut.Item(1).Selected());
-    EXPECT_FALSE(t.main.bWaitCursor);
+TEST_F(Grouping, AYearThatIsNoNumberIsReported) {
+    AddIndividual(main, "@1@", {{"LastName", "A"}});
+    AddIndividual(main, "@2@", {{"LastName", "B"}, {"DeathMax", "1800?"}});
+    AddIndividual(main, "@3@", {{"LastName", "C"}});
+    EXPECT_EQ(List({"LastName"}), Texts{"A|     1"});
+    ASSERT_EQ(dialogs.boxes.size(), 1u);
+    EXPECT_TRUE(dialogs.boxes[0].title.ends_with(" - Erreur \"CalcOuptut"));
+    EXPECT_FALSE(main.bWaitCursor);
 }
 
-TEST(Grouping, AYearThatIsNoNumberIsReported) {
-    TestMain t;
-    Arrange(t.main.lvwOut, {"LastName"});
-    AddIndividual(t.main, "@1@", {{"LastName", "A"}});
-    AddIndividual(t.main, "@2@", {{"LastName", "B"}, {"DeathMax", "1800?"}});
-    AddIndividual(t.main, "@3@", {{"LastName", "C"}});
-    t.main.cmdCalcOutput.Click();
-    ASSERT_EQ(t.dialogs.boxes.size(), 1u);
-    EXPECT_TRUE(t.dialogs.boxes[0].title.ends_with(" - Erreur \"CalcOuptut"));
-    EXPECT_EQ(ListOf(t.main), (Texts{"A|     1"}));
-    EXPECT_EQ(t.main.pnlMessage.Get(), "Comptage...");
-    EXPECT_FALSE(t.main.bWaitCursor);
-}
+bool IsYear(TextView key) { return key.ends_with("Min") || key.ends_with("Max"); }
 
 /// What the groups should be, told in another way: a map from key to group.
 class LiteralGrouping {
@@ -133,12 +104,13 @@ class LiteralGrouping {
         ++group.count;
         for (const TextView key : keys_) {
             const Text value = cell(key);
-            const auto [shown, isNew] = group.shown.try_emplace(key, value);
-            if (isNew || !IsYear(key) || value.empty()) continue;
-            const bool replaces =
-                shown->second.empty() || (key.ends_with("Min") ? std::stoi(value) < std::stoi(shown->second)
-                                                               : std::stoi(value) > std::stoi(shown->second));
-            if (replaces) shown->second = value;
+            Text& shown = group.shown.try_emplace(key, value).first->second;
+            if (!IsYear(key) || value.empty()) continue;
+            const auto year = [](const Text& text) { return std::stoi(text); };
+            if (shown.empty() ||
+                (key.ends_with("Min") ? year(value) < year(shown) : year(value) > year(shown))) {
+                shown = value;
+            }
         }
     }
     Texts Rows() const {
@@ -157,67 +129,58 @@ class LiteralGrouping {
         int count = 0;
         std::map<TextView, Text> shown;
     };
-    static bool IsYear(TextView key) { return key.ends_with("Min") || key.ends_with("Max"); }
     static Text Folded(TextView text) {
-        const std::map<char, char> plain = {{"é"_t[0], 'E'}, {"Ô"_t[0], 'O'}, {"ç"_t[0], 'C'},
-                                            {"ß"_t[0], 'S'}, {'a', 'A'},      {'A', 'A'},
-                                            {'9', '9'}};
+        static const TextView letters = "éÔçßaA0123456789"_t, plain = "EOCSAA0123456789";
         Text folded;
         for (const char c : text) {
-            const auto found = plain.find(c);
-            if (c >= '0' && c <= '9') {
-                folded += c;
-            } else if (found != plain.end()) {
-                folded += found->second;
+            if (const auto at = letters.find(c); at != TextView::npos) {
+                folded += plain[at];
             } else if (!folded.empty() && folded.back() != ' ') {
                 folded += ' ';
             }
         }
-        if (!folded.empty() && folded.back() == ' ') folded.pop_back();
+        if (folded.ends_with(' ')) folded.pop_back();
         return folded;
     }
     std::vector<TextView> keys_;
     std::map<Text, Group> groups_;
 };
 
-TEST(Grouping, IsTheGroupingOfAPlainMap) {
+TEST(GroupingOfAnything, IsTheGroupingOfAPlainMap) {
     std::mt19937 random(1791);
-    const auto below = [&](int limit) { return std::uniform_int_distribution<>(0, limit - 1)(random); };
+    const auto below = [&](std::size_t limit) { return random() % limit; };
     const TextView letters = "aA9éÔçß -'œ&"_t;
     for (int pass = 0; pass < 40; ++pass) {
         TestMain t;
-        const int people = 1 + below(120);
-        for (int i = 0; i < people; ++i) {
-            Row row = AddIndividual(t.main, Concat({"@", Decimal(i), "@"}), {});
-            for (const Column& column : t.main.lvwIn.Columns()) {
+        Table& lvwIn = t.main.lvwIn;
+        for (auto people = 1 + below(120); people > 0; --people) {
+            Row row = AddIndividual(t.main, Concat({"@", std::to_string(people), "@"}), {});
+            for (const Column& column : lvwIn.Columns()) {
                 if (column.Index == In::ID) continue;
                 Text cell;
-                if (column.Key.ends_with("Min") || column.Key.ends_with("Max")) {
-                    if (below(3) > 0) cell = Decimal(below(2000));
-                } else {
-                    for (int length = below(4); length > 0; --length) {
-                        cell += letters[static_cast<std::size_t>(below(static_cast<int>(letters.size())))];
-                    }
+                if (!IsYear(column.Key)) {
+                    for (auto length = below(4); length > 0; --length) cell += letters[below(letters.size())];
+                } else if (below(3) > 0) {
+                    cell = std::to_string(below(2000));
                 }
                 row.SetCell(column.Index, cell);
             }
         }
-        Texts before = RowsOf(t.main.lvwIn);
+        Texts before = RowsOf(lvwIn);
         std::vector<TextView> keys;
-        for (const Column& column : t.main.lvwIn.Columns()) {
+        for (const Column& column : lvwIn.Columns()) {
             if (column.Index != In::ID || pass % 10 == 0) keys.push_back(column.Key);
         }
         std::shuffle(keys.begin(), keys.end(), random);
-        keys.resize(static_cast<std::size_t>(below(7)));
+        keys.resize(below(7));
         Arrange(t.main.lvwOut, keys);
         t.main.cmdCalcOutput.Click();
 
         // Which spelling comes first is up to the sort, so the map is filled in the order that it made.
         LiteralGrouping expected(keys);
-        for (std::int32_t i = 1; i <= t.main.lvwIn.Count(); ++i)
-            expected.Add(t.main.lvwIn, t.main.lvwIn.Item(i));
+        for (std::int32_t i = 1; i <= lvwIn.Count(); ++i) expected.Add(lvwIn, lvwIn.Item(i));
         EXPECT_EQ(ListOf(t.main), expected.Rows()) << "pass " << pass;
-        Texts after = RowsOf(t.main.lvwIn);
+        Texts after = RowsOf(lvwIn);
         std::sort(before.begin(), before.end());
         std::sort(after.begin(), after.end());
         EXPECT_EQ(before, after) << "pass " << pass;
