@@ -18,6 +18,11 @@ namespace swiftroll::test {
 
 using Strings = std::vector<std::string>;
 
+inline Strings operator+(Strings words, const Strings& more) {
+    words.insert(words.end(), more.begin(), more.end());
+    return words;
+}
+
 /// Three individuals of two surnames, a family, and what is awkward to print: a tab, a backslash, accents,
 /// and a byte that Windows-1252 leaves undefined.
 inline const std::string kFamily =
@@ -38,18 +43,23 @@ inline std::string Crowd(int first, int count) {
     return crowd.str();
 }
 
+/// `text` cut at each `separator`; what ends with one has no part behind it.
+inline Strings Split(const std::string& text, char separator) {
+    Strings parts;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, separator);) parts.push_back(part);
+    return parts;
+}
+
+inline const std::string kExample = std::string(SWIFTROLL_EXAMPLES) + "/famille.ged";
+
 /// What a run of the program left.
 struct Outcome {
     int code = -1;
     std::string out, err;
     bool Says(const std::string& text) const { return err.find(text) != std::string::npos; }
     /// The lines of standard output.
-    Strings Lines() const {
-        Strings lines;
-        std::istringstream stream(out);
-        for (std::string line; std::getline(stream, line);) lines.push_back(line);
-        return lines;
-    }
+    Strings Lines() const { return Split(out, '\n'); }
 };
 
 /// A folder of its own in which the program runs, as a process, with a home and a data folder in it. The file
@@ -73,24 +83,22 @@ class CliTest : public testing::Test {
     Outcome Cli(const Strings& arguments, const std::string& stdoutFile = {}) const {
         return Finish(Start(arguments, stdoutFile));
     }
-    /// Runs it on a named pipe: writes `before`, interrupts the program as Ctrl-C does, and writes `after` as
-    /// far as it is still read.
-    Outcome CliInterrupted(const std::string& fifo, const Strings& arguments, const std::string& before,
-                           const std::string& after) const {
+    /// Runs it on the named pipe "fifo": interrupts it as Ctrl-C does in the midst of 60000 individuals.
+    Outcome CliInterrupted(const Strings& arguments) const {
         const auto previous = std::signal(SIGPIPE, SIG_IGN);
-        mkfifo((folder_ / fifo).c_str(), 0600);
+        mkfifo((folder_ / "fifo").c_str(), 0600);
         const pid_t pid = Start(arguments, {});
         // The pipe can be opened once the program reads it.
         int fd = -1;
         for (siginfo_t ended{}; fd < 0 && ended.si_pid == 0; usleep(1000)) {
-            fd = open((folder_ / fifo).c_str(), O_WRONLY | O_NONBLOCK);
+            fd = open((folder_ / "fifo").c_str(), O_WRONLY | O_NONBLOCK);
             waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOHANG | WNOWAIT);
         }
         if (fd >= 0) {
             fcntl(fd, F_SETFL, 0);
-            EXPECT_TRUE(WriteAll(fd, before)) << "the program ended before the signal";
+            EXPECT_TRUE(WriteAll(fd, Crowd(1, 20000))) << "the program ended before the signal";
             kill(pid, SIGINT);
-            WriteAll(fd, after);
+            WriteAll(fd, Crowd(20001, 40000));
             close(fd);
         }
         std::signal(SIGPIPE, previous);
@@ -110,31 +118,6 @@ class CliTest : public testing::Test {
     Strings environment;
 
   private:
-    static constexpr const char* kStdout = ".stdout";
-    static constexpr const char* kStderr = ".stderr";
-
-    /// The present environment with the folders of the test, and without what would change the outputs.
-    Strings Variables() const {
-        Strings variables = environment;
-        variables.push_back("HOME=" + (folder_ / "home").string());
-        variables.push_back("XDG_DATA_HOME=" + (folder_ / "data").string());
-        for (char** variable = environ; *variable != nullptr; ++variable) {
-            const std::string text = *variable;
-            const std::string name = text.substr(0, text.find('='));
-            if (name != "HOME" && !name.starts_with("XDG_") && name != "SOURCE_DATE_EPOCH" && name != "TZ") {
-                variables.push_back(text);
-            }
-        }
-        return variables;
-    }
-
-    static std::vector<char*> Pointers(Strings& texts) {
-        std::vector<char*> pointers;
-        for (std::string& text : texts) pointers.push_back(text.data());
-        pointers.push_back(nullptr);
-        return pointers;
-    }
-
     /// False when nobody reads any more.
     static bool WriteAll(int fd, std::string_view bytes) {
         while (!bytes.empty()) {
@@ -145,23 +128,22 @@ class CliTest : public testing::Test {
         return true;
     }
 
+    /// The present environment serves with the folders of the test, and without what would change the
+    /// outputs.
     pid_t Start(const Strings& arguments, const std::string& stdoutFile) const {
-        Strings words = {SWIFTROLL_CLI}, variables = Variables();
-        words.insert(words.end(), arguments.begin(), arguments.end());
-        const std::vector<char*> argv = Pointers(words), envp = Pointers(variables);
-        std::filesystem::remove(folder_ / kStdout);
+        std::string command = "cd '" + folder_.string() +
+                              "' && unset SOURCE_DATE_EPOCH TZ XDG_CONFIG_HOME XDG_DOCUMENTS_DIR && "
+                              "export HOME=$PWD/home XDG_DATA_HOME=$PWD/data";
+        for (const std::string& variable : environment) command += " '" + variable + "'";
+        command += " && exec";
+        for (const std::string& word : Strings{SWIFTROLL_CLI} + arguments) command += " '" + word + "'";
+        command += " </dev/null 2>.stderr >" + (stdoutFile.empty() ? ".stdout" : stdoutFile);
+        std::filesystem::remove(folder_ / ".stdout");
         const pid_t pid = fork();
         if (pid != 0) return pid;
         std::signal(SIGINT, SIG_DFL);
         std::signal(SIGPIPE, SIG_DFL);
-        const bool moved = chdir(folder_.c_str()) == 0;
-        const int in = open("/dev/null", O_RDONLY);
-        const int out =
-            open(stdoutFile.empty() ? kStdout : stdoutFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        const int err = open(kStderr, O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        if (moved && dup2(in, 0) == 0 && dup2(out, 1) == 1 && dup2(err, 2) == 2) {
-            execve(SWIFTROLL_CLI, argv.data(), envp.data());
-        }
+        execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
         _exit(127);
     }
 
@@ -169,7 +151,7 @@ class CliTest : public testing::Test {
         int status = 0;
         waitpid(pid, &status, 0);
         const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-        return {code, Bytes(kStdout), Bytes(kStderr)};
+        return {code, Bytes(".stdout"), Bytes(".stderr")};
     }
 
     std::filesystem::path folder_;

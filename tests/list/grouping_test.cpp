@@ -20,24 +20,6 @@ struct Grouping : testing::Test, TestMain {
     }
 };
 
-TEST_F(Grouping, OneRowAGroupWithItsYearsAndItsCount) {
-    AddIndividual(main, "@1@", {{"LastName", "Martin"}, {"Place", "Paris"}});
-    AddIndividual(main, "@2@", {{"LastName", "Dupont"}, {"Place", "Paris"}, {"BirthMax", "1860"}});
-    AddIndividual(main, "@3@", {{"LastName", "DUPONT"}, {"Place", "PARIS "}, {"BirthMin", "1850"}});
-    AddIndividual(main, "@4@", {{"LastName", "Dupônt"_t}, {"Place", "-Paris"}, {"BirthMin", "900"}});
-    AddIndividual(main, "@5@", {{"LastName", "Dupont"}, {"Place", "Paris"}, {"BirthMax", "950"}});
-    AddIndividual(main, "@6@", {{"LastName", "Du-Pont"}, {"Place", "Paris"}, {"BirthMin", "1700"}});
-    for (int i = 0; i < 12; ++i) {
-        AddIndividual(main, Concat({"@L", Decimal(i), "@"}), {{"LastName", "Le  Gall"}, {"MarrMax", "0"}});
-    }
-    EXPECT_EQ(List({"Place", "BirthMin", "LastName", "BirthMax", "MarrMin", "MarrMax"}),
-              (Texts{"Paris|1700|Du-Pont||||     1", "Paris|900|Dupont|1860|||     4",
-                     "Paris||Martin||||     1", "||Le  Gall|||0|    12"}));
-    EXPECT_EQ(main.lvwActiveListView, &main.lvwOut);
-    EXPECT_EQ(main.pnlMessage.Get(), "");
-    EXPECT_FALSE(main.bWaitCursor);
-}
-
 TEST_F(Grouping, KeysOfTheListAreThoseOfItsIndividuals) {
     AddIndividual(main, "@1@", {{"LastName", "d'Orÿ"_t}, {"Place", "Saint-Malo, (35)"}, {"Sex", "M"}});
     AddIndividual(main, "@2@", {{"LastName", "Øre"_t}});

@@ -6,6 +6,7 @@ namespace {
 
 struct Documents : Writing {
     Documents() {
+        files.readSize = 7;  // The model comes in blocks.
         Arrange(main.lvwOut, {"LastName", "MarrPlace", "DateMin"});
         AddIndividual(main, "@1@", {{"LastName", "Dupont"}, {"DateMin", "1800"}, {"MarrPlace", "Évry"_t}});
         AddIndividual(main, "@2@", {{"LastName", "DUPONT"}, {"FirstName", "Anne"}});

@@ -87,20 +87,5 @@ TEST_F(Writing, ABadLengthIsReportedOnceAPass) {
     }
 }
 
-TEST_F(Writing, EntriesAreCountedInSixteenBits) {
-    Texts names;
-    for (int i = 0; i < 32767; ++i) names.push_back(Decimal(i, 5));
-    ListSurnames(names);
-    main.txtINDEX.SetText("5");
-    EXPECT_EQ(Tags(Write(kXml, "")).size(), 32767u);
-    EXPECT_TRUE(Told().empty());
-    AddIndividual(main, "@more@", {{"LastName", "Z"}});
-    main.cmdCalcOutput.Click();
-    const Text html = Write(kHtml, kIndexed);
-    EXPECT_EQ(Told().size(), 2u);
-    EXPECT_TRUE(Links(html).empty());
-    EXPECT_EQ(Anchors(html).size(), 32767u);
-}
-
 }  // namespace
 }  // namespace swiftroll::test
