@@ -5,6 +5,7 @@
 #include "app/positions.h"
 #include "gedcom/line_scanner.h"
 #include "list/sort_keys.h"
+#include "quiet_ports.h"
 #include "tables/column_numbers.h"
 #include "tables/schema.h"
 #include "text/fold.h"
@@ -118,15 +119,9 @@ void KeepAlphaNum(benchmark::State& state) {
 }
 BENCHMARK(KeepAlphaNum);
 
-class NoDialogs : public Dialogs {
-  public:
-    BoxAnswer Show(const MessageBox&) override { return BoxAnswer::Ok; }
-    bool AskFile(const FileRequest&, Text&) override { return false; }
-};
-
 void MakeSortKeyIn(benchmark::State& state) {
     TableSet tables;
-    NoDialogs dialogs;
+    bench::QuietDialogs dialogs;
     Positions positions;
     tables.lvwOut.MoveColumn(4, 3);  // the place before the count
     positions.InitIndexes(tables, dialogs, {});

@@ -18,6 +18,11 @@ Text FullName(const ControlTexts& texts) {
     return texts.index < 0 ? Text(texts.name) : Concat({texts.name, "(", Decimal(texts.index), ")"});
 }
 
+bool ZeroOrOne(TextView text, TextView name) {
+    if (text != "0" && text != "1") throw Failure(FailureKind::TypeMismatch, name);
+    return text == "1";
+}
+
 }  // namespace
 
 Control* Window::Find(TextView name) const {
@@ -42,6 +47,11 @@ void Window::SetFocus(Control& control) {
     Fire(OnFocusChanged);
 }
 
+void Window::Hide() {
+    visible_ = false;
+    Fire(OnHide);
+}
+
 void Control::TakeFocus() const { Fire(OnGotFocus); }
 
 void Control::LoseFocus() const { Fire(OnLostFocus); }
@@ -54,10 +64,17 @@ void CheckBox::SetChecked(bool checked) {
     Fire(OnClick);
 }
 
-void CheckBox::SetFromText(TextView text) {
-    if (text != "0" && text != "1") throw Failure(FailureKind::TypeMismatch, Name());
-    SetChecked(text == "1");
+void CheckBox::SetFromText(TextView text) { SetChecked(ZeroOrOne(text, Name())); }
+
+void OptionButton::SetValue(bool value) {
+    for (Control* control : window_.Controls()) {
+        auto* other = dynamic_cast<OptionButton*>(control);
+        if (value && other != nullptr && other->arrayName_ == arrayName_) other->value_ = false;
+    }
+    value_ = value;
 }
+
+void OptionButton::SetFromText(TextView text) { SetValue(ZeroOrOne(text, Name())); }
 
 void OptionGroup::SetIndex(int index) {
     if (index < 0 || index >= static_cast<int>(captions_.size())) throw Failure(FailureKind::IndexOutOfRange);

@@ -30,10 +30,19 @@ class Window {
     /// For the presentation, which moves its own focus after.
     std::function<void()> OnFocusChanged;
 
+    Text Caption;
+    bool Visible() const { return visible_; }
+    void Show() { visible_ = true; }
+    /// Ends the dialog that shows the window.
+    void Hide();
+    /// For the presentation, which takes the window from the screen.
+    std::function<void()> OnHide;
+
   private:
     friend class Control;
     std::vector<Control*> controls_;
     Control* activeControl_ = nullptr;
+    bool visible_ = false;
 };
 
 using Event = std::function<void()>;
@@ -46,7 +55,17 @@ struct ControlTexts {
     int index = -1;
 };
 
-enum class ControlKind { CheckBox, OptionGroup, TextBox, ComboBox, OrderedList, Colour, Label, Command };
+enum class ControlKind {
+    CheckBox,
+    OptionButton,
+    OptionGroup,
+    TextBox,
+    ComboBox,
+    OrderedList,
+    Colour,
+    Label,
+    Command
+};
 
 /// A control of the option record or a command. Setting a value fires the events that belong to it.
 class Control {
@@ -89,6 +108,24 @@ class CheckBox : public Control {
 
   private:
     bool checked_;
+};
+
+/// One of several option buttons of a control array, which stand and are enabled each by itself; one of them
+/// is set at most.
+class OptionButton : public Control {
+  public:
+    OptionButton(Window& window, const ControlTexts& texts)
+        : Control(window, ControlKind::OptionButton, texts), window_(window), arrayName_(texts.name) {}
+    bool Value() const { return value_; }
+    /// Setting it clears the others of the array.
+    void SetValue(bool value);
+    void SetFromText(TextView text) override;
+    Event OnDblClick;
+
+  private:
+    Window& window_;
+    Text arrayName_;
+    bool value_ = false;
 };
 
 /// Option buttons of which one is set: `GetOptionIndex`, `SetOptionIndex`.

@@ -23,12 +23,16 @@ struct MessageBox {
     BoxTopic topic = BoxTopic::Message;
 };
 
-/// The user's answers: boxes and file dialogs.
+class Window;
+
+/// The user's answers: boxes, file dialogs and windows of questions.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
     /// Shows a modal box and gives the answer.
     virtual BoxAnswer Show(const MessageBox& box) = 0;
+    /// Shows a window as a modal dialog until it is hidden.
+    virtual void ShowModal(Window& window) = 0;
 
     struct FileRequest {
         bool save = false;
@@ -109,6 +113,14 @@ class Folders {
     virtual Text Separator() = 0;
 };
 
+/// What the machine is.
+class Machine {
+  public:
+    virtual ~Machine() = default;
+    /// Bytes of memory that the program may count on at most.
+    virtual std::uint64_t Memory() = 0;
+};
+
 /// Told after the status panels or the progress have changed; must be cheap.
 class StatusObserver {
   public:
@@ -124,6 +136,7 @@ struct Ports {
     Files& files;
     Folders& folders;
     StatusObserver& status;
+    Machine& machine;
 };
 
 }  // namespace swiftroll

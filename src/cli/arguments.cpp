@@ -1,6 +1,8 @@
 #include "arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <charconv>
+#include <limits>
 #include <map>
 
 namespace swiftroll::cli {
@@ -56,6 +58,21 @@ class JobParser {
     std::string marked_;
 };
 
+/// A number above 0 of an option; 0 when the option was not given. @throws UsageError
+template <class Number>
+Number Limit(const CLI::Option& option) {
+    Number number = 0;
+    if (option.count() == 0) return number;
+    const std::string& word = option.results().back();
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    // A number that is not finite is none.
+    const bool isWhole = error == std::errc() && end == word.data() + word.size();
+    if (!isWhole || !(number > 0 && number <= std::numeric_limits<std::int32_t>::max())) {
+        throw UsageError(option.get_name() + " attend un nombre positif : " + word);
+    }
+    return number;
+}
+
 std::string Joined(const std::vector<std::string>& words) {
     std::string joined;
     for (const std::string& word : words) joined += (joined.empty() ? "" : " ") + word;
@@ -96,6 +113,16 @@ Arguments ParseArguments(int argc, const char* const* argv) {
     releve.Sub().add_flag("--xsl", arguments.withStylesheet);
     releve.Sub().add_flag("--marques", arguments.markedOnly);
 
+    JobParser parente(app, "parente", arguments);
+    parente.Sub().add_option("ID1", arguments.fromId);
+    parente.Sub().add_option("ID2", arguments.toId);
+    std::string kinshipTables = "lvwKinship";
+    parente.Sub().add_option("-t", kinshipTables);
+    parente.Sub().add_option("-o", arguments.output);
+    std::string ignored;
+    const CLI::Option* mostPaths = parente.Sub().add_option("--max", ignored);
+    const CLI::Option* mostSeconds = parente.Sub().add_option("--delai", ignored);
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -103,17 +130,32 @@ Arguments ParseArguments(int argc, const char* const* argv) {
     }
     if (help->count() > 0) return arguments;
     if (version->count() > 0) {
-        arguments.job = Job::Version;
+        arguments.job = JobKind::Version;
         return arguments;
     }
-    const bool isTables = tables.Sub().parsed();
-    if (!isTables && !releve.Sub().parsed())
-        throw UsageError("il manque le travail à faire : tables ou releve");
-    arguments.job = isTables ? Job::Tables : Job::Releve;
-    (isTables ? tables : releve).Collect();
-    arguments.tables = SplitList(tableList);
+    if (tables.Sub().parsed()) {
+        arguments.job = JobKind::Tables;
+        tables.Collect();
+        arguments.tables = SplitList(tableList);
+    } else if (releve.Sub().parsed()) {
+        arguments.job = JobKind::Releve;
+        releve.Collect();
+    } else if (parente.Sub().parsed()) {
+        arguments.job = JobKind::Parente;
+        parente.Collect();
+        arguments.tables = SplitList(kinshipTables);
+        arguments.mostPaths = Limit<std::int64_t>(*mostPaths);
+        arguments.mostSeconds = Limit<double>(*mostSeconds);
+    } else {
+        throw UsageError("il manque le travail à faire : tables, releve ou parente");
+    }
     if (arguments.input.empty()) throw UsageError("il manque le fichier GEDCOM à lire");
-    if (!isTables && arguments.output.empty()) throw UsageError("il manque le fichier à écrire : -o SORTIE");
+    if (arguments.job == JobKind::Releve && arguments.output.empty()) {
+        throw UsageError("il manque le fichier à écrire : -o SORTIE");
+    }
+    if (arguments.job == JobKind::Parente && arguments.toId.empty()) {
+        throw UsageError("il manque les identifiants des deux individus");
+    }
     return arguments;
 }
 
@@ -129,6 +171,12 @@ std::string HelpText() {
       écrit le Relevé-vif ; « -o - » l'envoie à l'écran. Sans --format, l'extension de SORTIE décide.
       --xsl écrit aussi la feuille de style à côté du XML, --marques n'écrit que les lignes marquées.
 
+  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--max N] [--delai SECONDES]
+      cherche tous les liens de parenté du premier individu au second, et affiche les chemins (lvwKinship),
+      ou écrit les tables dans LISTE. --max arrête la recherche après N chemins, --delai après ce temps ; ce
+      qui est trouvé est gardé et affiché. --set chkMaxLinks=1 --set txtMaxLinks=N ne garde que les chemins
+      d'au plus N lignes, chkMaxSpouses et txtMaxSpouses ceux d'au plus N conjoints.
+
   swiftroll-cli --aide | --version
 
 Options de tous les travaux, dans l'ordre de la ligne de commande :
@@ -142,7 +190,8 @@ Options de tous les travaux, dans l'ordre de la ligne de commande :
   -f, --ecraser             écrase un fichier existant
   -q, --silencieux          ni progression ni textes d'état
 
-Codes de sortie : 0 fait, 1 échec ou refus, 2 ligne de commande incorrecte, 3 arrêté (Ctrl-C, --strict).
+Codes de sortie : 0 fait, 1 échec ou refus, 2 ligne de commande incorrecte, 3 arrêté (Ctrl-C, --strict,
+--max, --delai).
 )";
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -7,7 +8,7 @@
 
 namespace swiftroll::cli {
 
-enum class Job { Help, Version, Tables, Releve };
+enum class JobKind { Help, Version, Tables, Releve, Parente };
 
 /// The exit codes of the program.
 enum ExitCode : int { kDone = 0, kFailed = 1, kUsage = 2, kStopped = 3 };
@@ -26,7 +27,7 @@ struct Setting {
 
 /// The command line, texts in UTF-8 as they were typed.
 struct Arguments {
-    Job job = Job::Help;
+    JobKind job = JobKind::Help;
     std::string input;
     std::string output;
     std::vector<std::string> tables;
@@ -36,6 +37,10 @@ struct Arguments {
     bool withStylesheet = false;
     bool markedOnly = false;
     std::vector<std::string> markedIds;
+    std::string fromId, toId;
+    /// Number of paths, and seconds, after which the search ends; 0 for no limit.
+    std::int64_t mostPaths = 0;
+    double mostSeconds = 0;
     std::vector<Setting> settings;
     bool strict = false;
     bool overwrite = false;

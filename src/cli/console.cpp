@@ -83,7 +83,8 @@ void TerminalProgress::Wipe() {
 }
 
 void InterruptPump::Yield() {
-    if (told_ || !platform::WasInterrupted() || app_ == nullptr) return;
+    if (told_ || app_ == nullptr) return;
+    if (!platform::WasInterrupted() && !(stopWhen && stopWhen())) return;
     told_ = true;
     app_->RequestAbort();
 }

@@ -16,6 +16,8 @@ class HeadlessDialogs : public Dialogs {
   public:
     explicit HeadlessDialogs(const Arguments& arguments) : arguments_(arguments) {}
     BoxAnswer Show(const MessageBox& box) override;
+    /// There is nobody to ask: the window is closed at once.
+    void ShowModal(Window& window) override { window.Hide(); }
     bool AskFile(const FileRequest& request, Text& chosen) override;
 
     /// Whether the question of the recalculation is answered Yes.
@@ -54,6 +56,8 @@ class InterruptPump : public EventPump {
   public:
     void Watch(Application& app) { app_ = &app; }
     void Yield() override;
+    /// A limit of the command line; when it gives true, the operation is stopped in the same way.
+    std::function<bool()> stopWhen;
 
   private:
     Application* app_ = nullptr;

@@ -8,14 +8,15 @@ int main(int argc, char** argv) {
     try {
         const Arguments arguments = ParseArguments(argc, argv);
         switch (arguments.job) {
-            case Job::Help:
+            case JobKind::Help:
                 std::fputs(HelpText().c_str(), stdout);
                 return kDone;
-            case Job::Version:
+            case JobKind::Version:
                 std::puts("SwiftRoll " SWIFTROLL_VERSION);
                 return kDone;
-            case Job::Tables:
-            case Job::Releve:
+            case JobKind::Tables:
+            case JobKind::Releve:
+            case JobKind::Parente:
                 return RunJob(arguments);
         }
     } catch (const UsageError& error) {

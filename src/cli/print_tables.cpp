@@ -1,7 +1,6 @@
 #include "print_tables.h"
 
 #include <array>
-#include <cstdio>
 #include <string>
 
 #include "text/code_page.h"
@@ -13,7 +12,7 @@ constexpr std::size_t kFlushSize = std::size_t{1} << 16;
 
 class Printer {
   public:
-    Printer() {
+    explicit Printer(File& file) : file_(file) {
         for (unsigned code = 0; code < 256; ++code) isPlain_[code] = code < 0x80;
         for (const char c : {'\t', '\n', '\r', '\\'}) isPlain_[static_cast<unsigned char>(c)] = false;
     }
@@ -48,19 +47,19 @@ class Printer {
         out_ += '\n';
         if (out_.size() >= kFlushSize) Flush();
     }
-    bool Finish() {
+    void Finish() {
         Flush();
-        return std::fflush(stdout) == 0 && complete_;
+        file_.Close();
     }
 
   private:
     void Flush() {
-        complete_ &= std::fwrite(out_.data(), 1, out_.size(), stdout) == out_.size();
+        file_.Write(out_);
         out_.clear();
     }
+    File& file_;
     std::array<bool, 256> isPlain_{};
     std::string out_;
-    bool complete_ = true;
 };
 
 void PrintTable(Printer& printer, Table& table, bool withKeys) {
@@ -89,8 +88,8 @@ void PrintTable(Printer& printer, Table& table, bool withKeys) {
 
 }  // namespace
 
-bool PrintTables(const std::vector<Table*>& tables, bool withKeys) {
-    Printer printer;
+void PrintTables(const std::vector<Table*>& tables, bool withKeys, File& file) {
+    Printer printer(file);
     for (Table* table : tables) {
         if (tables.size() > 1) {
             printer.Raw("# " + table->Name());
@@ -98,7 +97,7 @@ bool PrintTables(const std::vector<Table*>& tables, bool withKeys) {
         }
         PrintTable(printer, *table, withKeys);
     }
-    return printer.Finish();
+    printer.Finish();
 }
 
 }  // namespace swiftroll::cli

@@ -36,12 +36,15 @@ frmMain::frmMain(const Ports& applicationPorts)
       cmdDrawKinship(*this, {"cmdDrawKinship", "Ecrire Toutes +"_t}, {}, false),
       cmdCopyTitle2kinship(*this, {"cmdCopyTitle2kinship", ">"}, {}, false),
       cmdPrintKinship(*this, {"cmdPrintKinship"}, {}, false),
-      modReadGedcom(*this) {
+      modReadGedcom(*this),
+      modKinship(*this),
+      frmKinshipSelect(*this) {
     DisableKinshipCommands();
     BindReading();
     BindWriting();
     BindFiles();
     BindOptionRules();
+    BindKinship();
 }
 
 void frmMain::Form_Load(TextView sCommandLine) {

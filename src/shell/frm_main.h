@@ -2,6 +2,8 @@
 
 #include "app/application.h"
 #include "gedcom/reader.h"
+#include "kinship/search.h"
+#include "shell/frm_kinship_select.h"
 
 namespace swiftroll {
 
@@ -29,18 +31,31 @@ class frmMain : public Application {
     Command cmdFindPath, mnuFindPath, cmdSaveGed;
     Command mnuDrawKinship, cmdDrawKinship, cmdCopyTitle2kinship, cmdPrintKinship;
 
+    /// Searches the kinship of two individuals by their identifiers, whatever is marked; refuses the same
+    /// person twice, and two islands, as the command does; false then.
+    bool FindPathBetween(TextView sFromId, TextView sToId);
+
+    /// The row and the column of the last hit test in a table, from 0; -1 for none.
+    std::int32_t lHitRow = -1, lHitCol = -1;
+    /// Goes to the individual or the family that the cell under the last hit names.
+    void lvwKinship_DblClick();
+
     /// Goes to a tab and gives its table the focus.
     void ShowTab(Tab tab);
     /// The last file written is whole; false when a step of an XML file failed, which no box tells.
     bool bWriteComplete = true;
     /// What the last read knows beside the tables.
     modReadGedcom::Reader modReadGedcom;
+    /// The last kinship search.
+    modKinship::Search modKinship;
+    class frmKinshipSelect frmKinshipSelect;
 
   private:
     void BindReading();
     void BindWriting();
     void BindFiles();
     void BindOptionRules();
+    void BindKinship();
 
     void AttachTips();
     void chkTips_Click();
@@ -53,6 +68,12 @@ class frmMain : public Application {
     void chkProcFamilies_Click();
     void EnableFamilyCommands(bool enabled);
     void DisableKinshipCommands();
+
+    void JumpTo(Table& target, Tab tab, TextView sKey);
+    void RequestKinship(const std::function<void(TextView& step, std::int32_t& row)>& steps);
+    void cmdFindPath_Click();
+    void RefuseKinship(const KinshipChoices& choices);
+    void FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step);
 
     void cmdCalcOutput_Click();
     void cmdSaveSwift_Click();

@@ -38,5 +38,12 @@ enum : std::int16_t { IDFam = 1, Type, IDIndi, Sex, Family, Indi };
 namespace Xref {
 enum : std::int16_t { IDIndi1 = 1, Type, IDIndi2, Indi1, Indi2, IDFamily, Family };
 }
+// Despite their keys, `Indi1` and `Indi2` hold identifiers.
+namespace Xref1 {
+enum : std::int16_t { Indi1 = 1, Type, Indi2, IDFamily, Family };
+}
+namespace Kinship {
+enum : std::int16_t { SeqNr = 1, IDIndi, Indi, Type, IDFamily, Family, NrSpouses, NrLink };
+}
 
 }  // namespace swiftroll

@@ -22,8 +22,9 @@ KeyIndex::Slot KeyIndex::FindPair(const RowKey& key) const {
         if (entries_[slot].key.second == key.second) return slot;
     }
     if (!chain.continues) return kNone;
-    const auto found = longChains_.find(key);
-    return found == longChains_.end() ? kNone : *found;
+    const LongChains& part = longChains_[PartOf(key)];
+    const auto found = part.find(key);
+    return found == part.end() ? kNone : *found;
 }
 
 void KeyIndex::InsertPair(Slot slot, const RowKey& key) {
@@ -31,7 +32,7 @@ void KeyIndex::InsertPair(Slot slot, const RowKey& key) {
     chain.filter = static_cast<std::uint16_t>(chain.filter | FilterBit(key));
     if (chain.length == kLongestChain) {
         chain.continues = true;
-        longChains_.insert(slot);
+        longChains_[PartOf(key)].insert(slot);
         return;
     }
     entries_[slot].nextInChain = chain.first;
@@ -66,14 +67,14 @@ void KeyIndex::ErasePair(Slot slot, const RowKey& key) {
         --chain.length;
         return;
     }
-    longChains_.erase(slot);
+    longChains_[PartOf(key)].erase(slot);
 }
 
 void KeyIndex::Clear() {
     entries_.Clear();
     singles_ = {};
     chains_ = {};
-    longChains_ = decltype(longChains_)(0, longChains_.hash_function(), longChains_.key_eq());
+    for (LongChains& part : longChains_) part = LongChains(0, part.hash_function(), part.key_eq());
 }
 
 }  // namespace swiftroll

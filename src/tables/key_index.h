@@ -35,11 +35,12 @@ struct RowKeyHash {
 
 /// Where the row of each key is stored. All structures follow the numbers of the interned texts, so that what
 /// stands together in the file stays together in memory: single keys are an array over the first parts; pairs
-/// hang in short chains on their first parts, and the few that have longer chains continue in a hash set.
+/// hang in short chains on their first parts, and the few that have longer chains continue in hash sets:
+/// several small ones, so that none takes long to grow while a user waits.
 class KeyIndex {
   public:
     using Slot = std::uint32_t;
-    KeyIndex() : longChains_(0, PairHash{&entries_}, PairEqual{&entries_}) {}
+    KeyIndex() : longChains_(kParts, LongChains(0, PairHash{&entries_}, PairEqual{&entries_})) {}
 
     /// Number of slots, and room for one more slot without a key.
     Slot SlotCount() const { return static_cast<Slot>(entries_.size()); }
@@ -61,6 +62,8 @@ class KeyIndex {
   private:
     static constexpr Slot kNone = 0xFFFFFFFFu;
     static constexpr std::uint8_t kLongestChain = 24;
+    static constexpr unsigned kPartBits = 6;
+    static constexpr std::size_t kParts = std::size_t{1} << kPartBits;
 
     struct Entry {
         RowKey key;
@@ -70,7 +73,7 @@ class KeyIndex {
         Slot first = kNone;
         std::uint16_t filter = 0;  // a bit for each second part that was ever inserted
         std::uint8_t length = 0;
-        bool continues = false;  // in the hash set
+        bool continues = false;  // in a hash set
     };
     static std::uint16_t FilterBit(const RowKey& key) {
         return static_cast<std::uint16_t>(1u << (key.second.Symbol() * 0x9E3779B9u >> 28));
@@ -89,6 +92,9 @@ class KeyIndex {
         bool operator()(const RowKey& a, Slot b) const { return a == (*entries)[b].key; }
     };
 
+    using LongChains = boost::unordered_flat_set<Slot, PairHash, PairEqual>;
+    static std::size_t PartOf(const RowKey& key) { return RowKeyHash()(key) >> (64 - kPartBits); }
+
     Slot FindSingle(const RowKey& key) const {
         if (key.IsEmpty() || key.first.Symbol() >= singles_.size()) return kNone;
         return singles_[key.first.Symbol()];
@@ -97,10 +103,10 @@ class KeyIndex {
     void InsertPair(Slot slot, const RowKey& key);
     void ErasePair(Slot slot, const RowKey& key);
 
-    BlockVector<Entry> entries_;  // by slot
-    std::vector<Slot> singles_;   // by symbol
-    std::vector<Chain> chains_;   // by symbol of the first part
-    boost::unordered_flat_set<Slot, PairHash, PairEqual> longChains_;
+    BlockVector<Entry> entries_;          // by slot
+    std::vector<Slot> singles_;           // by symbol
+    std::vector<Chain> chains_;           // by symbol of the first part
+    std::vector<LongChains> longChains_;  // by PartOf
 };
 
 }  // namespace swiftroll

@@ -157,7 +157,19 @@ void Table::Clear() {
     placesAreFresh_ = false;
     inSlotOrder_ = true;
     ++generation_;
+    ++clearings_;
     store_.reset();
+}
+
+std::optional<Row> Table::Current() {
+    if (currentGeneration_ != generation_) return std::nullopt;
+    return Row(*this, currentSlot_);
+}
+
+void Table::SetCurrent(const Row& row) {
+    row.CheckAlive();
+    currentSlot_ = row.slot_;
+    currentGeneration_ = row.generation_;
 }
 
 void Table::SetSorted(bool sorted) {
@@ -240,6 +252,11 @@ std::int32_t Row::Index() const {
     if (table_->inSlotOrder_) return static_cast<std::int32_t>(slot_ + 1);
     if (!table_->placesAreFresh_) table_->RefreshPlaces();
     return static_cast<std::int32_t>(table_->place_[slot_] + 1);
+}
+
+void Row::EnsureVisible() const {
+    CheckAlive();
+    if (table_->OnEnsureVisible) table_->OnEnsureVisible(*this);
 }
 
 std::string Row::Key() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <boost/unordered/unordered_flat_map.hpp>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -91,6 +92,14 @@ class Table {
     /// Removes the row at `index`. @throws Failure IndexOutOfRange
     void Remove(std::int32_t index);
     void Clear();
+    /// Number of times the table was cleared: references into `Store` from before are void.
+    std::uint32_t Clearings() const { return clearings_; }
+
+    /// The row that the user works with, if there is one and it was not removed.
+    std::optional<Row> Current();
+    void SetCurrent(const Row& row);
+    /// For the presentation, which scrolls a row into view.
+    std::function<void(const Row& row)> OnEnsureVisible;
 
     bool Sorted() const { return sorted_; }
     std::int16_t SortKey() const { return sortKey_; }
@@ -144,7 +153,10 @@ class Table {
     bool placesAreFresh_ = false;
     bool inSlotOrder_ = true;  // order_ is 0, 1, 2, ... and place_ is not needed
     std::vector<Slot> freeSlots_;
-    std::uint32_t generation_ = 0;  // grows when rows go, so that handles from before are refused
+    std::uint32_t clearings_ = 0;
+    Slot currentSlot_ = 0;
+    std::uint32_t currentGeneration_ = 0;  // of the table when the row became the current one
+    std::uint32_t generation_ = 1;         // grows when rows go, so that handles from before are refused
 
     bool sorted_ = false;
     std::int16_t sortKey_ = 0;
@@ -192,6 +204,8 @@ class Row {
     bool Checked() const { return HasMark(Table::kChecked); }
     /// Both marks count alike in every command.
     bool Marked() const { return HasMark(Table::kSelected | Table::kChecked); }
+    /// Scrolls the row into view where there is one.
+    void EnsureVisible() const;
     void SetSelected(bool on) { SetMark(Table::kSelected, on); }
     void SetChecked(bool on) { SetMark(Table::kChecked, on); }
 

@@ -20,17 +20,15 @@ class TextRef {
     /// Whether equal texts of the store share this reference, so that comparing references compares texts.
     bool IsInterned() const { return IsEmpty() || (bits_ & kInternedBit) != 0; }
     friend bool operator==(TextRef, TextRef) = default;
+    /// Number of an interned text, dense from 0 in the order of first use.
+    std::uint32_t Symbol() const { return bits_ & ~kInternedBit; }
 
   private:
     friend class TextStore;
-    friend class KeyIndex;
-    friend class SymbolRanks;
     friend struct RowKeyHash;
     friend std::size_t hash_value(TextRef ref) { return ref.bits_; }
     static constexpr std::uint32_t kInternedBit = 0x80000000u;
     explicit TextRef(std::uint32_t bits) : bits_(bits) {}
-    /// Number of an interned text, dense from 0 in the order of first use.
-    std::uint32_t Symbol() const { return bits_ & ~kInternedBit; }
     std::uint32_t bits_ = 0;
 };
 

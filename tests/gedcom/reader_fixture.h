@@ -17,8 +17,6 @@ struct AfterReading : TestMain {
     explicit AfterReading(TextView text) { Read(WithCrLf(text)); }
 };
 
-inline std::vector<Text> Rows(std::initializer_list<TextView> rows) { return {rows.begin(), rows.end()}; }
-
 /// Some cells of every row, joined by "|".
 inline std::vector<Text> CellsOf(Table& table, std::initializer_list<std::int16_t> columns) {
     std::vector<Text> rows;

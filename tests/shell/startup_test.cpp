@@ -54,7 +54,7 @@ TEST(Startup, AFailureEndsTheApplicationAfterItsReport) {
         Text Models() override { throw Failure(FailureKind::FileAccess); }
     } folders;
     TestPorts t;
-    frmMain main({t.dialogs, t.clock, t.events, t.files, folders, t.status});
+    frmMain main({t.dialogs, t.clock, t.events, t.files, folders, t.status, t.machine});
     EXPECT_THROW(main.Form_Load({}), ProgramEnd);
     ASSERT_EQ(t.dialogs.boxes.size(), 1u);
     EXPECT_TRUE(t.dialogs.boxes[0].text.ends_with("|InitCombos/0//docs/.ged//|")) << t.dialogs.boxes[0].text;

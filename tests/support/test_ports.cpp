@@ -16,6 +16,11 @@ BoxAnswer ScriptedDialogs::Show(const MessageBox& box) {
                                                                                       : BoxAnswer::Ok;
 }
 
+void ScriptedDialogs::ShowModal(Window& window) {
+    if (onWindow) onWindow(window);
+    window.Hide();
+}
+
 bool ScriptedDialogs::AskFile(const FileRequest& request, Text& chosen) {
     fileRequests.push_back(request);
     if (files.empty()) return false;

@@ -14,12 +14,15 @@ namespace swiftroll::test {
 class ScriptedDialogs : public Dialogs {
   public:
     BoxAnswer Show(const MessageBox& box) override;
+    void ShowModal(Window& window) override;
     bool AskFile(const FileRequest& request, Text& chosen) override;
 
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> fileRequests;
     /// Answers of the next boxes, whatever they ask.
     std::deque<BoxAnswer> answers;
+    /// Works with a window that is shown; without it the window is closed at once.
+    std::function<void(Window&)> onWindow;
     /// Names that the next file dialogs give; none left means Cancel.
     std::deque<Text> files;
 };
@@ -60,6 +63,12 @@ class SilentStatus : public StatusObserver {
     void StatusChanged() override {}
 };
 
+class TestMachine : public Machine {
+  public:
+    std::uint64_t Memory() override { return memory; }
+    std::uint64_t memory = std::uint64_t{1} << 34;
+};
+
 /// All ports of one application without a screen.
 struct TestPorts {
     ScriptedDialogs dialogs;
@@ -68,7 +77,8 @@ struct TestPorts {
     MemoryFiles files;
     TestFolders folders;
     SilentStatus status;
-    Ports All() { return {dialogs, clock, events, files, folders, status}; }
+    TestMachine machine;
+    Ports All() { return {dialogs, clock, events, files, folders, status, machine}; }
 };
 
 /// A started application. `log` of the error trail is "/data/SwiftRoll/SwiftRoll.log".
@@ -83,6 +93,8 @@ struct TestMain : TestPorts {
 
 /// The rows of a table, cells joined by "|", in their present order.
 std::vector<Text> RowsOf(Table& table);
+/// Rows to compare with them.
+inline std::vector<Text> Rows(std::initializer_list<TextView> rows) { return {rows.begin(), rows.end()}; }
 /// One row, cells joined by "|".
 Text RowText(const Row& row);
 /// `text` with "\n" as "\r\n".

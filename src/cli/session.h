@@ -1,0 +1,64 @@
+#pragma once
+
+#include "console.h"
+#include "platform/machine.h"
+#include "platform/std_files.h"
+#include "platform/system_clock.h"
+#include "platform/user_folders.h"
+
+namespace swiftroll::cli {
+
+/// The name that means standard output.
+inline constexpr TextView kStandardOutput = "-";
+
+/// The files of the machine, and "-" for standard output.
+class CliFiles : public platform::StdFiles {
+  public:
+    std::unique_ptr<File> Open(TextView name, Mode mode) override;
+    bool Exists(TextView name) override { return name != kStandardOutput && StdFiles::Exists(name); }
+};
+
+/// One life of the application, and what all jobs do with it.
+struct Session {
+    explicit Session(const Arguments& theArguments);
+
+    /// The tables of the command line; the list is computed with the read when it is one of them.
+    /// @throws UsageError
+    std::vector<Table*> TablesToPrint();
+    /// Prints a line that tells why the job failed.
+    void Refuse(TextView why);
+    /// Whether an output may be written: it is none of the files that are read, and new or to be overwritten.
+    bool MayWrite(TextView output);
+    /// Marks an individual in both ways; false, and it is told, when there is none.
+    bool Mark(const std::string& id);
+    /// Prints the tables into a file, or tells that it could not be written.
+    void Print(const std::vector<Table*>& tables, bool withKeys, TextView output);
+    /// Whether the user, or a limit, stopped what ran last.
+    bool IsStopped() const;
+
+    const Arguments& arguments;
+    HeadlessDialogs dialogs;
+    platform::SystemClock clock;
+    InterruptPump pump;
+    CliFiles files;
+    platform::UserFolders folders;
+    platform::ThisMachine machine;
+    TerminalProgress progress;
+    frmMain main;
+    bool failed = false;
+    bool stopped = false;
+};
+
+/// What a run does beside reading the file.
+class Job {
+  public:
+    virtual ~Job() = default;
+    /// Looks at the arguments, and sets what they tell. @throws UsageError
+    virtual void Prepare(Session& session) = 0;
+    /// Whether the outputs may be written; nothing was read yet.
+    virtual bool MayRun(Session&) { return true; }
+    /// The work after the read.
+    virtual void Do(Session& session) = 0;
+};
+
+}  // namespace swiftroll::cli

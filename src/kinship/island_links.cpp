@@ -1,0 +1,102 @@
+#include "kinship/island_links.h"
+
+#include "tables/column_numbers.h"
+#include "tables/text_copier.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modKinship {
+namespace {
+
+constexpr std::int32_t kStatusStep = 1000;
+constexpr std::int32_t kLookAhead = 16;
+constexpr TextView kStatus = "Simplification de l'arbre... : ";
+
+}  // namespace
+
+bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
+    Table& links = app.lvwXref;
+    app.lvwXref1.SetSorted(false);
+    app.lvwXref1.Clear();
+    app.ProgressBar1.Set(0);
+    progress = {};
+    const std::int32_t lNrXref = links.Count();
+    const std::uint32_t clearings = links.Clearings();
+    TextCopier copier(links.Store(), app.lvwXref1.Store());
+    std::optional<TextRef> previousId;
+    bool isInIsland = false;
+    for (std::int32_t& r = ++progress.row; r <= lNrXref; ++r) {
+        if (r % kStatusStep == 0) {
+            app.pnlMessage.Set(
+                Concat({kStatus, Decimal(progress.copied), "/", Decimal(lNrXref), " lien(s) copié(s)"_t}));
+            app.ProgressBar1.Show(r, lNrXref);
+            app.ports.events.Yield();
+            if (app.bAbort) return false;
+            if (links.Clearings() != clearings) ThrowIndexOutOfRange();
+        }
+        links.Prefetch(r + kLookAhead);
+        const Row link = links.Item(r);
+        const TextRef id = link.Ref(Xref::IDIndi1);
+        if (id != previousId) {
+            const auto person = app.lvwIn.Find(RowKey(id));
+            isInIsland = person && person->Cell(In::IslandNr) == sIslandNr;
+            previousId = id;
+        }
+        if (!isInIsland) continue;
+        ++progress.copied;
+        const TextRef from = copier.Copy(id), to = copier.Copy(link.Ref(Xref::IDIndi2));
+        Row copy = app.lvwXref1.Add(std::nullopt, RowKey(from, to), from);
+        copy.SetCell(Xref1::Type, copier.Copy(link.Ref(Xref::Type)));
+        copy.SetCell(Xref1::Indi2, to);
+        copy.SetCell(Xref1::IDFamily, copier.Copy(link.Ref(Xref::IDFamily)));
+        copy.SetCell(Xref1::Family, copier.Copy(link.Ref(Xref::Family)));
+    }
+    app.pnlMessage.Set(
+        Concat({kStatus, Decimal(lNrXref - progress.copied), " éliminés / "_t, Decimal(lNrXref)}));
+    return true;
+}
+
+IslandGraph::IslandGraph(Application& app) : app_(app) {
+    Table& links = app.lvwXref1;
+    links.SortBy(0, 0);
+    nodeOfSymbol_.assign(links.Store().InternedCount(), kNobody);
+    std::vector<std::int32_t> firstLinks, targets;
+    // Every identifier in the first column has a row in lvwIn, or it would not have been copied.
+    const auto addNode = [&](TextRef id, const Row& person) {
+        nodeOfSymbol_[id.Symbol()] = static_cast<std::int32_t>(ids.size());
+        ids.push_back(person.Ref(In::ID));
+    };
+    TextRef previousId;
+    for (std::int32_t i = 1; i <= links.Count(); ++i) {
+        const TextRef id = links.Item(i).Ref(Xref1::Indi1);
+        if (id == previousId) continue;
+        addNode(id, app.lvwIn.Item(links.Store().Get(id)));
+        firstLinks.push_back(i - 1);
+        previousId = id;
+    }
+    // A file that contradicts itself may link to a person from whom no link leaves.
+    for (std::int32_t i = 1; i <= links.Count(); ++i) {
+        const TextRef id = links.Item(i).Ref(Xref1::Indi2);
+        if (id.IsEmpty() || nodeOfSymbol_[id.Symbol()] != kNobody) continue;
+        const auto person = app.lvwIn.Find(links.Store().Get(id));
+        if (person) addNode(id, *person);
+    }
+    firstLinks.resize(ids.size() + 1, links.Count());
+    targets.reserve(static_cast<std::size_t>(links.Count()));
+    for (std::int32_t i = 1; i <= links.Count(); ++i) {
+        const TextRef id = links.Item(i).Ref(Xref1::Indi2);
+        targets.push_back(id.IsEmpty() ? kNobody : nodeOfSymbol_[id.Symbol()]);
+    }
+    graph = LinkGraph(std::move(firstLinks), std::move(targets));
+}
+
+std::int32_t IslandGraph::NodeOf(TextView sId) const {
+    const TextRef id = app_.lvwXref1.Store().FindInterned(sId);
+    const std::int32_t node =
+        id.IsEmpty() ? kNobody : At(nodeOfSymbol_, static_cast<std::int32_t>(id.Symbol()));
+    if (node == kNobody) throw Failure(FailureKind::KeyNotFound, sId);
+    return node;
+}
+
+}  // namespace swiftroll::modKinship

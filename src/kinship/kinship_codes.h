@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/application.h"
+
+namespace swiftroll::modKinship {
+
+/// What a drawing makes of each row of a path: a way down to a child ("P", "p" right after a turn), a way up
+/// to a parent ("E", "e" where the row after it turns down to a child of the same couple), a couple of one to
+/// three cells ("C1" to "C3"), and nothing for the last row.
+struct KinshipCodes {
+    /// First and last row of the drawing, in the present order of `lvwKinship`, from 1.
+    std::int32_t lFirst = 0;
+    std::int32_t lLast = 0;
+    /// The code of a row; empty for every row that is not drawn.
+    TextView Of(std::int32_t row) const;
+
+    std::vector<TextView> asCode;  // from lFirst on
+};
+
+/// Puts `lvwKinship` in the order of `SeqNr` and gives the codes of a path from the row `lRow` on, which need
+/// not be its first. Beside spouses, `bSpouses`, couples are wider. A row whose type shows no way forward,
+/// "ALIA" for one, ends the drawing.
+/// @throws Failure when there is no such row
+KinshipCodes MakeKinshipCodes(Application& app, std::int32_t lRow, bool bSpouses);
+
+/// The other spouse of a family: the wife of a man, the husband of a woman. "UnknownID" when none is known;
+/// empty after a failure, which is reported.
+Text GetSpouseID(Application& app, TextView sIndiID, TextView sFamID);
+
+}  // namespace swiftroll::modKinship

@@ -1,0 +1,145 @@
+#include "kinship/out_link.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "kinship/relations.h"
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modKinship {
+namespace {
+
+constexpr std::size_t kNumberDigits = 6;
+constexpr TextView kSeparator = "999999";
+
+/// The number at the beginning of a text; 0 when there is none.
+std::int32_t LeadingNumber(TextView text) {
+    std::int64_t number = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9') break;
+        number = std::min<std::int64_t>(number * 10 + (c - '0'), std::numeric_limits<std::int32_t>::max());
+    }
+    return static_cast<std::int32_t>(number);
+}
+
+}  // namespace
+
+PathWriter::PathWriter(Application& app, const IslandGraph& island, const PathCore& core)
+    : app_(app),
+      island_(island),
+      core_(core),
+      store_(app.lvwKinship.Store()),
+      linkTexts_(static_cast<std::size_t>(core.graph.LinkCount())),
+      personTexts_(static_cast<std::size_t>(core.graph.NodeCount())) {}
+
+const PathWriter::LinkTexts& PathWriter::TextsOfLink(std::int32_t link) {
+    LinkTexts& texts = At(linkTexts_, link);
+    if (texts.Type.IsEmpty()) {
+        const Row row = app_.lvwXref1.Item(At(core_.links, link) + 1);
+        texts = {store_.Intern(row.Cell(Xref1::Type)), store_.Intern(row.Cell(Xref1::IDFamily)),
+                 store_.Intern(row.Cell(Xref1::Family))};
+    }
+    return texts;
+}
+
+const PathWriter::PersonTexts& PathWriter::TextsOfPerson(std::int32_t node) {
+    PersonTexts& texts = At(personTexts_, node);
+    if (texts.IDIndi.IsEmpty()) {
+        const Row row = app_.lvwIn.Item(app_.lvwIn.Store().Get(At(island_.ids, At(core_.nodes, node))));
+        texts = {store_.Intern(row.Cell(In::ID)),
+                 store_.Intern(Concat({row.Cell(In::LastName), ", ", row.Cell(In::FirstName)}))};
+    }
+    return texts;
+}
+
+/// The type of two links of one family as one; empty when the individual between has a row of his own.
+TextRef PathWriter::Folded(const LinkTexts& first, const LinkTexts& second) {
+    if (first.IDFamily != second.IDFamily) return {};
+    const auto type = FoldedType(store_.Get(first.Type), store_.Get(second.Type));
+    return type ? store_.Intern(*type) : TextRef();
+}
+
+TextRef PathWriter::LineNumber(std::size_t lSeqNr) {
+    while (lineNumbers_.size() < lSeqNr) {
+        const auto number = static_cast<std::int64_t>(lineNumbers_.size()) + 1;
+        lineNumbers_.push_back(store_.Intern(Decimal(number, kNumberDigits)));
+    }
+    return lineNumbers_[lSeqNr - 1];
+}
+
+void PathWriter::Compose(std::span<const std::int32_t> links) {
+    lines_.clear();
+    nrSpouses_ = 0;
+    std::int32_t node = core_.from;
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        LinkTexts link = TextsOfLink(links[i]);
+        const PersonTexts& person = TextsOfPerson(node);
+        if (i + 1 < links.size()) {
+            const LinkTexts& next = TextsOfLink(links[i + 1]);
+            const TextRef folded = Folded(link, next);
+            if (!folded.IsEmpty()) {
+                link = {folded, next.IDFamily, next.Family};
+                ++i;
+            }
+        }
+        if (RelationOf(store_.Get(link.Type)) == Relation::Spouse) ++nrSpouses_;
+        lines_.push_back({person, link});
+        node = core_.graph.Target(links[i]);
+    }
+    lines_.push_back({TextsOfPerson(node), {}});
+}
+
+bool PathWriter::IsHidden() const {
+    const auto exceeds = [](const CheckBox& check, const TextBox& limit, std::size_t count) {
+        return check.Checked() && count > static_cast<std::size_t>(LeadingNumber(limit.Get()));
+    };
+    return exceeds(app_.chkMaxSpouses, app_.txtMaxSpouses, static_cast<std::size_t>(nrSpouses_)) ||
+           exceeds(app_.chkMaxLinks, app_.txtMaxLinks, lines_.size());
+}
+
+void PathWriter::Widen(std::int16_t column, std::size_t length) {
+    std::int32_t& width = app_.lMaxLenKinship[column];
+    width = std::max(width, static_cast<std::int32_t>(length));
+}
+
+bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> links) {
+    Compose(links);
+    const Text pathNumber = Decimal(lNrLinks, kNumberDigits) + "-";
+    Widen(Kinship::SeqNr, pathNumber.size() + store_.Get(LineNumber(lines_.size())).size());
+    for (const Line& line : lines_) {
+        Widen(Kinship::IDIndi, store_.Get(line.person.IDIndi).size());
+        Widen(Kinship::Indi, store_.Get(line.person.Indi).size());
+        Widen(Kinship::Type, store_.Get(line.link.Type).size());
+        Widen(Kinship::IDFamily, store_.Get(line.link.IDFamily).size());
+        Widen(Kinship::Family, store_.Get(line.link.Family).size());
+    }
+    if (IsHidden()) return false;
+
+    const TextRef path = store_.Intern(pathNumber);
+    const TextRef nrSpouses = store_.Intern(Decimal(nrSpouses_, 3));
+    const TextRef nrLink = store_.Intern(Decimal(static_cast<std::int64_t>(lines_.size()), 4));
+    Text seqNr;
+    const auto addRow = [&](TextRef key, TextView number) {
+        seqNr.assign(pathNumber).append(number);
+        Row row = app_.lvwKinship.Add(std::nullopt, key.IsEmpty() ? RowKey() : RowKey(path, key),
+                                      store_.Put(seqNr));
+        row.SetCell(Kinship::NrSpouses, nrSpouses);
+        row.SetCell(Kinship::NrLink, nrLink);
+        return row;
+    };
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const TextRef number = LineNumber(i + 1);
+        Row row = addRow(number, store_.Get(number));
+        row.SetCell(Kinship::IDIndi, lines_[i].person.IDIndi);
+        row.SetCell(Kinship::Indi, lines_[i].person.Indi);
+        row.SetCell(Kinship::Type, lines_[i].link.Type);
+        row.SetCell(Kinship::IDFamily, lines_[i].link.IDFamily);
+        row.SetCell(Kinship::Family, lines_[i].link.Family);
+    }
+    SetMaxLen(addRow({}, kSeparator), app_.lMaxLenKinship);
+    return true;
+}
+
+}  // namespace swiftroll::modKinship

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/application.h"
+
+namespace swiftroll::modKinship {
+
+/// The search for all kinship paths between two individuals, and what the last one found.
+class Search {
+  public:
+    explicit Search(Application& app) : app_(app) {}
+
+    /// The two individuals, first name and surname in capitals, and the titles made of them.
+    Text sKinshipFrom, sKinshipTo, sKinshipPair, sKinshipTitle;
+    /// Names the pair of two rows of lvwIn. @throws Failure IndexOutOfRange
+    void SetPair(std::int32_t lFrom, std::int32_t lTo);
+
+    /// Fills `lvwKinship` with all paths from the `lvwIn` row `lFrom` to the row `lTo` of the island
+    /// `sIslandNr`, ordered by the marriages they cross and then by length. `bAbort` ends it, and so does the
+    /// row limit of the machine; what was found stays. A failure is reported and ends the search.
+    void FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo);
+
+    /// Whether a search is running now.
+    bool IsRunning() const { return isRunning_; }
+    /// The row limit that ended the last search, 0 when none did.
+    std::int32_t RowLimitReached() const { return rowLimitReached_; }
+
+    /// Paths found, and how many of them the options hide.
+    std::int64_t lNrLinks = 0, lNrHidden = 0;
+    /// Individuals entered by the walk.
+    std::int64_t lNrCalls = 0;
+    /// Links that the simplification removed.
+    std::int32_t lRemovedPaths = 0;
+
+  private:
+    class Walker;
+    void Walk(TextView sFromId, TextView sToId, const char*& step);
+    void SortPaths();
+
+    Application& app_;
+    bool isRunning_ = false;
+    std::int32_t rowLimitReached_ = 0;
+};
+
+/// The most rows that `lvwKinship` may have on a machine with this memory in bytes: half of the memory is
+/// left to everything else.
+std::int32_t RowLimit(std::uint64_t memory);
+
+}  // namespace swiftroll::modKinship

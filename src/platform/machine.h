@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/ports.h"
+
+namespace swiftroll::platform {
+
+/// The machine that the program runs on.
+class ThisMachine : public Machine {
+  public:
+    /// The physical memory, or less where the system limits the program.
+    std::uint64_t Memory() override;
+};
+
+}  // namespace swiftroll::platform

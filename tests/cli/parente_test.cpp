@@ -1,0 +1,118 @@
+// The job "parente".
+#include "cli/run_cli.h"
+
+namespace swiftroll::test {
+namespace {
+
+struct Parente : CliTest {};
+
+TEST_F(Parente, PrintsThePathsOfThePair) {
+    const Outcome run = Cli({"parente", "f.ged", "@I3@", "@I2@"});
+    EXPECT_EQ(run.code, 0);
+    const Strings lines = run.Lines();
+    ASSERT_EQ(lines.size(), 4u);
+    EXPECT_EQ(lines[0], "SeqNr\tIDIndi\tIndi\tType\tIDFamily\tFamily\tNrSpouses\tNrLink");
+    EXPECT_TRUE(lines[1].starts_with("000001-000001\t@I3@\tDE LA COUR, Luc\tEnfant\t@F1@\t")) << lines[1];
+    EXPECT_TRUE(lines[2].starts_with("000001-000002\t@I2@\t")) << lines[2];
+    EXPECT_EQ(run.err,
+              "Ligne(s) GEDCOM : 29\n3 Individu(s)\n1 Famille(s)\n1 liens de parenté trouvé(s) au total.\n");
+    // Whatever is marked, and whatever the order of the rows.
+    const Outcome other = Cli({"parente", "f.ged", "@I2@", "@I3@", "--marquer", "@I1@", "-q"});
+    EXPECT_EQ(other.code, 0);
+    EXPECT_TRUE(other.Lines().at(1).starts_with("000001-000001\t@I2@\t"));
+    EXPECT_EQ(other.err, "");
+}
+
+TEST_F(Parente, WritesTheTablesAskedFor) {
+    EXPECT_EQ(Cli({"parente", "f.ged", "@I3@", "@I2@", "-t", "lvwKinship,lvwXref1", "-o", "liste.tsv"}).code,
+              0);
+    const std::string list = Bytes("liste.tsv");
+    EXPECT_TRUE(list.starts_with("# lvwKinship\nSeqNr\t"));
+    EXPECT_NE(list.find("# lvwXref1\nIndi1\tType\tIndi2\tIDFamily\tFamily\n@I1@\tEpoux\t@I2@\t@F1@\t"),
+              std::string::npos)
+        << list;
+    const Outcome again = Cli({"parente", "f.ged", "@I3@", "@I1@", "-o", "liste.tsv"});
+    EXPECT_EQ(again.code, 1);
+    EXPECT_TRUE(again.Says("liste.tsv existe déjà"));
+    EXPECT_EQ(Bytes("liste.tsv"), list);
+    EXPECT_EQ(Cli({"parente", "f.ged", "@I3@", "@I1@", "-o", "f.ged", "-f"}).code, 1);
+    EXPECT_EQ(Cli({"parente", "f.ged", "@I3@", "@I1@", "-o", "liste.tsv", "-f"}).code, 0);
+    EXPECT_NE(Bytes("liste.tsv"), list);
+    const Outcome nowhere = Cli({"parente", "f.ged", "@I3@", "@I1@", "-o", "no/where"});
+    EXPECT_EQ(nowhere.code, 1);
+    EXPECT_TRUE(nowhere.Says("no/where"));
+}
+
+TEST_F(Parente, RefusesWhatIsNoPairWithTheBoxOfTheRequest) {
+    Put("two.ged", kFamily.substr(0, kFamily.find("0 TRLR")) + "0 @I4@ INDI\r\n0 TRLR\r\n");
+    for (const std::string id : {"@I2@", "@I4@"}) {
+        const Outcome run = Cli({"parente", "two.ged", "@I2@", id});
+        EXPECT_EQ(run.code, 1);
+        EXPECT_EQ(run.out, "");
+        EXPECT_TRUE(run.Says("SwiftRoll (v3.4.0) - Parenté : Il faut spécifier les 2 individus")) << run.err;
+        EXPECT_TRUE(run.Says(id == "@I2@" ? "  1 Individu(s) En Surbrillance ET Cochés"
+                                          : "  2 Individu(s) En Surbrillance ET Cochés"))
+            << run.err;
+    }
+    const Outcome unknown = Cli({"parente", "f.ged", "@I2@", "@I9@"});
+    EXPECT_EQ(unknown.code, 1);
+    EXPECT_TRUE(unknown.Says("@I9@"));
+    const Outcome without = Cli({"parente", "f.ged", "@I2@", "@I3@", "--sans-familles"});
+    EXPECT_EQ(without.code, 1);
+    EXPECT_EQ(without.out, "");
+    EXPECT_TRUE(without.Says("--sans-familles"));
+}
+
+TEST_F(Parente, StopsAtItsLimitsAndKeepsWhatItFound) {
+    const auto paths = [](const Outcome& run) {
+        std::size_t count = 0;
+        for (const std::string& line : run.Lines())
+            count += line.find("-999999\t") != std::string::npos ? 1u : 0u;
+        return count;
+    };
+    // The last path there is, too, is one too many.
+    const Outcome only = Cli({"parente", "f.ged", "@I3@", "@I2@", "--max", "1"});
+    EXPECT_EQ(only.code, 3);
+    EXPECT_EQ(paths(only), 1u);
+    EXPECT_EQ(Cli({"parente", "f.ged", "@I3@", "@I2@", "--max", "2", "--delai", "60"}).code, 0);
+    // Two rows of people, everybody linked by marriage to the one beside and by descent to the one below.
+    std::string crowd;
+    constexpr int kGenerations = 40;
+    for (int i = 0; i <= kGenerations; ++i) {
+        const std::string n = std::to_string(i), next = std::to_string(i + 1);
+        crowd += "0 @M" + n + "@ INDI\n1 SEX M\n0 @W" + n + "@ INDI\n1 SEX F\n";
+        crowd += "0 @F" + n + "@ FAM\n1 HUSB @M" + n + "@\n1 WIFE @W" + n + "@\n";
+        if (i < kGenerations) crowd += "1 CHIL @M" + next + "@\n1 CHIL @W" + next + "@\n";
+    }
+    Put("many.ged", crowd + "0 TRLR\n");
+    const Outcome some = Cli({"parente", "many.ged", "@M0@", "@W40@", "--max", "25"});
+    EXPECT_EQ(some.code, 3);
+    EXPECT_EQ(paths(some), 25u);
+    EXPECT_TRUE(some.Says("25 liens de parenté trouvé(s) au total."));
+    const Outcome hidden = Cli({"parente", "many.ged", "@M0@", "@W40@", "--max", "25", "--set",
+                                "chkMaxLinks=1", "--set", "txtMaxLinks=41"});
+    EXPECT_EQ(hidden.code, 3);
+    EXPECT_TRUE(hidden.Says(" non affiché(s).")) << hidden.err;
+    const Outcome timed = Cli({"parente", "many.ged", "@M0@", "@W40@", "--delai", "0.05", "-o", "k.tsv"});
+    EXPECT_EQ(timed.code, 3);
+    EXPECT_TRUE(Bytes("k.tsv").starts_with("SeqNr\t"));
+}
+
+TEST_F(Parente, UsageErrorsNameTheirCause) {
+    for (const auto& [words, cause] : std::initializer_list<std::pair<Strings, std::string>>{
+             {{"f.ged", "@I1@"}, "identifiants"},
+             {{"f.ged", "@I1@", "@I2@", "--max", "0"}, "--max"},
+             {{"f.ged", "@I1@", "@I2@", "--max", "1x"}, "--max"},
+             {{"f.ged", "@I1@", "@I2@", "--delai", "nan"}, "--delai"},
+             {{"f.ged", "@I1@", "@I2@", "--delai", "-1"}, "--delai"},
+             {{"f.ged", "@I1@", "@I2@", "--dessin", "x.html"}, "--dessin"},
+             {{"f.ged", "@I1@", "@I2@", "-t", "lvwFoo"}, "lvwFoo"}}) {
+        const Outcome run = Cli(Strings{"parente"} + words);
+        EXPECT_EQ(run.code, 2) << run.err;
+        EXPECT_TRUE(run.Says(cause)) << run.err;
+        EXPECT_EQ(run.out, "");
+    }
+}
+
+}  // namespace
+}  // namespace swiftroll::test
