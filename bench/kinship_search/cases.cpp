@@ -14,77 +14,81 @@ namespace {
 using swiftroll::Text;
 using swiftroll::TextRef;
 
-People Unlinked(std::int32_t count) { return People(static_cast<std::size_t>(count)); }
-
-void Link(People& people, std::int32_t a, std::int32_t b) {
-    people[static_cast<std::size_t>(a)].push_back(b);
-    people[static_cast<std::size_t>(b)].push_back(a);
+/// People without links, the last of whom is the one to find.
+Graph Unlinked(std::int32_t count) {
+    return {std::vector<std::vector<std::int32_t>>(static_cast<std::size_t>(count)), count - 1};
 }
 
-void LinkAll(People& people, std::int32_t first, std::int32_t count) {
+void Link(Graph& graph, std::int32_t a, std::int32_t b) {
+    graph.links[static_cast<std::size_t>(a)].push_back(b);
+    graph.links[static_cast<std::size_t>(b)].push_back(a);
+}
+
+void LinkAll(Graph& graph, std::int32_t first, std::int32_t count) {
     for (std::int32_t a = first; a < first + count; ++a) {
-        for (std::int32_t b = a + 1; b < first + count; ++b) Link(people, a, b);
+        for (std::int32_t b = a + 1; b < first + count; ++b) Link(graph, a, b);
     }
 }
 
 }  // namespace
 
-People Ladder(std::int32_t rungs) {
-    People people = Unlinked(2 * rungs);
+Graph Ladder(std::int32_t rungs) {
+    Graph graph = Unlinked(2 * rungs);
     for (std::int32_t i = 0; i < rungs; ++i) {
-        Link(people, 2 * i, 2 * i + 1);
+        Link(graph, 2 * i, 2 * i + 1);
         for (std::int32_t side = 0; i + 1 < rungs && side < 2; ++side)
-            Link(people, 2 * i + side, 2 * i + 2 + side);
+            Link(graph, 2 * i + side, 2 * i + 2 + side);
     }
-    return people;
+    return graph;
 }
 
-People Grid(std::int32_t width, std::int32_t height) {
-    People people = Unlinked(width * height);
+Graph Grid(std::int32_t width, std::int32_t height) {
+    Graph graph = Unlinked(width * height);
     for (std::int32_t y = 0; y < height; ++y) {
         for (std::int32_t x = 0; x < width; ++x) {
             const std::int32_t here = y * width + x;
-            if (x + 1 < width) Link(people, here, here + 1);
-            if (y + 1 < height) Link(people, here, here + width);
+            if (x + 1 < width) Link(graph, here, here + 1);
+            if (y + 1 < height) Link(graph, here, here + width);
         }
     }
-    return people;
+    return graph;
 }
 
-People Cliques(std::int32_t groups, std::int32_t size) {
+Graph Cliques(std::int32_t groups, std::int32_t size) {
     const std::int32_t chain = groups * size;
-    People people = Unlinked(chain + size);
+    Graph graph = Unlinked(chain + size);
+    graph.to = chain - 1;
     const std::int32_t middle = groups / 2 * size;
     // The way that leads nowhere is tried first.
-    Link(people, middle, chain);
-    Link(people, middle + 1, chain + 1);
-    LinkAll(people, chain, size);
+    Link(graph, middle, chain);
+    Link(graph, middle + 1, chain + 1);
+    LinkAll(graph, chain, size);
     for (std::int32_t group = 0; group < groups; ++group) {
         const std::int32_t first = group * size;
-        LinkAll(people, first, size);
+        LinkAll(graph, first, size);
         for (std::int32_t i = 0; group + 1 < groups && i < 2; ++i)
-            Link(people, first + size - 1 - i, first + size + i);
+            Link(graph, first + size - 1 - i, first + size + i);
     }
-    return people;
+    return graph;
 }
 
-People Chain(std::int32_t generations) {
-    People people = Unlinked(generations);
-    for (std::int32_t i = 0; i + 1 < generations; ++i) Link(people, i, i + 1);
-    return people;
+Graph Chain(std::int32_t generations) {
+    Graph graph = Unlinked(generations);
+    for (std::int32_t i = 0; i + 1 < generations; ++i) Link(graph, i, i + 1);
+    return graph;
 }
 
-People Complete(std::int32_t size) {
-    People people = Unlinked(size);
-    LinkAll(people, 0, size);
-    return people;
+Graph Complete(std::int32_t size) {
+    Graph graph = Unlinked(size);
+    LinkAll(graph, 0, size);
+    return graph;
 }
 
-void Fill(swiftroll::frmMain& main, const People& people) {
+void Fill(swiftroll::frmMain& main, const Graph& graph) {
     swiftroll::TextStore& store = main.lvwIn.Store();
     std::vector<TextRef> ids;
     const TextRef island = store.Intern("0001");
-    for (std::size_t i = 0; i < people.size(); ++i) {
+    for (std::size_t i = 0; i < graph.links.size(); ++i) {
         ids.push_back(store.Intern("@I" + std::to_string(i) + "@"));
         swiftroll::Row row = main.lvwIn.Add(std::nullopt, swiftroll::RowKey(ids.back()), ids.back());
         row.SetCell(swiftroll::In::LastName, "N" + std::to_string(i));
@@ -92,8 +96,8 @@ void Fill(swiftroll::frmMain& main, const People& people) {
     }
     swiftroll::modReadGedcom::Links links(main);
     const swiftroll::modReadGedcom::LinkWords& words = links.Words();
-    for (std::size_t a = 0; a < people.size(); ++a) {
-        for (const std::int32_t neighbour : people[a]) {
+    for (std::size_t a = 0; a < graph.links.size(); ++a) {
+        for (const std::int32_t neighbour : graph.links[a]) {
             const auto b = static_cast<std::size_t>(neighbour);
             const TextRef family = store.Intern("@F" + std::to_string(std::min(a, b)) + "@");
             links.AddXrefXRef(ids[a], a < b ? words.Father : words.Son, ids[b], {}, {}, family, family);

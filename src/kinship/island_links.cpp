@@ -23,7 +23,7 @@ bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
     progress = {};
     const std::int32_t lNrXref = links.Count();
     const std::uint32_t clearings = links.Clearings();
-    TextCopier copier(links.Store(), app.lvwXref1.Store());
+    TextCopier copier(links.Store(), app.lvwXref1.Store(), TextCopier::Mode::Intern);
     std::optional<TextRef> previousId;
     bool isInIsland = false;
     for (std::int32_t& r = ++progress.row; r <= lNrXref; ++r) {

@@ -31,6 +31,7 @@ PathWriter::PathWriter(Application& app, const IslandGraph& island, const PathCo
       island_(island),
       core_(core),
       store_(app.lvwKinship.Store()),
+      copier_(app.lvwXref1.Store(), store_, TextCopier::Mode::Put),
       linkTexts_(static_cast<std::size_t>(core.graph.LinkCount())),
       personTexts_(static_cast<std::size_t>(core.graph.NodeCount())) {}
 
@@ -38,8 +39,8 @@ const PathWriter::LinkTexts& PathWriter::TextsOfLink(std::int32_t link) {
     LinkTexts& texts = At(linkTexts_, link);
     if (texts.Type.IsEmpty()) {
         const Row row = app_.lvwXref1.Item(At(core_.links, link) + 1);
-        texts = {store_.Intern(row.Cell(Xref1::Type)), store_.Intern(row.Cell(Xref1::IDFamily)),
-                 store_.Intern(row.Cell(Xref1::Family))};
+        texts = {copier_.Copy(row.Ref(Xref1::Type)), copier_.Copy(row.Ref(Xref1::IDFamily)),
+                 copier_.Copy(row.Ref(Xref1::Family))};
     }
     return texts;
 }
@@ -47,9 +48,11 @@ const PathWriter::LinkTexts& PathWriter::TextsOfLink(std::int32_t link) {
 const PathWriter::PersonTexts& PathWriter::TextsOfPerson(std::int32_t node) {
     PersonTexts& texts = At(personTexts_, node);
     if (texts.IDIndi.IsEmpty()) {
-        const Row row = app_.lvwIn.Item(app_.lvwIn.Store().Get(At(island_.ids, At(core_.nodes, node))));
-        texts = {store_.Intern(row.Cell(In::ID)),
-                 store_.Intern(Concat({row.Cell(In::LastName), ", ", row.Cell(In::FirstName)}))};
+        const auto found = app_.lvwIn.Find(RowKey(At(island_.ids, At(core_.nodes, node))));
+        if (!found) throw Failure(FailureKind::KeyNotFound);
+        const Row& row = *found;
+        texts = {store_.Put(row.Cell(In::ID)),
+                 store_.Put(Concat({row.Cell(In::LastName), ", ", row.Cell(In::FirstName)}))};
     }
     return texts;
 }

@@ -4,6 +4,7 @@
 
 #include "kinship/island_links.h"
 #include "kinship/path_core.h"
+#include "tables/text_copier.h"
 
 namespace swiftroll::modKinship {
 
@@ -43,6 +44,7 @@ class PathWriter {
     const IslandGraph& island_;
     const PathCore& core_;
     TextStore& store_;
+    TextCopier copier_;                     // from lvwXref1
     std::vector<LinkTexts> linkTexts_;      // by link of the core
     std::vector<PersonTexts> personTexts_;  // by node of the core
     std::vector<TextRef> lineNumbers_;      // six digits, by line number from 1
