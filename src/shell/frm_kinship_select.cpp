@@ -13,7 +13,7 @@ std::array<OptionButton, kReadings> Options(Window& window, std::index_sequence<
 }
 
 template <std::size_t... i>
-std::array<TextBox, 2 * kReadings> Boxes(Window& window, std::index_sequence<i...>) {
+std::array<TextBox, kSelectionBoxes> Boxes(Window& window, std::index_sequence<i...>) {
     return {TextBox(window, {"txtKinshipSelection", {}, {}, static_cast<int>(i) + 2}, {})...};
 }
 
@@ -25,7 +25,7 @@ Text Described(const Row& person) {
 
 frmKinshipSelect::frmKinshipSelect(Application& app)
     : optHighLightChecked(Options(*this, std::make_index_sequence<kReadings>())),
-      txtKinshipSelection(Boxes(*this, std::make_index_sequence<2 * kReadings>())),
+      txtKinshipSelection(Boxes(*this, std::make_index_sequence<kSelectionBoxes>())),
       chkInverted(*this, {"chkInverted", "Inversé"_t}, false),
       cmdInvertSelected(*this, {"cmdInvertSelected", "Inverser le sens de la recherche"_t,
                                 "Si la recherche de liens ne trouve toujours rien après un certain temps, "

@@ -7,6 +7,9 @@
 
 namespace swiftroll {
 
+/// Two boxes a reading.
+inline constexpr std::size_t kSelectionBoxes = std::size_t{2} * kReadings;
+
 /// The dialog in which the user settles the pair of a kinship request, without a screen. It offers the
 /// readings of the marks that name two individuals of one island.
 class frmKinshipSelect : public Window {
@@ -15,7 +18,7 @@ class frmKinshipSelect : public Window {
 
     // Arrays from index 1, and 2: a reading has two boxes.
     std::array<OptionButton, kReadings> optHighLightChecked;
-    std::array<TextBox, 2 * kReadings> txtKinshipSelection;
+    std::array<TextBox, kSelectionBoxes> txtKinshipSelection;
     CheckBox chkInverted;
     Command cmdInvertSelected;
     Command cmdOK, cmdCancel;
