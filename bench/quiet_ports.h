@@ -14,6 +14,8 @@ class QuietDialogs : public swiftroll::Dialogs {
     }
     void ShowModal(swiftroll::Window& window) override { window.Hide(); }
     bool AskFile(const FileRequest&, swiftroll::Text&) override { return false; }
+    bool AskColour(std::uint32_t&) override { return false; }
+    bool AskFont(swiftroll::CellFont&) override { return false; }
 };
 
 class QuietStatus : public swiftroll::StatusObserver {

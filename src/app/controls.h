@@ -214,6 +214,8 @@ class ColourButton : public Control {
     ColourButton(Window& window, const ControlTexts& texts, std::uint32_t colour)
         : Control(window, ControlKind::Colour, texts), colour_(colour) {}
     std::uint32_t Colour() const { return colour_; }
+    /// The user presses it to choose another colour.
+    Event OnClick;
     void SetColour(std::uint32_t colour) { colour_ = colour & 0xFFFFFFu; }
     /// Decimal, or hexadecimal behind "0x".
     void SetFromText(TextView text) override;
@@ -225,6 +227,7 @@ class ColourButton : public Control {
 class Label : public Control {
   public:
     Label(Window& window, const ControlTexts& texts) : Control(window, ControlKind::Label, texts) {}
+    Event OnDblClick;
 };
 
 /// A button or a menu entry.

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "app/cell_font.h"
 #include "text/text.h"
 
 namespace swiftroll {
@@ -13,7 +14,7 @@ enum class BoxIcon { None, Exclamation, Question };
 enum class BoxAnswer { Ok, Cancel, Yes, No };
 
 /// Which question a box asks, for presentations that answer by themselves.
-enum class BoxTopic { Message, Charset, LineError, Recalculation, WriteAllRows, OverwriteFile };
+enum class BoxTopic { Message, Charset, LineError, Recalculation, WriteAllRows, OverwriteFile, UnequalSizes };
 
 struct MessageBox {
     Text title;
@@ -43,6 +44,10 @@ class Dialogs {
     };
     /// Asks for a file; false when the user cancels, else `chosen` is the name.
     virtual bool AskFile(const FileRequest& request, Text& chosen) = 0;
+    /// Asks for a colour, 0x00BBGGRR, or for the font of drawings, beginning with the present one; false when
+    /// the user cancels.
+    virtual bool AskColour(std::uint32_t& colour) = 0;
+    virtual bool AskFont(CellFont& font) = 0;
 };
 
 /// A moment of local time.

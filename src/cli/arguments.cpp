@@ -1,6 +1,7 @@
 #include "arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <map>
@@ -73,6 +74,29 @@ Number Limit(const CLI::Option& option) {
     return number;
 }
 
+/// The place of a mode in the list of the drawing command. @throws UsageError
+int DrawingMode(const std::string& mode) {
+    const std::string modes[] = {"une", "une+", "toutes", "toutes+"};
+    if (mode.empty()) return 3;
+    const auto found = std::find(std::begin(modes), std::end(modes), mode);
+    if (found == std::end(modes)) throw UsageError("mode de dessin inconnu : " + mode);
+    return static_cast<int>(found - std::begin(modes));
+}
+
+/// @throws UsageError for options of a drawing that do not go together
+void CheckDrawing(const Arguments& arguments, bool hasMode) {
+    constexpr int kAll = 2;
+    const bool hasRows = !arguments.drawnRows.empty();
+    if (arguments.drawing.empty() && (hasMode || hasRows)) {
+        throw UsageError("--mode et --lignes demandent un dessin : --dessin SORTIE.html");
+    }
+    if (hasRows && arguments.drawingMode >= kAll)
+        throw UsageError("--lignes ne va qu'avec --mode une ou une+");
+    if (arguments.drawing == "-" && (arguments.output.empty() || arguments.output == "-")) {
+        throw UsageError("la liste et le dessin ne peuvent aller tous deux à l'écran : donnez -o LISTE");
+    }
+}
+
 std::string Joined(const std::vector<std::string>& words) {
     std::string joined;
     for (const std::string& word : words) joined += (joined.empty() ? "" : " ") + word;
@@ -119,7 +143,10 @@ Arguments ParseArguments(int argc, const char* const* argv) {
     std::string kinshipTables = "lvwKinship";
     parente.Sub().add_option("-t", kinshipTables);
     parente.Sub().add_option("-o", arguments.output);
-    std::string ignored;
+    std::string ignored, drawnRows, drawingMode;
+    parente.Sub().add_option("--dessin", arguments.drawing);
+    parente.Sub().add_option("--mode", drawingMode);
+    parente.Sub().add_option("--lignes", drawnRows);
     const CLI::Option* mostPaths = parente.Sub().add_option("--max", ignored);
     const CLI::Option* mostSeconds = parente.Sub().add_option("--delai", ignored);
 
@@ -146,6 +173,9 @@ Arguments ParseArguments(int argc, const char* const* argv) {
         arguments.tables = SplitList(kinshipTables);
         arguments.mostPaths = Limit<std::int64_t>(*mostPaths);
         arguments.mostSeconds = Limit<double>(*mostSeconds);
+        arguments.drawnRows = SplitList(drawnRows);
+        arguments.drawingMode = DrawingMode(drawingMode);
+        CheckDrawing(arguments, !drawingMode.empty());
     } else {
         throw UsageError("il manque le travail à faire : tables, releve ou parente");
     }
@@ -171,11 +201,14 @@ std::string HelpText() {
       écrit le Relevé-vif ; « -o - » l'envoie à l'écran. Sans --format, l'extension de SORTIE décide.
       --xsl écrit aussi la feuille de style à côté du XML, --marques n'écrit que les lignes marquées.
 
-  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--max N] [--delai SECONDES]
+  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--dessin SORTIE.html]
+                        [--mode une|une+|toutes|toutes+] [--lignes SEQ[,SEQ...]] [--max N] [--delai SECONDES]
       cherche tous les liens de parenté du premier individu au second, et affiche les chemins (lvwKinship),
       ou écrit les tables dans LISTE. --max arrête la recherche après N chemins, --delai après ce temps ; ce
       qui est trouvé est gardé et affiché. --set chkMaxLinks=1 --set txtMaxLinks=N ne garde que les chemins
       d'au plus N lignes, chkMaxSpouses et txtMaxSpouses ceux d'au plus N conjoints.
+      --dessin dessine ensuite tous les chemins (toutes, toutes+ avec les conjoints, qui est le défaut), ou
+      ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit).
 
   swiftroll-cli --aide | --version
 

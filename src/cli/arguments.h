@@ -41,6 +41,11 @@ struct Arguments {
     /// Number of paths, and seconds, after which the search ends; 0 for no limit.
     std::int64_t mostPaths = 0;
     double mostSeconds = 0;
+    /// The page of drawings, empty for none; the place of the mode in the list of the command, and the rows
+    /// to draw.
+    std::string drawing;
+    int drawingMode = 3;
+    std::vector<std::string> drawnRows;
     std::vector<Setting> settings;
     bool strict = false;
     bool overwrite = false;

@@ -41,6 +41,8 @@ BoxAnswer HeadlessDialogs::Show(const MessageBox& box) {
             return arguments_.markedOnly ? BoxAnswer::No : BoxAnswer::Yes;
         case BoxTopic::OverwriteFile:
             return arguments_.overwrite ? BoxAnswer::Yes : BoxAnswer::Cancel;
+        case BoxTopic::UnequalSizes:
+            return BoxAnswer::No;
         case BoxTopic::Recalculation:
         case BoxTopic::Message:
             break;

@@ -18,6 +18,8 @@ class HeadlessDialogs : public Dialogs {
     BoxAnswer Show(const MessageBox& box) override;
     /// There is nobody to ask: the window is closed at once.
     void ShowModal(Window& window) override { window.Hide(); }
+    bool AskColour(std::uint32_t&) override { return false; }
+    bool AskFont(CellFont&) override { return false; }
     bool AskFile(const FileRequest& request, Text& chosen) override;
 
     /// Whether the question of the recalculation is answered Yes.

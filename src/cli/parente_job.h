@@ -4,7 +4,7 @@
 
 namespace swiftroll::cli {
 
-/// Searches the kinship paths between two individuals and prints tables of them.
+/// Searches the kinship paths between two individuals, prints tables of them, and draws them.
 class ParenteJob : public Job {
   public:
     void Prepare(Session& session) override;
@@ -13,8 +13,9 @@ class ParenteJob : public Job {
 
   private:
     bool Search(Session& session);
+    bool MarkRows(Session& session);
     std::vector<Table*> tables_;
-    Text output_;
+    Text output_, drawing_;
 };
 
 }  // namespace swiftroll::cli

@@ -26,10 +26,8 @@ TextView KinshipCodes::Of(std::int32_t row) const {
 
 KinshipCodes MakeKinshipCodes(Application& app, std::int32_t lRow, bool bSpouses) {
     Table& paths = app.lvwKinship;
-    const Text sKey(paths.Item(lRow).Text());
-    paths.SortBy(0, 0);
     KinshipCodes codes;
-    codes.lFirst = paths.Item(sKey).Index();
+    codes.lFirst = lRow;
     std::vector<TextView>& asCode = codes.asCode;
     const auto typeAt = [&](std::int32_t row) { return RelationOf(paths.Item(row).Cell(Kinship::Type)); };
     const auto familyAt = [&](std::int32_t row) { return paths.Item(row).Cell(Kinship::IDFamily); };
@@ -63,7 +61,7 @@ Text GetSpouseID(Application& app, TextView sIndiID, TextView sFamID) {
             TextView spouse;
             if (sex == "M") spouse = family.Cell(Family::IDWife);
             if (sex == "F") spouse = family.Cell(Family::IDHusb);
-            return spouse.empty() ? Text("UnknownID") : Text(app.lvwIn.Item(spouse).Text());
+            return Text(app.lvwIn.Find(spouse) ? spouse : kUnknownID);
         },
         [&] {
             return Concat({sIndiID, "/", sFamID});

@@ -32,10 +32,21 @@ frmMain::frmMain(const Ports& applicationPorts)
                   {}, false),
       mnuFindPath(*this, {"mnuFindPath", "Recherche Parenté"_t}, {}, false),
       cmdSaveGed(*this, {"cmdSaveGed", "Ecrire"_t}, {}, false),
-      mnuDrawKinship(*this, {"mnuDrawKinship"}, {}, false),
+      mnuDrawKinship(*this, {"mnuDrawKinship", "Dessin des parentés"_t}, {}, false),
       cmdDrawKinship(*this, {"cmdDrawKinship", "Ecrire Toutes +"_t}, {}, false),
-      cmdCopyTitle2kinship(*this, {"cmdCopyTitle2kinship", ">"}, {}, false),
+      cmdCopyTitle2kinship(*this,
+                           {"cmdCopyTitle2kinship", ">",
+                            "Crée un nom de fichier qui indique les 2 individus qui sont apparentés."_t},
+                           {}, false),
       cmdPrintKinship(*this, {"cmdPrintKinship"}, {}, false),
+      mnuDrawKinshipOne(*this, {"mnuDrawKinshipOne", "Dessin Une Parenté (Simple)"_t}),
+      mnuDrawKinshipOneSpouse(*this, {"mnuDrawKinshipOneSpouse", "Dessin Une Parenté (avec conjoint)"_t}),
+      mnuDrawKinshipAll(*this, {"mnuDrawKinshipAll", "Dessin Toutes Parentés (Simple)"_t}),
+      mnuDrawKinshipAllSpouse(*this, {"mnuDrawKinshipAllSpouse", "Dessin Toutes Parentés (avec conjoint)"_t}),
+      cmdSelectDirKinship(*this, {"cmdSelectDirKinship", "..."}),
+      picTreeH(*this, {"picTreeH", {}, "Dessine les liens de parenté avec les ancêtres en haut."_t}),
+      picTreeV(*this, {"picTreeV", {}, "Dessine les liens de parenté avec les ancêtres à gauche."_t}),
+      cmdFont(*this, {"cmdFont", "Fonte..."}),
       modReadGedcom(*this),
       modKinship(*this),
       frmKinshipSelect(*this) {
@@ -45,6 +56,7 @@ frmMain::frmMain(const Ports& applicationPorts)
     BindFiles();
     BindOptionRules();
     BindKinship();
+    BindDrawing();
 }
 
 void frmMain::Form_Load(TextView sCommandLine) {
@@ -73,6 +85,7 @@ void frmMain::Form_Load(TextView sCommandLine) {
             step = "InitCombos";
             InitCombos();
             cboDrawKinship.SetListIndex(3);
+            txtFont_Change();
             InitIndexes();
             step = "EndInit";
             const Text file(Trim(ReplaceAll(sCommandLine, "\"", "")));

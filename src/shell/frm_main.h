@@ -30,6 +30,11 @@ class frmMain : public Application {
     // Commands that depend on what was read
     Command cmdFindPath, mnuFindPath, cmdSaveGed;
     Command mnuDrawKinship, cmdDrawKinship, cmdCopyTitle2kinship, cmdPrintKinship;
+    // Drawings
+    Command mnuDrawKinshipOne, mnuDrawKinshipOneSpouse, mnuDrawKinshipAll, mnuDrawKinshipAllSpouse;
+    Command cmdSelectDirKinship;
+    Command picTreeH, picTreeV;
+    Command cmdFont;
 
     /// Searches the kinship of two individuals by their identifiers, whatever is marked; refuses the same
     /// person twice, and two islands, as the command does; false then.
@@ -56,6 +61,7 @@ class frmMain : public Application {
     void BindFiles();
     void BindOptionRules();
     void BindKinship();
+    void BindDrawing();
 
     void AttachTips();
     void chkTips_Click();
@@ -74,6 +80,13 @@ class frmMain : public Application {
     void cmdFindPath_Click();
     void RefuseKinship(const KinshipChoices& choices);
     void FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step);
+
+    void DrawKinshipAll(bool bSpouses, bool bAll);
+    void DrawPaths(bool bSpouses, bool bAll);
+    bool CheckWidths();
+    void cmdCopyTitle2kinship_Click();
+    void cmdFont_Click();
+    void txtFont_Change();
 
     void cmdCalcOutput_Click();
     void cmdSaveSwift_Click();

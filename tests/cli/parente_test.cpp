@@ -105,7 +105,10 @@ TEST_F(Parente, UsageErrorsNameTheirCause) {
              {{"f.ged", "@I1@", "@I2@", "--max", "1x"}, "--max"},
              {{"f.ged", "@I1@", "@I2@", "--delai", "nan"}, "--delai"},
              {{"f.ged", "@I1@", "@I2@", "--delai", "-1"}, "--delai"},
-             {{"f.ged", "@I1@", "@I2@", "--dessin", "x.html"}, "--dessin"},
+             {{"f.ged", "@I1@", "@I2@", "--dessin", "-"}, "-o"},
+             {{"f.ged", "@I1@", "@I2@", "--dessin", "x.html", "--mode", "deux"}, "deux"},
+             {{"f.ged", "@I1@", "@I2@", "--dessin", "x.html", "--lignes", "000001-000001"}, "--lignes"},
+             {{"f.ged", "@I1@", "@I2@", "--mode", "une"}, "--dessin"},
              {{"f.ged", "@I1@", "@I2@", "-t", "lvwFoo"}, "lvwFoo"}}) {
         const Outcome run = Cli(Strings{"parente"} + words);
         EXPECT_EQ(run.code, 2) << run.err;

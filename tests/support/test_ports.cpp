@@ -29,6 +29,16 @@ bool ScriptedDialogs::AskFile(const FileRequest& request, Text& chosen) {
     return true;
 }
 
+bool ScriptedDialogs::AskColour(std::uint32_t& chosen) {
+    chosen = colour.value_or(chosen);
+    return colour.has_value();
+}
+
+bool ScriptedDialogs::AskFont(CellFont& chosen) {
+    chosen = font.value_or(chosen);
+    return font.has_value();
+}
+
 void TestMain::Read(TextView gedcom) {
     files.contents["in.ged"] = gedcom;
     main.cboGedIn.SetText("in.ged");

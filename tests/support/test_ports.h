@@ -16,6 +16,8 @@ class ScriptedDialogs : public Dialogs {
     BoxAnswer Show(const MessageBox& box) override;
     void ShowModal(Window& window) override;
     bool AskFile(const FileRequest& request, Text& chosen) override;
+    bool AskColour(std::uint32_t& colour) override;
+    bool AskFont(CellFont& font) override;
 
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> fileRequests;
@@ -25,6 +27,9 @@ class ScriptedDialogs : public Dialogs {
     std::function<void(Window&)> onWindow;
     /// Names that the next file dialogs give; none left means Cancel.
     std::deque<Text> files;
+    /// What the colour and font dialogs give; without it they are cancelled.
+    std::optional<std::uint32_t> colour;
+    std::optional<CellFont> font;
 };
 
 /// Sunday 22 November 2026, 14:05:09.

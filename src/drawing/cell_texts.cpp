@@ -1,0 +1,84 @@
+#include "drawing/cell_texts.h"
+
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/literal.h"
+
+namespace swiftroll::modKinshipOutput {
+namespace {
+
+constexpr TextView kIdBegins = "<p class=Right style=\"text-align: right\">", kIdEnds = "</p>";
+
+}  // namespace
+
+CellTexts::CellTexts(Application& app, const CellFont& font) : app_(app), font_(font), places_(app) {}
+
+Text CellTexts::IndividualInfos(TextView sID) const {
+    return app_.trail.Guard(
+        "IndividualInfos",
+        [&] {
+            const Row person = app_.lvwIn.Item(sID);
+            Text text =
+                Concat({font_.bold ? "<b>" : "", font_.underline ? "<u>" : "", font_.italic ? "<i>" : ""});
+            if (app_.optFullName.Index() == 0) text += Concat({person.Cell(In::FirstName), ", "});
+            text += UpperCase(person.Cell(In::LastName));
+            text +=
+                Concat({font_.italic ? "</i>" : "", font_.underline ? "</u>" : "", font_.bold ? "</b>" : ""});
+            AppendEvent(text, "<br>°"_t, app_.chkIndiBirthDate.Checked(), person.Cell(In::BirthMin),
+                        person.Cell(In::BirthMax), app_.chkIndiBirthPlace.Checked(),
+                        person.Cell(In::BirthPlace));
+            AppendEvent(text, "<br>+", app_.chkIndiDeathDate.Checked(), person.Cell(In::DeathMin),
+                        person.Cell(In::DeathMax), app_.chkIndiDeathPlace.Checked(),
+                        person.Cell(In::DeathPlace));
+            if (app_.chkIndiID.Checked()) text += Concat({kIdBegins, sID, kIdEnds});
+            return text;
+        },
+        [&] { return Text(sID); });
+}
+
+void CellTexts::AppendEvent(Text& text, TextView marker, bool withDate, TextView from, TextView to,
+                            bool withPlace, TextView place) const {
+    const bool hasDate = withDate && (!from.empty() || !to.empty());
+    const bool hasPlace = withPlace && !place.empty();
+    if (!hasDate && !hasPlace) return;
+    text += marker;
+    if (withDate) text += Concat({TakeDateFromTo(from, to), " "});
+    if (withPlace) text += Concat({" ", places_.Take1Place(place)});
+}
+
+Text CellTexts::FamilyInfos(TextView sFamID) const {
+    return app_.trail.Guard(
+        "FamilyInfos",
+        [&] {
+            const Row family = app_.lvwFamily.Item(sFamID);
+            const TextView from = family.Cell(Family::MarrMin), to = family.Cell(Family::MarrMax);
+            const TextView place = family.Cell(Family::MarrPlace);
+            const bool withDate = app_.chkMarrDate.Checked(), withPlace = app_.chkMarrPlace.Checked();
+            Text text;
+            if ((withDate && (!from.empty() || !to.empty())) || (withPlace && !place.empty())) {
+                text = "x ";
+                if (withDate && !from.empty()) text += Concat({TakeDateFromTo(from, to), " "});
+                if (withPlace) text += Concat({" ", places_.Take1Place(place)});
+            }
+            if (app_.chkMarrID.Checked()) text += Concat({kIdBegins, sFamID, kIdEnds});
+            return text;
+        },
+        [&] { return Text(sFamID); });
+}
+
+Text TakeDateFromTo(TextView sFrom, TextView sTo) {
+    const TextView from = sFrom.empty() ? "?" : sFrom, to = sTo.empty() ? "?" : sTo;
+    return from == to ? Text(from) : Concat({from, "-", to});
+}
+
+Text Long2Color(std::uint32_t lColor) {
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    Text colour = "#";
+    for (int i = 0; i < 3; ++i, lColor >>= 8) {
+        colour += kDigits[lColor >> 4 & 0xF];
+        colour += kDigits[lColor & 0xF];
+    }
+    return colour;
+}
+
+}  // namespace swiftroll::modKinshipOutput

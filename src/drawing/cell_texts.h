@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/application.h"
+#include "app/cell_font.h"
+#include "gedcom/places.h"
+
+namespace swiftroll::modKinshipOutput {
+
+/// What stands in the boxes and on the marriage lines of a drawing, as fragments of HTML, under the options
+/// of the moment at which this was made.
+class CellTexts {
+  public:
+    CellTexts(Application& app, const CellFont& font);
+
+    /// The text of the box of an individual by its key in `lvwIn`; empty after a failure, which is reported.
+    Text IndividualInfos(TextView sID) const;
+    /// The text of a marriage line by the key of the family in `lvwFamily`; empty when nothing is to be told,
+    /// or after a failure, which is reported.
+    Text FamilyInfos(TextView sFamID) const;
+
+  private:
+    void AppendEvent(Text& text, TextView marker, bool withDate, TextView from, TextView to, bool withPlace,
+                     TextView place) const;
+    Application& app_;
+    CellFont font_;
+    modReadGedcom::PlaceFormatter places_;
+};
+
+/// Two years as a range: one when they are the same, "?" for one that is missing.
+Text TakeDateFromTo(TextView sFrom, TextView sTo);
+
+/// A colour 0x00BBGGRR as a style sheet writes it: "#RRGGBB".
+Text Long2Color(std::uint32_t lColor);
+
+}  // namespace swiftroll::modKinshipOutput
