@@ -98,6 +98,40 @@ TEST_F(Parente, StopsAtItsLimitsAndKeepsWhatItFound) {
     EXPECT_TRUE(Bytes("k.tsv").starts_with("SeqNr\t"));
 }
 
+TEST_F(Parente, DrawsThePathsFound) {
+    const auto boxes = [&](const std::string& page) {
+        std::size_t count = 0;
+        for (const std::string& line : Split(Bytes(page), '\n'))
+            count += line.starts_with("<table class=Indiv") ? 1u : 0u;
+        return count;
+    };
+    const Strings pair{"parente", "f.ged", "@I3@", "@I2@", "-o", "k.tsv", "-f"};
+    const Outcome run = Cli(pair + Strings{"--dessin", "page.html"});
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_TRUE(run.Says("Inégalité")) << "the gap takes the size of the box, and that is told";
+    EXPECT_TRUE(run.Says(" : Terminé\n"));
+    EXPECT_EQ(boxes("page.html"), 3u) << "the child and both parents";
+    EXPECT_EQ(Cli(pair + Strings{"--dessin", "page.html", "--mode", "toutes", "-q"}).err,
+              "SwiftRoll (v3.4.0) - Fichier existant : Le fichier existe déjà\npage.html\n"
+              "Voulez-vous l'écraser ?\n");
+    EXPECT_EQ(boxes("page.html"), 2u);
+    EXPECT_EQ(Cli(pair + Strings{"--dessin", "page.html", "--mode", "une", "--lignes", "000001-000002"}).code,
+              0);
+    EXPECT_EQ(boxes("page.html"), 1u) << "from the last row on";
+    EXPECT_EQ(Cli(pair + Strings{"--dessin", "page.html", "--mode", "une+"}).code, 0);
+    EXPECT_EQ(boxes("page.html"), 3u);
+    const Outcome unknown =
+        Cli(pair + Strings{"--dessin", "new.html", "--mode", "une", "--lignes", "000009-000001"});
+    EXPECT_EQ(unknown.code, 1);
+    EXPECT_TRUE(unknown.Says("000009-000001"));
+    EXPECT_FALSE(Exists("new.html"));
+    const Outcome kept = Cli({"parente", "f.ged", "@I3@", "@I2@", "--dessin", "page.html"});
+    EXPECT_EQ(kept.code, 1);
+    EXPECT_EQ(kept.out, "");
+    const Outcome screen = Cli(pair + Strings{"--dessin", "-", "-q"});
+    EXPECT_TRUE(screen.out.starts_with("<HTML>\r\n")) << screen.err;
+}
+
 TEST_F(Parente, UsageErrorsNameTheirCause) {
     for (const auto& [words, cause] : std::initializer_list<std::pair<Strings, std::string>>{
              {{"f.ged", "@I1@"}, "identifiants"},

@@ -1,0 +1,108 @@
+// Measures the drawing command: drawingbench [PATHS]. A family in which the children of each couple marry
+// among each other gives as many paths as one likes; they are searched, and drawn with spouses into a
+// temporary file. Prints paths, cells, seconds of the drawing alone, and cells a second.
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "platform/machine.h"
+#include "platform/std_files.h"
+#include "platform/system_clock.h"
+#include "platform/user_folders.h"
+#include "quiet_ports.h"
+#include "shell/frm_main.h"
+#include "text/code_page.h"
+
+namespace {
+
+constexpr int kGenerations = 20;
+
+/// Every man and woman of a generation are children of the couple of the one before, and a couple themselves.
+std::string CousinFile() {
+    std::string file;
+    for (int i = 0; i <= kGenerations; ++i) {
+        const std::string n = std::to_string(i), next = std::to_string(i + 1);
+        for (const std::string sex : {"M", "F"}) {
+            file +=
+                "0 @" + sex + n + "@ INDI\n1 NAME Anne-Marie /de Kerviel/\n1 SEX " + sex +
+                "\n1 BIRT\n2 DATE 1820\n2 PLAC Saint-Malo, Ille-et-Vilaine, France\n1 DEAT\n2 DATE 1890\n";
+        }
+        file += "0 @C" + n + "@ FAM\n1 HUSB @M" + n + "@\n1 WIFE @F" + n + "@\n1 MARR\n2 DATE 1842\n";
+        if (i < kGenerations) file += "1 CHIL @M" + next + "@\n1 CHIL @F" + next + "@\n";
+    }
+    return file + "0 TRLR\n";
+}
+
+/// Stops the search after a number of paths.
+class PathLimit : public swiftroll::EventPump {
+  public:
+    explicit PathLimit(std::int64_t most) : most_(most) {}
+    void Watch(swiftroll::frmMain& main) { main_ = &main; }
+    void Yield() override {
+        if (main_ != nullptr && main_->modKinship.lNrLinks >= most_) main_->bAbort = true;
+    }
+
+  private:
+    std::int64_t most_;
+    swiftroll::frmMain* main_ = nullptr;
+};
+
+/// Gives the drawing its file.
+class OneFile : public bench::QuietDialogs {
+  public:
+    explicit OneFile(std::string name) : name_(std::move(name)) {}
+    bool AskFile(const FileRequest&, swiftroll::Text& chosen) override {
+        chosen = swiftroll::FileNameToText(name_);
+        return true;
+    }
+
+  private:
+    std::string name_;
+};
+
+std::size_t CountCells(const std::filesystem::path& page) {
+    std::ifstream file(page);
+    std::size_t cells = 0;
+    for (std::string line; std::getline(file, line);) cells += line.starts_with("<table class=") ? 1u : 0u;
+    return cells;
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    const std::int64_t paths = argumentCount > 1 ? std::atoll(arguments[1]) : 10'000;
+    const auto folder = std::filesystem::temp_directory_path() / "swiftroll-drawing";
+    std::filesystem::create_directories(folder);
+    const auto gedcom = folder / "cousins.ged", page = folder / "page.html";
+    std::filesystem::remove(page);
+    std::ofstream(gedcom, std::ios::binary) << CousinFile();
+
+    OneFile dialogs(page.string());
+    swiftroll::platform::SystemClock clock;
+    PathLimit pump(paths);
+    swiftroll::platform::StdFiles files;
+    swiftroll::platform::UserFolders folders;
+    bench::QuietStatus status;
+    swiftroll::platform::ThisMachine machine;
+    swiftroll::frmMain main({dialogs, clock, pump, files, folders, status, machine});
+    main.Form_Load({});
+    main.cboGedIn.SetText(swiftroll::FileNameToText(gedcom.string()));
+    main.cmdLoad.Click();
+    main.txtKinH.SetText(main.txtKinWidth.Get());
+    pump.Watch(main);
+    main.FindPathBetween("@M0@", "@F" + std::to_string(kGenerations) + "@");
+
+    const auto start = std::chrono::steady_clock::now();
+    main.cmdDrawKinship.Click();
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    const std::size_t cells = CountCells(page);
+    std::printf("%lld paths, %zu cells, %.1f MB in %.3f s: %.0f cells a second\n",
+                static_cast<long long>(main.modKinship.lNrLinks), cells,
+                static_cast<double>(std::filesystem::file_size(page)) / 1e6, seconds,
+                static_cast<double>(cells) / seconds);
+    std::filesystem::remove_all(folder);
+    return cells > 0 ? 0 : 1;
+}
