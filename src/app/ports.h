@@ -78,6 +78,8 @@ class File {
     virtual ~File() = default;
     /// Reads up to `size` bytes into `buffer`; 0 at the end of the file. @throws Failure FileAccess
     virtual std::size_t Read(char* buffer, std::size_t size) = 0;
+    /// The same from a position, 0 for the first byte. Not every file can be read out of order.
+    virtual std::size_t ReadAt(std::int64_t position, char* buffer, std::size_t size);
     /// @throws Failure FileAccess, as on a full disk
     virtual void Write(TextView bytes) = 0;
     /// Length in bytes at present. @throws Failure FileAccess

@@ -150,6 +150,9 @@ Arguments ParseArguments(int argc, const char* const* argv) {
     const CLI::Option* mostPaths = parente.Sub().add_option("--max", ignored);
     const CLI::Option* mostSeconds = parente.Sub().add_option("--delai", ignored);
 
+    JobParser extrait(app, "extrait", arguments);
+    extrait.Sub().add_option("-o", arguments.output);
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -176,11 +179,15 @@ Arguments ParseArguments(int argc, const char* const* argv) {
         arguments.drawnRows = SplitList(drawnRows);
         arguments.drawingMode = DrawingMode(drawingMode);
         CheckDrawing(arguments, !drawingMode.empty());
+    } else if (extrait.Sub().parsed()) {
+        arguments.job = JobKind::Extrait;
+        extrait.Collect();
     } else {
-        throw UsageError("il manque le travail à faire : tables, releve ou parente");
+        throw UsageError("il manque le travail à faire : tables, releve, parente ou extrait");
     }
     if (arguments.input.empty()) throw UsageError("il manque le fichier GEDCOM à lire");
-    if (arguments.job == JobKind::Releve && arguments.output.empty()) {
+    const bool needsOutput = arguments.job == JobKind::Releve || arguments.job == JobKind::Extrait;
+    if (needsOutput && arguments.output.empty()) {
         throw UsageError("il manque le fichier à écrire : -o SORTIE");
     }
     if (arguments.job == JobKind::Parente && arguments.toId.empty()) {
@@ -209,6 +216,10 @@ std::string HelpText() {
       d'au plus N lignes, chkMaxSpouses et txtMaxSpouses ceux d'au plus N conjoints.
       --dessin dessine ensuite tous les chemins (toutes, toutes+ avec les conjoints, qui est le défaut), ou
       ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit).
+
+  swiftroll-cli extrait FICHIER.ged -o SORTIE.ged
+      écrit un fichier GEDCOM des individus marqués (--marquer, --ajouter), avec leurs familles et tout ce à
+      quoi ils se réfèrent.
 
   swiftroll-cli --aide | --version
 

@@ -8,7 +8,7 @@
 
 namespace swiftroll::cli {
 
-enum class JobKind { Help, Version, Tables, Releve, Parente };
+enum class JobKind { Help, Version, Tables, Releve, Parente, Extrait };
 
 /// The exit codes of the program.
 enum ExitCode : int { kDone = 0, kFailed = 1, kUsage = 2, kStopped = 3 };

@@ -1,5 +1,6 @@
 #include "jobs.h"
 
+#include "extrait_job.h"
 #include "parente_job.h"
 #include "platform/interrupt.h"
 #include "releve_job.h"
@@ -13,6 +14,7 @@ namespace {
 std::unique_ptr<Job> MakeJob(JobKind kind) {
     if (kind == JobKind::Releve) return std::make_unique<ReleveJob>();
     if (kind == JobKind::Parente) return std::make_unique<ParenteJob>();
+    if (kind == JobKind::Extrait) return std::make_unique<ExtraitJob>();
     return std::make_unique<TablesJob>();
 }
 

@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
             case JobKind::Tables:
             case JobKind::Releve:
             case JobKind::Parente:
+            case JobKind::Extrait:
                 return RunJob(arguments);
         }
     } catch (const UsageError& error) {

@@ -55,6 +55,10 @@ class StdFile : public File {
         if (read < size && std::ferror(stream_) != 0) Fail(name_, errno);
         return read;
     }
+    std::size_t ReadAt(std::int64_t position, char* buffer, std::size_t size) override {
+        if (std::fseek(stream_, static_cast<long>(position), SEEK_SET) != 0) Fail(name_, errno);
+        return Read(buffer, size);
+    }
     void Write(TextView bytes) override {
         if (std::fwrite(bytes.data(), 1, bytes.size(), stream_) != bytes.size()) Fail(name_, errno);
     }

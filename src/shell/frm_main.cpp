@@ -32,6 +32,10 @@ frmMain::frmMain(const Ports& applicationPorts)
                   {}, false),
       mnuFindPath(*this, {"mnuFindPath", "Recherche Parenté"_t}, {}, false),
       cmdSaveGed(*this, {"cmdSaveGed", "Ecrire"_t}, {}, false),
+      mnuSaveGed(*this, {"mnuSaveGed", "Ecrire Gedcom"_t}, "Ctrl+G"),
+      cmdSelectDirGedOut(*this, {"cmdSelectDirGedOut", "..."}),
+      cmdCopyGedIn2GedOut(*this, {"cmdCopyGedIn2GedOut", "V"}),
+      mnuCopyGedIn2GedOut(*this, {"mnuCopyGedIn2GedOut", "Génère Nom du Fichier Gedcom en Sortie"_t}),
       mnuDrawKinship(*this, {"mnuDrawKinship", "Dessin des parentés"_t}, {}, false),
       cmdDrawKinship(*this, {"cmdDrawKinship", "Ecrire Toutes +"_t}, {}, false),
       cmdCopyTitle2kinship(*this,
@@ -57,6 +61,7 @@ frmMain::frmMain(const Ports& applicationPorts)
     BindOptionRules();
     BindKinship();
     BindDrawing();
+    BindExtract();
 }
 
 void frmMain::Form_Load(TextView sCommandLine) {

@@ -28,7 +28,11 @@ class frmMain : public Application {
     // Files
     Command cmdSelectDirGedIn, cmdSelectDirSwiftOut, cmdSelectDirModel;
     // Commands that depend on what was read
-    Command cmdFindPath, mnuFindPath, cmdSaveGed;
+    Command cmdFindPath, mnuFindPath;
+    // The extract
+    Command cmdSaveGed, mnuSaveGed;
+    Command cmdSelectDirGedOut;
+    Command cmdCopyGedIn2GedOut, mnuCopyGedIn2GedOut;
     Command mnuDrawKinship, cmdDrawKinship, cmdCopyTitle2kinship, cmdPrintKinship;
     // Drawings
     Command mnuDrawKinshipOne, mnuDrawKinshipOneSpouse, mnuDrawKinshipAll, mnuDrawKinshipAllSpouse;
@@ -62,6 +66,7 @@ class frmMain : public Application {
     void BindOptionRules();
     void BindKinship();
     void BindDrawing();
+    void BindExtract();
 
     void AttachTips();
     void chkTips_Click();
@@ -87,6 +92,10 @@ class frmMain : public Application {
     void cmdCopyTitle2kinship_Click();
     void cmdFont_Click();
     void txtFont_Change();
+
+    void cmdSaveGed_Click();
+    void ChangeGedOutExtension();
+    void cmdCopyGedIn2GedOut_Click();
 
     void cmdCalcOutput_Click();
     void cmdSaveSwift_Click();

@@ -18,6 +18,10 @@ class MemoryFile : public File {
         position_ += size;
         return size;
     }
+    std::size_t ReadAt(std::int64_t position, char* buffer, std::size_t size) override {
+        position_ = std::min(static_cast<std::size_t>(position), files_.contents[name_].size());
+        return Read(buffer, size);
+    }
     void Write(TextView bytes) override {
         const TextView fitting = bytes.substr(0, std::min(files_.room, bytes.size()));
         files_.contents[name_] += fitting;

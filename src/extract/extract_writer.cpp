@@ -1,0 +1,142 @@
+#include "extract/extract_writer.h"
+
+#include <algorithm>
+
+#include "tables/column_numbers.h"
+#include "text/edit.h"
+#include "text/failure.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modSaveGed {
+
+using modReadGedcom::RecordRange;
+
+namespace {
+
+constexpr std::size_t kBufferSize = std::size_t{1} << 20;
+
+}  // namespace
+
+std::optional<RecordRange> RangeOfTag(TextView sTag) {
+    const std::size_t blank = sTag.find(' ');
+    if (blank == TextView::npos || sTag.find(' ', blank + 1) != TextView::npos) return std::nullopt;
+    return RecordRange{ToLong(sTag.substr(0, blank)), ToLong(sTag.substr(blank + 1))};
+}
+
+ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& lines,
+                             std::unique_ptr<File> in, File& out)
+    : app_(app),
+      lines_(lines),
+      source_(std::move(in), app.cboGedIn.Get()),
+      out_(out),
+      colFamToSave_(app.lvwFamilyXref) {
+    buffer_.reserve(2 * kBufferSize);
+}
+
+void ExtractWriter::Write() {
+    if (lines_.head.end != 0) OutGedTag(lines_.head);
+    if (lines_.subn.end != 0) OutGedTag(lines_.subn);
+    OutIndividuals();
+    OutFamilies();
+    OutReferencedRecords();
+    Out(Concat({"0 TRLR", kLineEnd}));
+    Flush();
+}
+
+void ExtractWriter::OutIndividuals() {
+    for (std::int32_t i = 1; i <= app_.lvwIn.Count(); ++i) {
+        const Row person = app_.lvwIn.Item(i);
+        if (!person.Marked()) continue;
+        colFamToSave_.AddFamToSave(person.Ref(In::ID));
+        if (const auto range = RangeOfTag(person.Tag())) OutGedTag(*range);
+        ++individuals_;
+    }
+}
+
+void ExtractWriter::OutFamilies() {
+    for (const FamiliesToSave::Entry& entry : colFamToSave_.InOrder()) {
+        const auto family = app_.lvwFamily.Find(RowKey(entry.sFam));
+        if (!family) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(entry.sFam));
+        const auto isMarkedSpouse = [&](std::int16_t column) {
+            const TextRef spouse = family->Ref(column);
+            return !spouse.IsEmpty() &&
+                   std::find(entry.sIndis.begin(), entry.sIndis.end(), spouse) != entry.sIndis.end();
+        };
+        const int spouses = (isMarkedSpouse(Family::IDHusb) ? 1 : 0) +
+                            (isMarkedSpouse(Family::IDWife) ? 1 : 0) +
+                            (isMarkedSpouse(Family::IDFams) ? 1 : 0);
+        OutGedFamilyTag(*family, entry, spouses >= 2);
+    }
+}
+
+/// A family with both spouses keeps all that is told of it. Another one is reduced to its links: what was
+/// told of the couple is not for those who are left.
+void ExtractWriter::OutGedFamilyTag(const Row& family, const FamiliesToSave::Entry& entry, bool bFull) {
+    const auto range = RangeOfTag(family.Tag());
+    if (!range) return;
+    TextStore& store = app_.lvwFamily.Store();
+    ++families_;
+    if (bFull) {
+        const Text record = RemoveIndis(source_.Read(*range), [&](TextView sId) {
+            return std::any_of(entry.sIndis.begin(), entry.sIndis.end(),
+                               [&](TextRef member) { return store.Get(member) == sId; });
+        });
+        NoteReferences(record);
+        Out(record);
+        return;
+    }
+    Out(Concat({"0 ", store.Get(entry.sFam), " FAM", kLineEnd}));
+    for (const TextRef sIndi : entry.sIndis) {
+        Out(Concat({"1 ", RoleOf(entry, sIndi), " ", store.Get(sIndi), kLineEnd}));
+    }
+}
+
+TextView ExtractWriter::RoleOf(const FamiliesToSave::Entry& entry, TextRef sIndi) {
+    const auto member = app_.lvwFamilyXref.Find(RowKey(entry.sFam, sIndi));
+    if (!member) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(sIndi));
+    const TextView type = member->Cell(FamilyXref::Type);
+    if (type == "Fils" || type == "Fille" || type == "Enfant") return "CHIL";
+    if (type == "Epoux") return "HUSB";
+    if (type == "Epouse") return "WIFE";
+    return type;
+}
+
+void ExtractWriter::OutReferencedRecords() {
+    for (; !colTagsToSave_.empty(); colTagsToSave_.pop_front()) {
+        const auto range = lines_.colRecords().Find(colTagsToSave_.front());
+        if (!range) {
+            throw Failure(FailureKind::KeyNotFound,
+                          Concat({colTagsToSave_.front(), " : cet enregistrement manque dans le fichier"_t}));
+        }
+        OutGedTag(*range);
+    }
+}
+
+void ExtractWriter::OutGedTag(const RecordRange& range) {
+    const TextView record = source_.Read(range);
+    NoteReferences(record);
+    Out(record);
+}
+
+void ExtractWriter::NoteReferences(TextView sRecord) {
+    for (ReferenceKey& key : FindOutTags(sRecord)) {
+        if (!sTagsSeen_.insert(UpperCase(key)).second) continue;
+        // The submission stands behind the head already, whoever refers to it.
+        if (lines_.subn.end != 0 && lines_.colRecords().Find(key) == lines_.subn) continue;
+        colTagsToSave_.push_back(std::move(key));
+    }
+}
+
+void ExtractWriter::Out(TextView bytes) {
+    buffer_ += bytes;
+    if (buffer_.size() >= kBufferSize) Flush();
+}
+
+void ExtractWriter::Flush() {
+    const Text bytes = std::exchange(buffer_, {});
+    out_.Write(bytes);
+    buffer_.reserve(2 * kBufferSize);
+}
+
+}  // namespace swiftroll::modSaveGed

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <boost/unordered/unordered_flat_set.hpp>
+#include <deque>
+
+#include "app/application.h"
+#include "extract/families_to_save.h"
+#include "extract/record_lines.h"
+#include "extract/record_source.h"
+
+namespace swiftroll::modSaveGed {
+
+/// Writes a GEDCOM file of the marked individuals, with the families that tie them together and every record
+/// that these refer to. Records are copied byte for byte out of the file that was read last, by the ranges
+/// that the reader kept; only family records are touched, so that none points at somebody who was left out.
+class ExtractWriter {
+  public:
+    /// `lines` knows the ranges of the records; `in` is the file that it read, `out` the extract.
+    ExtractWriter(Application& app, const modReadGedcom::LineReader& lines, std::unique_ptr<File> in,
+                  File& out);
+
+    /// Writes everything. @throws Failure when a file fails, or when a record refers to one that the file
+    /// does not have; what was written until then stays
+    void Write();
+    /// Brings what was written so far into the file. @throws Failure FileAccess
+    void Flush();
+
+    /// Number of individuals and families written.
+    std::int32_t Individuals() const { return individuals_; }
+    std::int32_t Families() const { return families_; }
+
+  private:
+    void OutGedTag(const modReadGedcom::RecordRange& range);
+    void OutIndividuals();
+    void OutFamilies();
+    void OutGedFamilyTag(const Row& family, const FamiliesToSave::Entry& entry, bool bFull);
+    void OutReferencedRecords();
+    void NoteReferences(TextView sRecord);
+    void Out(TextView bytes);
+    TextView RoleOf(const FamiliesToSave::Entry& entry, TextRef sIndi);
+
+    Application& app_;
+    const modReadGedcom::LineReader& lines_;
+    RecordSource source_;
+    File& out_;
+    Text buffer_;
+    FamiliesToSave colFamToSave_;
+    std::deque<ReferenceKey> colTagsToSave_;
+    boost::unordered_flat_set<Text> sTagsSeen_;  // in capitals: records are found whatever the case
+    std::int32_t individuals_ = 0, families_ = 0;
+};
+
+/// The range that the tag of a row tells; nothing when it does not hold two numbers.
+std::optional<modReadGedcom::RecordRange> RangeOfTag(TextView sTag);
+
+}  // namespace swiftroll::modSaveGed

@@ -1,0 +1,51 @@
+#include "extract/families_to_save.h"
+
+#include <numeric>
+
+#include "tables/column_numbers.h"
+
+namespace swiftroll::modSaveGed {
+
+FamiliesToSave::FamiliesToSave(Table& lvwFamilyXref)
+    : first_(lvwFamilyXref.Store().InternedCount() + 1),
+      families_(static_cast<std::size_t>(lvwFamilyXref.Count())) {
+    const auto visit = [&](auto&& take) {
+        for (std::int32_t i = 1; i <= lvwFamilyXref.Count(); ++i) {
+            const Row member = lvwFamilyXref.Item(i);
+            const TextRef indi = member.Ref(FamilyXref::IDIndi);
+            if (!indi.IsEmpty()) take(indi.Symbol(), member.Ref(FamilyXref::IDFam));
+        }
+    };
+    visit([&](std::uint32_t indi, TextRef) { ++first_[indi + 1]; });
+    std::partial_sum(first_.begin(), first_.end(), first_.begin());
+    std::vector<std::uint32_t> next = first_;
+    visit([&](std::uint32_t indi, TextRef family) { families_[next[indi]++] = family; });
+}
+
+void FamiliesToSave::AddFamToSave(TextRef sIndi) {
+    const std::uint32_t symbol = sIndi.Symbol();
+    for (std::uint32_t i = first_[symbol]; i < first_[symbol + 1]; ++i)
+        added_.push_back({families_[i], sIndi});
+}
+
+std::vector<FamiliesToSave::Entry> FamiliesToSave::InOrder() const {
+    constexpr std::uint32_t kNone = 0xFFFFFFFFu;
+    // From the last membership back, so that the first one met of a family gives its place.
+    std::vector<std::uint32_t> placeOf(first_.size(), kNone);
+    std::vector<TextRef> order;
+    for (auto member = added_.rbegin(); member != added_.rend(); ++member) {
+        std::uint32_t& place = placeOf[member->sFam.Symbol()];
+        if (place != kNone) continue;
+        place = static_cast<std::uint32_t>(order.size());
+        order.push_back(member->sFam);
+    }
+    std::vector<Entry> entries(order.size());
+    for (const Membership& member : added_) {
+        Entry& entry = entries[order.size() - 1 - placeOf[member.sFam.Symbol()]];
+        entry.sFam = member.sFam;
+        entry.sIndis.push_back(member.sIndi);
+    }
+    return entries;
+}
+
+}  // namespace swiftroll::modSaveGed

@@ -1,0 +1,43 @@
+// The job "extrait".
+#include "cli/run_cli.h"
+
+namespace swiftroll::test {
+namespace {
+
+struct Extrait : CliTest {};
+
+TEST_F(Extrait, WritesTheMarkedIndividuals) {
+    const Outcome run = Cli({"extrait", "f.ged", "-o", "x.ged", "--marquer", "@I3@"});
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_TRUE(run.Says("Extrait écrit : 1 individu(s), 1 famille(s)\n")) << run.err;
+    const std::string child =
+        kFamily.substr(kFamily.find("0 @I3@"), kFamily.find("0 @F1@") - kFamily.find("0 @I3@"));
+    const std::string expected =
+        "0 HEAD\r\n1 CHAR ANSI\r\n" + child + "0 @F1@ FAM\r\n1 CHIL @I3@\r\n0 TRLR\r\n";
+    EXPECT_EQ(Bytes("x.ged"), expected);
+    const Outcome screen = Cli({"extrait", "f.ged", "-o", "-", "-q", "--marquer", "@I3@"});
+    EXPECT_EQ(screen.out, expected);
+    EXPECT_EQ(screen.err, "");
+    EXPECT_EQ(Cli({"extrait", "f.ged", "-o", "all.ged", "--marquer", "@I1@,@I2@,@I3@"}).code, 0);
+    EXPECT_EQ(Bytes("all.ged"), kFamily);
+}
+
+TEST_F(Extrait, IsRefusedWhereDataWouldBeLost) {
+    const Outcome existing = Cli({"extrait", "f.ged", "-o", "f.ged", "-f"});
+    EXPECT_EQ(existing.code, 1);
+    EXPECT_EQ(Bytes("f.ged"), kFamily);
+    Put("g.ged", "old");
+    EXPECT_EQ(Cli({"extrait", "f.ged", "-o", "g.ged"}).code, 1);
+    EXPECT_EQ(Bytes("g.ged"), "old");
+    EXPECT_EQ(Cli({"extrait", "f.ged", "-o", "g.ged", "-f"}).code, 0);
+    const Outcome without = Cli({"extrait", "f.ged", "-o", "y.ged", "--sans-familles"});
+    EXPECT_EQ(without.code, 1);
+    EXPECT_TRUE(without.Says("--sans-familles"));
+    EXPECT_FALSE(Exists("y.ged"));
+    const Outcome full = Cli({"extrait", "f.ged", "-o", "/dev/full", "-f", "-q"});
+    EXPECT_EQ(full.code, 1);
+    EXPECT_TRUE(full.Says("disque est plein")) << full.err;
+}
+
+}  // namespace
+}  // namespace swiftroll::test
