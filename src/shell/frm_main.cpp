@@ -38,7 +38,8 @@ frmMain::frmMain(const Ports& applicationPorts)
       cmdPrintKinship(*this, {"cmdPrintKinship"}, {}, false),
       modReadGedcom(*this),
       modKinship(*this),
-      frmKinshipSelect(*this) {
+      frmKinshipSelect(*this),
+      modSelectionIn(*this) {
     DisableKinshipCommands();
     BindReading();
     BindWriting();
