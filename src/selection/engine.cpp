@@ -2,8 +2,8 @@
 
 #include "list/sort_keys.h"
 #include "selection/cell_values.h"
-#include "selection/value_matches.h"
 #include "selection/value_targets.h"
+#include "selection/wanted_values.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 
@@ -98,19 +98,24 @@ void Engine::CompareValues(Table& table, TextView sMode, bool bSelect) {
     const Way way = WayOf(app_, table, context.iClickedCol);
     if (!comparison || way.kind == Way::Kind::None) return;
     ValueTargets targets(app_, table, way, Marker(app_.lvwIn, bSelect));
-    std::optional<ValueMatches> matches;
+    CellValues cells;
+    WantedValues wanted(cells.store, *comparison);
+    // All marks are tested before the first is changed. On lvwIn, where a matching row names itself, that
+    // makes no difference: the value of a row that another one marks or unmarks compares to the other's, and
+    // so leads to nobody but whom the other leads to.
     ForEachMarked(table, [&](std::int32_t i, const Row&) {
-        if (!matches) {
-            CellValues cells;
+        if (cells.values.empty()) {
             if (way.kind == Way::Kind::PathNumber) {
                 cells.ReadPathNumbers(table);
             } else {
                 cells.ReadColumn(app_, table, context.iClickedCol);
             }
-            matches.emplace(cells.store, cells.values, *comparison);
         }
-        for (const std::int32_t match : matches->NewMatches(i)) targets.Take(table.Item(match));
+        wanted.Add(cells.values[static_cast<std::size_t>(i - 1)]);
     });
+    for (std::size_t i = 0; i < cells.values.size(); ++i) {
+        if (wanted.Match(cells.values[i])) targets.Take(table.Item(static_cast<std::int32_t>(i + 1)));
+    }
     targets.Finish();
 }
 

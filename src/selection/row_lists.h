@@ -29,15 +29,11 @@ class RowLists {
         for (const Entry& entry : entries) rows_[next[entry.list]++] = entry.row;
     }
 
-    /// Where a list begins and ends among all rows; a list that nothing was sorted into is empty.
-    std::size_t Begin(std::uint32_t list) const { return list < starts_.size() ? starts_[list] : Count(); }
-    std::size_t End(std::uint32_t list) const { return Begin(list + 1); }
-    std::size_t Count() const { return rows_.size(); }
-    /// The rows from one place to before another; none when `from` is not before `to`.
-    std::span<const std::int32_t> Between(std::size_t from, std::size_t to) const {
-        return std::span(rows_).subspan(from, from < to ? to - from : 0);
+    /// The rows of a list; a list that nothing was sorted into is empty.
+    std::span<const std::int32_t> Of(std::uint32_t list) const {
+        if (list + std::size_t{1} >= starts_.size()) return {};
+        return std::span(rows_).subspan(starts_[list], starts_[list + std::size_t{1}] - starts_[list]);
     }
-    std::span<const std::int32_t> Of(std::uint32_t list) const { return Between(Begin(list), End(list)); }
 
   private:
     std::vector<std::uint32_t> starts_;  // by list, and the end of the last one

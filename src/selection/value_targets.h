@@ -24,8 +24,7 @@ class ValueTargets {
   public:
     ValueTargets(Application& app, Table& table, const Way& way, Marker marker);
 
-    /// Takes a matching row. By identifier and by path number its individuals are marked at once, since on
-    /// `lvwIn` they may be the next rows to be looked at; by group key they wait for `Finish`.
+    /// Marks the individuals of a matching row; by group key they wait for `Finish`.
     void Take(const Row& row);
     /// Marks the individuals of the groups that were taken.
     void Finish();
