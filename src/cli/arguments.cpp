@@ -21,6 +21,16 @@ std::vector<std::string> SplitList(const std::string& list) {
     return parts;
 }
 
+/// Calls `take` for each option of a kind, with its value, in the order of the command line.
+template <class Kind, class Take>
+void TakeInOrder(const CLI::App& app, const std::map<const CLI::Option*, Kind>& kinds, Take take) {
+    std::map<const CLI::Option*, std::size_t> seen;
+    for (const CLI::Option* option : app.parse_order()) {
+        const auto found = kinds.find(option);
+        if (found != kinds.end()) take(found->second, option->results().at(seen[option]++));
+    }
+}
+
 /// Declares one job with the options of every job.
 class JobParser {
   public:
@@ -31,11 +41,14 @@ class JobParser {
         for (const auto& [option, kind] : {std::pair{"--set", Setting::Kind::Field},
                                            std::pair{"--ordre-lieux", Setting::Kind::PlacesOrder},
                                            std::pair{"--colonnes", Setting::Kind::Columns}}) {
-            ordered_[sub_.add_option(option)->expected(1)->multi_option_policy(
-                CLI::MultiOptionPolicy::TakeAll)] = kind;
+            ordered_[AddOrdered(option)] = kind;
         }
         ordered_[sub_.add_flag("--sans-familles")] = Setting::Kind::WithoutFamilies;
-        sub_.add_option("--marquer", marked_);
+        for (const auto& [option, kind] :
+             {std::pair{"--marquer", MarkStep::Kind::Mark}, std::pair{"--ajouter", MarkStep::Kind::Add},
+              std::pair{"--enlever", MarkStep::Kind::Remove}}) {
+            markSteps_[AddOrdered(option)] = kind;
+        }
         sub_.add_flag("--strict", arguments.strict);
         sub_.add_flag("-f,--ecraser", arguments.overwrite);
         sub_.add_flag("-q,--silencieux", arguments.quiet);
@@ -43,20 +56,24 @@ class JobParser {
     CLI::App& Sub() { return sub_; }
 
     void Collect() {
-        arguments_.markedIds = SplitList(marked_);
-        std::map<const CLI::Option*, std::size_t> seen;
-        for (const CLI::Option* option : sub_.parse_order()) {
-            const auto found = ordered_.find(option);
-            if (found == ordered_.end()) continue;
-            arguments_.settings.push_back({found->second, option->results().at(seen[option]++)});
-        }
+        TakeInOrder(sub_, ordered_, [&](Setting::Kind kind, const std::string& value) {
+            arguments_.settings.push_back({kind, value});
+        });
+        TakeInOrder(sub_, markSteps_, [&](MarkStep::Kind kind, const std::string& value) {
+            if (kind != MarkStep::Kind::Mark) return arguments_.markSteps.push_back({kind, value});
+            for (const std::string& id : SplitList(value)) arguments_.markSteps.push_back({kind, id});
+        });
     }
 
   private:
+    CLI::Option* AddOrdered(const char* option) {
+        return sub_.add_option(option)->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    }
+
     CLI::App& sub_;
     Arguments& arguments_;
     std::map<const CLI::Option*, Setting::Kind> ordered_;
-    std::string marked_;
+    std::map<const CLI::Option*, MarkStep::Kind> markSteps_;
 };
 
 /// A number above 0 of an option; 0 when the option was not given. @throws UsageError
@@ -230,6 +247,12 @@ Options de tous les travaux, dans l'ordre de la ligne de commande :
   --colonnes CLE[,CLE...]   colonnes du relevé devant le nombre (LastName,Place,DateMin,DateMax si rien n'est
                             dit) ; la liste vide met le nombre en premier
   --marquer ID[,ID...]      marque ces individus après la lecture
+  --ajouter MODE            marque aussi ceux auxquels mènent les individus marqués, --enlever MODE enlève
+  --enlever MODE            leurs marques. MODE : individus, parents, conjoints, enfants, ou une colonne de
+                            lvwIn et une comparaison : "LastName=", "BirthMin<=", "BirthMin>=" (les individus
+                            dont la valeur est égale, au plus, ou au moins celle d'un individu marqué, en
+                            ordre de texte). La table est parcourue de haut en bas : qui vient d'être marqué
+                            plus haut compte à son tour
   --strict                  arrête la lecture à la première ligne fautive ou au jeu de caractères inconnu
   -f, --ecraser             écrase un fichier existant
   -q, --silencieux          ni progression ni textes d'état

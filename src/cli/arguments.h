@@ -25,6 +25,14 @@ struct Setting {
     std::string value;
 };
 
+/// A change of the marks of lvwIn after the read, in the order of the command line.
+struct MarkStep {
+    enum class Kind { Mark, Add, Remove };
+    Kind kind;
+    /// An identifier for Mark, else the mode of the selection.
+    std::string value;
+};
+
 /// The command line, texts in UTF-8 as they were typed.
 struct Arguments {
     JobKind job = JobKind::Help;
@@ -36,7 +44,7 @@ struct Arguments {
     std::string model;
     bool withStylesheet = false;
     bool markedOnly = false;
-    std::vector<std::string> markedIds;
+    std::vector<MarkStep> markSteps;
     std::string fromId, toId;
     /// Number of paths, and seconds, after which the search ends; 0 for no limit.
     std::int64_t mostPaths = 0;

@@ -1,6 +1,7 @@
 #include "jobs.h"
 
 #include "extrait_job.h"
+#include "mark_steps.h"
 #include "parente_job.h"
 #include "platform/interrupt.h"
 #include "releve_job.h"
@@ -18,15 +19,12 @@ std::unique_ptr<Job> MakeJob(JobKind kind) {
     return std::make_unique<TablesJob>();
 }
 
-void ReadAndDo(Session& session, Job& job) {
+void ReadAndDo(Session& session, const MarkSteps& marks, Job& job) {
     frmMain& main = session.main;
     main.cmdLoad.Click();
     session.stopped = session.IsStopped();
     if (session.dialogs.HasRefusal()) return;
-    for (const std::string& id : session.arguments.markedIds) {
-        if (!session.Mark(id)) return;
-    }
-    job.Do(session);
+    if (marks.Run(session)) job.Do(session);
 }
 
 void PrintStatus(Session& session) {
@@ -48,11 +46,12 @@ int RunJob(const Arguments& arguments) {
     ApplySettings(main, arguments.settings);
     const std::unique_ptr<Job> job = MakeJob(arguments.job);
     job->Prepare(session);
+    const MarkSteps marks(main, arguments.markSteps);
     main.cboGedIn.SetText(FileNameToText(arguments.input));
     platform::CatchInterrupts();
     if (job->MayRun(session)) {
         try {
-            ReadAndDo(session, *job);
+            ReadAndDo(session, marks, *job);
         } catch (const ProgramEnd&) {
             // It was reported; what else there is to do is to end.
         }

@@ -53,7 +53,8 @@ frmMain::frmMain(const Ports& applicationPorts)
       cmdFont(*this, {"cmdFont", "Fonte..."}),
       modReadGedcom(*this),
       modKinship(*this),
-      frmKinshipSelect(*this) {
+      frmKinshipSelect(*this),
+      modSelectionIn(*this) {
     DisableKinshipCommands();
     BindReading();
     BindWriting();

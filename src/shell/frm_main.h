@@ -3,6 +3,7 @@
 #include "app/application.h"
 #include "gedcom/reader.h"
 #include "kinship/search.h"
+#include "selection/engine.h"
 #include "shell/frm_kinship_select.h"
 
 namespace swiftroll {
@@ -58,6 +59,8 @@ class frmMain : public Application {
     /// The last kinship search.
     modKinship::Search modKinship;
     class frmKinshipSelect frmKinshipSelect;
+    /// Marks in lvwIn what the marked rows of a table lead to.
+    modSelectionIn::Engine modSelectionIn;
 
   private:
     void BindReading();

@@ -116,7 +116,13 @@ TEST_F(Tables, UsageErrorsNameTheirCause) {
                                                                     {"--foo", "--foo"},
                                                                     {"-o x", "-o"},
                                                                     {"g.ged", "g.ged"},
-                                                                    {"--ajouter parents", "--ajouter"}}) {
+                                                                    {"--ajouter", "--ajouter"},
+                                                                    {"--ajouter parent", "parent"},
+                                                                    {"--enlever V=", "V="},
+                                                                    {"--ajouter Nom<=", "Nom<="},
+                                                                    {"--enlever =", "="},
+                                                                    {"--ajouter LastName", "LastName"},
+                                                                    {"--ajouter Ω>=", "Ω"}}) {
         expectError(Strings{"tables", "f.ged"} + Split(words, ' '), cause);
     }
     expectError({"tables"}, "GEDCOM");
@@ -124,6 +130,48 @@ TEST_F(Tables, UsageErrorsNameTheirCause) {
     expectError({"extrait", "f.ged"}, "-o");
     expectError({"tables", "f.ged", "-t", ""}, "table");
     expectError({}, "tables");
+}
+
+TEST_F(Tables, MarksAreAddedAndRemovedInTheOrderOfTheCommandLine) {
+    const struct {
+        const char* options;
+        Strings marks;
+    } cases[] = {
+        {"--marquer @I3@ --ajouter parents", {"SC", "SC", "SC"}},
+        {"--ajouter parents --marquer @I3@", {"", "", "SC"}},
+        {"--marquer @I1@ --ajouter enfants --enlever individus", {"", "", ""}},
+        {"--marquer @I1@ --enlever individus --marquer @I2@", {"", "SC", ""}},
+        {"--marquer @I2@ --ajouter conjoints", {"SC", "SC", ""}},
+        {"--marquer @I1@ --ajouter enfants", {"SC", "", "SC"}},
+        {"--marquer @I3@,@I1@ --enlever enfants", {"SC", "", ""}},
+        {"--marquer @I3@ --ajouter parents --enlever BirthMin>=", {"", "", ""}},
+        {"--marquer @I1@ --ajouter BirthMin>=", {"SC", "", "SC"}},
+        {"--marquer @I1@ --ajouter BirthMin<=", {"SC", "SC", ""}},
+        {"--marquer @I1@ --ajouter BirthPlace=", {"SC", "", "SC"}},
+        {"--set chkDelAccents=0 --marquer @I1@ --ajouter BirthPlace=", {"SC", "", ""}},
+        {"--sans-familles --marquer @I1@ --ajouter enfants", {"SC", "", ""}},
+    };
+    for (const auto& c : cases) {
+        const Strings options = Split(c.options, ' ');
+        EXPECT_EQ(ColumnOf(Cli(Strings{"tables", "f.ged", "-q", "--cles"} + options), "Marques"), c.marks)
+            << c.options;
+    }
+    const Outcome list = Cli({"releve", "f.ged", "-q", "-o", "-", "--format", "texte", "--marques",
+                              "--marquer", "@I1@", "--ajouter", "conjoints"});
+    EXPECT_NE(list.out.find("Brest"), std::string::npos) << list.out;
+}
+
+TEST_F(Tables, AFailedSelectionKeepsTheMarksMadeSoFar) {
+    Put("gone.ged",
+        "0 @I1@ INDI\r\n0 @I2@ INDI\r\n0 @F1@ FAM\r\n1 HUSB @I1@\r\n1 WIFE @I2@\r\n1 CHIL @I3@\r\n"
+        "1 CHIL @I2@\r\n0 TRLR\r\n");
+    const Outcome run = Cli({"tables", "gone.ged", "-q", "--cles", "--marquer", "@I1@", "--ajouter",
+                             "conjoints", "--ajouter", "enfants"});
+    EXPECT_EQ(run.code, 1) << run.err;
+    EXPECT_TRUE(run.Says("Add_Remove_Selection")) << run.err;
+    EXPECT_EQ(run.Lines().size(), 3u) << run.out;
+    for (std::size_t i = 1; i < run.Lines().size(); ++i)
+        EXPECT_NE(run.Lines()[i].find("\tSC\t"), std::string::npos);
 }
 
 TEST_F(Tables, HelpAndVersion) {

@@ -80,7 +80,7 @@ TEST(Extract, HoldsTheMarkedAndAllThatTheyReferTo) {
 TEST(Extract, FamiliesKnownFromIndividualsAloneHaveNoRecord) {
     Extract t(
         "0 @I1@ INDI\n1 SEX M\n1 FAMS @F1@\n1 FAMS @F2@\n0 @I2@ INDI\n1 FAMC @F2@\n0 @F2@ FAM\n1 CHIL "
-        "@I2@\n");
+        "@I2@\n0 TRLR\n");
     t.MarkAll();
     EXPECT_EQ(t.Save(),
               "0 @I1@ INDI\n1 SEX M\n1 FAMS @F1@\n1 FAMS @F2@\n0 @I2@ INDI\n1 FAMC @F2@\n"

@@ -1,0 +1,39 @@
+#include "selection/cell_values.h"
+
+#include "list/sort_keys.h"
+#include "selection/row_lists.h"
+#include "tables/column_numbers.h"
+
+namespace swiftroll::modSelectionIn {
+namespace {
+
+constexpr std::size_t kPathNumberLength = 6;
+
+}  // namespace
+
+void CellValues::ReadColumn(const OptionRecord& options, Table& table, std::int16_t iCol) {
+    std::vector<std::optional<TextRef>> known(table.Store().InternedCount() + 1);
+    const auto formOf = [&](TextView text) {
+        return store.Intern(modCalcOut::KeepAlphaNum(options, text, false));
+    };
+    for (std::int32_t i = 1; i <= table.Count(); ++i) {
+        const Row row = table.Item(i);
+        const auto column = static_cast<std::int16_t>(iCol + 1);
+        const TextRef ref = row.Ref(column);
+        if (!ref.IsInterned()) {
+            values.push_back(formOf(row.Cell(column)));
+            continue;
+        }
+        auto& form = known[ListOf(ref)];
+        if (!form) form = formOf(row.Cell(column));
+        values.push_back(*form);
+    }
+}
+
+void CellValues::ReadPathNumbers(Table& lvwKinship) {
+    for (std::int32_t i = 1; i <= lvwKinship.Count(); ++i) {
+        values.push_back(store.Intern(lvwKinship.Item(i).Cell(Kinship::SeqNr).substr(0, kPathNumberLength)));
+    }
+}
+
+}  // namespace swiftroll::modSelectionIn

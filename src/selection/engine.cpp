@@ -1,0 +1,131 @@
+#include "selection/engine.h"
+
+#include "list/sort_keys.h"
+#include "selection/cell_values.h"
+#include "selection/value_targets.h"
+#include "selection/wanted_values.h"
+#include "text/edit.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modSelectionIn {
+namespace {
+
+/// What a mode does with the identifier in each marked row.
+struct LinkMode {
+    TextView sMode;
+    /// The kind of cell that it is for; empty for any.
+    TextView sIdKind;
+    std::int16_t SelectionContext::*column;
+    void (Relatives::*mark)(TextRef id);
+};
+
+constexpr LinkMode kLinkModes[] = {
+    {"I", "", &SelectionContext::iIndiCol, &Relatives::MarkIndividual},
+    {"P", "", &SelectionContext::iIndiCol, &Relatives::MarkParents},
+    {"S", "I", &SelectionContext::iIndiCol, &Relatives::MarkSpouses},
+    {"S", "F", &SelectionContext::iFamCol, &Relatives::MarkFamilySpouses},
+    {"C", "I", &SelectionContext::iIndiCol, &Relatives::MarkChildren},
+    {"C", "F", &SelectionContext::iFamCol, &Relatives::MarkFamilyChildren},
+};
+
+std::optional<Comparison> ComparisonOf(TextView sMode) {
+    if (sMode == "V<=") return Comparison::AtMost;
+    if (sMode == "V=") return Comparison::Equal;
+    if (sMode == "V>=") return Comparison::AtLeast;
+    return std::nullopt;
+}
+
+/// Calls `visit` for the marked rows in table order; each is tested when its turn comes.
+template <class Visitor>
+void ForEachMarked(Table& table, Visitor visit) {
+    for (std::int32_t i = 1; i <= table.Count(); ++i) {
+        const Row row = table.Item(i);
+        if (row.Marked()) visit(i, row);
+    }
+}
+
+/// Tells texts that come again, which would only repeat what is done.
+class SeenTexts {
+  public:
+    bool IsNew(TextRef ref) {
+        const std::size_t place = ListOf(ref);
+        if (place >= seen_.size()) seen_.resize(std::max(place + 1, seen_.size() * 2));
+        const bool isNew = !seen_[place];
+        seen_[place] = true;
+        return isNew;
+    }
+
+  private:
+    std::vector<bool> seen_;
+};
+
+}  // namespace
+
+void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
+    app_.bWaitCursor = true;
+    context.bRestoreClickedRow = false;
+    Table* const table = app_.lvwActiveListView;
+    Relatives relatives(app_, Marker(app_.lvwIn, bSelect));
+    app_.trail.Guard(
+        "Add_Remove_Selection",
+        [&] {
+            if (table == nullptr) return;
+            FollowLinks(relatives, *table, sMode);
+            CompareValues(*table, sMode, bSelect);
+        },
+        [&] {
+            return Concat({table->Name(), "/", bSelect ? "-1" : "0", "/", sMode, "/", context.sIdKind, "/",
+                           Decimal(context.iClickedCol), "/", Decimal(context.iIndiCol), "/",
+                           Decimal(context.iFamCol), "/", relatives.Individual(), "/", relatives.FamilyId()});
+        });
+    app_.bWaitCursor = false;
+}
+
+void Engine::FollowLinks(Relatives& relatives, Table& table, TextView sMode) {
+    for (const LinkMode& mode : kLinkModes) {
+        if (mode.sMode != sMode || (!mode.sIdKind.empty() && mode.sIdKind != context.sIdKind)) continue;
+        const IdColumn ids(table, context.*mode.column, app_.lvwIn.Store());
+        SeenTexts seen;
+        ForEachMarked(table, [&](std::int32_t, const Row& row) {
+            const TextRef id = ids.Of(row);
+            if (!id.IsEmpty() && seen.IsNew(id)) (relatives.*mode.mark)(id);
+        });
+    }
+}
+
+void Engine::CompareValues(Table& table, TextView sMode, bool bSelect) {
+    const auto comparison = ComparisonOf(sMode);
+    const Way way = WayOf(app_, table, context.iClickedCol);
+    if (!comparison || way.kind == Way::Kind::None) return;
+    ValueTargets targets(app_, table, way, Marker(app_.lvwIn, bSelect));
+    CellValues cells;
+    WantedValues wanted(cells.store, *comparison);
+    // All marks are tested before the first is changed. On lvwIn, where a matching row names itself, that
+    // makes no difference: the value of a row that another one marks or unmarks compares to the other's, and
+    // so leads to nobody but whom the other leads to.
+    ForEachMarked(table, [&](std::int32_t i, const Row&) {
+        if (cells.values.empty()) {
+            if (way.kind == Way::Kind::PathNumber) {
+                cells.ReadPathNumbers(table);
+            } else {
+                cells.ReadColumn(app_, table, context.iClickedCol);
+            }
+        }
+        wanted.Add(cells.values[static_cast<std::size_t>(i - 1)]);
+    });
+    for (std::size_t i = 0; i < cells.values.size(); ++i) {
+        if (wanted.Match(cells.values[i])) targets.Take(table.Item(static_cast<std::int32_t>(i + 1)));
+    }
+    targets.Finish();
+}
+
+void Engine::SelectIn(TextView sId, bool bSelect) {
+    if (!sId.empty()) Marker(app_.lvwIn, bSelect).Mark(app_.lvwIn.Item(sId));
+}
+
+Text Engine::GetCell(const Row& row, std::int16_t iCol, bool bRaw) const {
+    const TextView cell = row.Cell(static_cast<std::int16_t>(iCol + 1));
+    return bRaw ? Text(cell) : modCalcOut::KeepAlphaNum(app_, cell, false);
+}
+
+}  // namespace swiftroll::modSelectionIn

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "selection/context.h"
+#include "selection/relatives.h"
+
+namespace swiftroll::modSelectionIn {
+
+/// Turns the marks of the rows of any table into marks of individuals in `lvwIn`, along family links or by
+/// comparing values.
+class Engine {
+  public:
+    explicit Engine(Application& app) : app_(app) {}
+
+    SelectionContext context;
+
+    /// Adds to the marks of `lvwIn`, or with `bSelect` false removes from them, what the marked rows of
+    /// `lvwActiveListView` lead to through the cell of the context: "I" the individuals, "P" their parents,
+    /// "S" their spouses or those of the family, "C" their children or those of the family; "V<=", "V=" and
+    /// "V>=" the rows whose value in the clicked column is at most, exactly or at least that of a marked row.
+    ///
+    /// A row counts as it is marked when its turn comes: on `lvwIn`, whom a row marks is himself followed
+    /// further down, and whom a row unmarks no longer is. A failure, such as a family or an individual that
+    /// no table holds, is reported; the marks made so far stay.
+    void Add_Remove_Selection(bool bSelect, TextView sMode);
+
+    /// Sets both marks of the individual of an identifier; an empty one is nobody.
+    /// @throws Failure KeyNotFound
+    void SelectIn(TextView sId, bool bSelect);
+
+    /// The cell of a column by its `SubItems` number, 0 for `Text`; unless `bRaw`, in the form in which
+    /// values are compared under `chkIgnoreCase` and `chkDelAccents`. @throws Failure IndexOutOfRange
+    Text GetCell(const Row& row, std::int16_t iCol, bool bRaw) const;
+
+  private:
+    void FollowLinks(Relatives& relatives, Table& table, TextView sMode);
+    void CompareValues(Table& table, TextView sMode, bool bSelect);
+
+    Application& app_;
+};
+
+}  // namespace swiftroll::modSelectionIn

@@ -1,0 +1,53 @@
+#include "selection/value_targets.h"
+
+#include "list/sort_keys.h"
+
+namespace swiftroll::modSelectionIn {
+namespace {
+
+/// What the last row of each path ends with, which names nobody.
+constexpr TextView kEndOfPath = "999999";
+
+std::vector<std::int16_t> OtherSpouses(std::int16_t iClickedCol) {
+    std::vector<std::int16_t> columns{1, 2, 3};
+    std::erase(columns, iClickedCol);
+    return columns;
+}
+
+}  // namespace
+
+Way WayOf(const TableSet& tables, const Table& table, std::int16_t iClickedCol) {
+    using Kind = Way::Kind;
+    const bool isFirst = iClickedCol == 0;
+    if (&table == &tables.lvwIn) return {Kind::Identifier, {0}};
+    // From somebody to the other individual of his links.
+    if (&table == &tables.lvwXref) return {Kind::Identifier, {static_cast<std::int16_t>(isFirst ? 2 : 0)}};
+    if (&table == &tables.lvwFamily) return {Kind::Identifier, OtherSpouses(iClickedCol)};
+    if (&table == &tables.lvwFamilyXref) return {Kind::Identifier, {2}};
+    if (&table == &tables.lvwKinship) return {isFirst ? Kind::PathNumber : Kind::Identifier, {1}};
+    if (&table == &tables.lvwOut) return {Kind::GroupKey, {}};
+    return {};
+}
+
+ValueTargets::ValueTargets(Application& app, Table& table, const Way& way, Marker marker)
+    : app_(app), marker_(marker), kind_(way.kind) {
+    for (const std::int16_t column : way.idColumns) {
+        idColumns_.emplace_back(table, column, app.lvwIn.Store());
+    }
+}
+
+void ValueTargets::Take(const Row& row) {
+    if (kind_ == Way::Kind::PathNumber && row.Text().ends_with(kEndOfPath)) return;
+    if (kind_ == Way::Kind::GroupKey) groups_.insert(modCalcOut::MakeSortKeyOut(app_.positions, row));
+    for (const IdColumn& column : idColumns_) marker_.MarkIfKnown(column.Of(row));
+}
+
+void ValueTargets::Finish() {
+    if (groups_.empty()) return;
+    for (std::int32_t i = 1; i <= app_.lvwIn.Count(); ++i) {
+        const Row individual = app_.lvwIn.Item(i);
+        if (groups_.contains(modCalcOut::MakeSortKeyIn(app_.positions, individual))) marker_.Mark(individual);
+    }
+}
+
+}  // namespace swiftroll::modSelectionIn

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "list/sort_keys.h"
+#include "selection/context.h"
+#include "tables/column_numbers.h"
+#include "text/literal.h"
+
+namespace swiftroll::test {
+
+/// The selection as nested walks over the tables, row by row and text by text, without an index and without
+/// a thought for time: what the engine must do exactly.
+class PlainSelection {
+  public:
+    PlainSelection(Application& app, const modSelectionIn::SelectionContext& context, bool bSelect)
+        : app_(app), context_(context), bSelect_(bSelect) {}
+
+    /// @throws Failure as soon as an individual or a family is not there
+    void Run(TextView sMode) {
+        Table& active = *app_.lvwActiveListView;
+        const bool byFamily = context_.sIdKind == "F";
+        for (std::int32_t i = 1; i <= active.Count(); ++i) {
+            const Row row = active.Item(i);
+            if (!row.Marked()) continue;
+            if (sMode.starts_with('V')) {
+                MarkValues(active, row, sMode.substr(1));
+                continue;
+            }
+            if ((sMode == "S" || sMode == "C") && context_.sIdKind != "I" && !byFamily) continue;
+            const bool usesFamily = byFamily && (sMode == "S" || sMode == "C");
+            const TextView id = Cell(row, usesFamily ? context_.iFamCol : context_.iIndiCol);
+            if (id.empty()) continue;
+            if (sMode == "I") SelectIn(id);
+            if (sMode == "P") MarkParents(id);
+            if (sMode == "S") usesFamily ? MarkSpousesOf(id) : MarkPartners(id);
+            if (sMode == "C") usesFamily ? MarkChildrenOf(id) : MarkChildren(id);
+        }
+    }
+
+  private:
+    static TextView Cell(const Row& row, std::int16_t iCol) {
+        return iCol == 0 ? row.Text() : row.SubItems(iCol);
+    }
+    static bool IsChild(const Row& member) {
+        const TextView type = member.Cell(FamilyXref::Type);
+        return type == "Fils" || type == "Fille" || type == "Enfant";
+    }
+    static bool Compares(const Text& sVal, const Text& sRef, TextView relation) {
+        if (relation == "<=") return sVal <= sRef;
+        return relation == "=" ? sVal == sRef : sVal >= sRef;
+    }
+    void Set(Row row) {
+        row.SetSelected(bSelect_);
+        row.SetChecked(bSelect_);
+    }
+    void SelectIn(TextView id) {
+        if (!id.empty()) Set(app_.lvwIn.Item(id));
+    }
+    void MarkParents(TextView sIndi) {
+        for (std::int32_t k = 1; k <= app_.lvwFamilyXref.Count(); ++k) {
+            const Row member = app_.lvwFamilyXref.Item(k);
+            if (member.Cell(FamilyXref::IDIndi) == sIndi && IsChild(member))
+                return MarkSpousesOf(member.Text());
+        }
+    }
+    void MarkSpousesOf(TextView sFam) {
+        const Row family = app_.lvwFamily.Item(sFam);
+        for (const std::int16_t column : kSpouses) SelectIn(family.Cell(column));
+    }
+    template <class Visitor>
+    void ForEachFamilyOf(TextView sIndi, Visitor visit) {
+        for (std::int32_t k = 1; k <= app_.lvwFamily.Count(); ++k) {
+            const Row family = app_.lvwFamily.Item(k);
+            if (family.Cell(Family::IDHusb) == sIndi || family.Cell(Family::IDWife) == sIndi ||
+                family.Cell(Family::IDFams) == sIndi) {
+                visit(family);
+            }
+        }
+    }
+    void MarkPartners(TextView sIndi) {
+        ForEachFamilyOf(sIndi, [&](const Row& family) {
+            for (const std::int16_t column : kSpouses) {
+                if (family.Cell(column) != sIndi) SelectIn(family.Cell(column));
+            }
+        });
+    }
+    void MarkChildren(TextView sIndi) {
+        ForEachFamilyOf(sIndi, [&](const Row& family) { MarkChildrenOf(family.Text()); });
+    }
+    void MarkChildrenOf(TextView sFam) {
+        for (std::int32_t k = 1; k <= app_.lvwFamilyXref.Count(); ++k) {
+            const Row member = app_.lvwFamilyXref.Item(k);
+            if (member.Text() == sFam && IsChild(member)) SelectIn(member.Cell(FamilyXref::IDIndi));
+        }
+    }
+
+    std::vector<std::int16_t> IdColumns(const Table& active) const {
+        const std::int16_t clicked = context_.iClickedCol;
+        if (&active == &app_.lvwIn) return {0};
+        if (&active == &app_.lvwXref) return {static_cast<std::int16_t>(clicked == 0 ? 2 : 0)};
+        if (&active == &app_.lvwFamilyXref) return {2};
+        if (&active == &app_.lvwKinship) return {1};
+        if (&active != &app_.lvwFamily) return {};
+        if (clicked == 1) return {2, 3};
+        if (clicked == 2) return {1, 3};
+        if (clicked == 3) return {1, 2};
+        return {1, 2, 3};
+    }
+    void MarkValues(Table& active, const Row& marked, TextView relation) {
+        const bool byPath = &active == &app_.lvwKinship && context_.iClickedCol == 0;
+        const auto valueOf = [&](const Row& row) {
+            const TextView cell = Cell(row, context_.iClickedCol);
+            return byPath ? Text(cell.substr(0, 6)) : modCalcOut::KeepAlphaNum(app_, cell, false);
+        };
+        const Text sRef = valueOf(marked);
+        for (std::int32_t k = 1; k <= active.Count(); ++k) {
+            const Row other = active.Item(k);
+            if (!Compares(valueOf(other), sRef, relation)) continue;
+            if (byPath && other.Text().ends_with("999999")) continue;
+            for (const std::int16_t column : IdColumns(active)) {
+                const auto row = app_.lvwIn.Find(Cell(other, column));
+                if (row) Set(*row);
+            }
+            if (&active == &app_.lvwOut) MarkGroup(modCalcOut::MakeSortKeyOut(app_.positions, other));
+        }
+    }
+    void MarkGroup(const Text& key) {
+        for (std::int32_t k = 1; k <= app_.lvwIn.Count(); ++k) {
+            const Row row = app_.lvwIn.Item(k);
+            if (modCalcOut::MakeSortKeyIn(app_.positions, row) == key) Set(row);
+        }
+    }
+
+    static constexpr std::int16_t kSpouses[] = {Family::IDHusb, Family::IDWife, Family::IDFams};
+    Application& app_;
+    const modSelectionIn::SelectionContext& context_;
+    bool bSelect_;
+};
+
+}  // namespace swiftroll::test
