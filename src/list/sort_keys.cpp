@@ -10,15 +10,15 @@ namespace {
 
 constexpr std::size_t kNumberWidth = 30;
 
-Text MakeSortKey(const Positions& positions, const PerColumn<std::int16_t>& keyColumns, const Row& row) {
-    Text sKey;
+void WriteSortKey(const Positions& positions, const PerColumn<std::int16_t>& keyColumns, const Row& row,
+                  Text& sKey) {
+    sKey.clear();
     for (std::int16_t position = 1; position <= positions.iPosNumber; ++position) {
         const std::int16_t column = keyColumns[position];
         if (column < 0) continue;
         sKey += '\\';
         AppendComparisonForm(sKey, row.Cell(column));
     }
-    return sKey;
 }
 
 Text FormOf(const Application& app, SortMode iMode, const Row& row, std::int16_t column) {
@@ -42,11 +42,23 @@ Text KeepAlphaNum(const OptionRecord& options, TextView sText, bool bForce) {
 }
 
 Text MakeSortKeyIn(const Positions& positions, const Row& row) {
-    return MakeSortKey(positions, positions.iKeyColIn, row);
+    Text sKey;
+    WriteSortKeyIn(positions, row, sKey);
+    return sKey;
 }
 
 Text MakeSortKeyOut(const Positions& positions, const Row& row) {
-    return MakeSortKey(positions, positions.iKeyColOut, row);
+    Text sKey;
+    WriteSortKeyOut(positions, row, sKey);
+    return sKey;
+}
+
+void WriteSortKeyIn(const Positions& positions, const Row& row, Text& sKey) {
+    WriteSortKey(positions, positions.iKeyColIn, row, sKey);
+}
+
+void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey) {
+    WriteSortKey(positions, positions.iKeyColOut, row, sKey);
 }
 
 void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {

@@ -14,6 +14,10 @@ Text MakeSortKeyIn(const Positions& positions, const Row& row);
 /// The key of a row of `lvwOut`: that of every individual of its group, as long as no column was moved.
 Text MakeSortKeyOut(const Positions& positions, const Row& row);
 
+/// The same, into a text that is kept for its memory where keys are many.
+void WriteSortKeyIn(const Positions& positions, const Row& row, Text& sKey);
+void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey);
+
 /// How `SortTable` compares: as right-justified numbers, by group key, or by folded text.
 enum class SortMode : std::int16_t { Number = 1, GroupKey = 2, Folded = 3 };
 

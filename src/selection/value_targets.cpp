@@ -31,6 +31,8 @@ Way WayOf(const TableSet& tables, const Table& table, std::int16_t iClickedCol) 
 
 ValueTargets::ValueTargets(Application& app, Table& table, const Way& way, Marker marker)
     : app_(app), marker_(marker), kind_(way.kind) {
+    // Growing would hash every key again.
+    if (kind_ == Way::Kind::GroupKey) groups_.reserve(static_cast<std::size_t>(table.Count()));
     for (const std::int16_t column : way.idColumns) {
         idColumns_.emplace_back(table, column, app.lvwIn.Store());
     }
@@ -38,7 +40,10 @@ ValueTargets::ValueTargets(Application& app, Table& table, const Way& way, Marke
 
 void ValueTargets::Take(const Row& row) {
     if (kind_ == Way::Kind::PathNumber && row.Text().ends_with(kEndOfPath)) return;
-    if (kind_ == Way::Kind::GroupKey) groups_.insert(modCalcOut::MakeSortKeyOut(app_.positions, row));
+    if (kind_ == Way::Kind::GroupKey) {
+        modCalcOut::WriteSortKeyOut(app_.positions, row, key_);
+        if (!groups_.contains(key_)) groups_.insert(groupKeys_.Get(groupKeys_.Put(key_)));
+    }
     for (const IdColumn& column : idColumns_) marker_.MarkIfKnown(column.Of(row));
 }
 
@@ -46,7 +51,8 @@ void ValueTargets::Finish() {
     if (groups_.empty()) return;
     for (std::int32_t i = 1; i <= app_.lvwIn.Count(); ++i) {
         const Row individual = app_.lvwIn.Item(i);
-        if (groups_.contains(modCalcOut::MakeSortKeyIn(app_.positions, individual))) marker_.Mark(individual);
+        modCalcOut::WriteSortKeyIn(app_.positions, individual, key_);
+        if (groups_.contains(key_)) marker_.Mark(individual);
     }
 }
 

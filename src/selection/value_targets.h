@@ -34,7 +34,9 @@ class ValueTargets {
     Marker marker_;
     Way::Kind kind_;
     std::vector<IdColumn> idColumns_;
-    boost::unordered_flat_set<Text> groups_;
+    TextStore groupKeys_;
+    boost::unordered_flat_set<TextView> groups_;  // texts of groupKeys_
+    Text key_;                                    // kept for its memory
 };
 
 }  // namespace swiftroll::modSelectionIn
