@@ -54,34 +54,65 @@ void ExtractWriter::OutIndividuals() {
     }
 }
 
+/// Families are written in an order that is not that of the file: some thousands of them at a time are read
+/// in the order of the file before they are written.
 void ExtractWriter::OutFamilies() {
-    for (const FamiliesToSave::Entry& entry : colFamToSave_.InOrder()) {
-        const auto family = app_.lvwFamily.Find(RowKey(entry.sFam));
-        if (!family) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(entry.sFam));
-        const auto isMarkedSpouse = [&](std::int16_t column) {
-            const TextRef spouse = family->Ref(column);
-            return !spouse.IsEmpty() &&
-                   std::find(entry.sIndis.begin(), entry.sIndis.end(), spouse) != entry.sIndis.end();
-        };
-        const int spouses = (isMarkedSpouse(Family::IDHusb) ? 1 : 0) +
-                            (isMarkedSpouse(Family::IDWife) ? 1 : 0) +
-                            (isMarkedSpouse(Family::IDFams) ? 1 : 0);
-        OutGedFamilyTag(*family, entry, spouses >= 2);
+    constexpr std::size_t kAtATime = std::size_t{1} << 16;
+    colFamToSave_.Arrange();
+    for (std::size_t first = 0; first < colFamToSave_.Count(); first += kAtATime) {
+        const std::size_t last = std::min(first + kAtATime, colFamToSave_.Count());
+        std::vector<FamilyToWrite> families;
+        families.reserve(last - first);
+        for (std::size_t i = first; i < last; ++i) families.push_back(Prepare(colFamToSave_[i]));
+        ReadRecords(families);
+        for (const FamilyToWrite& family : families) OutGedFamilyTag(family);
+    }
+}
+
+ExtractWriter::FamilyToWrite ExtractWriter::Prepare(const FamiliesToSave::Entry& entry) {
+    const auto family = app_.lvwFamily.Find(RowKey(entry.sFam));
+    if (!family) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(entry.sFam));
+    const auto isMarkedSpouse = [&](std::int16_t column) {
+        const TextRef spouse = family->Ref(column);
+        return !spouse.IsEmpty() &&
+               std::find(entry.sIndis.begin(), entry.sIndis.end(), spouse) != entry.sIndis.end();
+    };
+    const int spouses = (isMarkedSpouse(Family::IDHusb) ? 1 : 0) + (isMarkedSpouse(Family::IDWife) ? 1 : 0) +
+                        (isMarkedSpouse(Family::IDFams) ? 1 : 0);
+    return {entry, RangeOfTag(family->Tag()), spouses >= 2, 0, 0};
+}
+
+void ExtractWriter::ReadRecords(std::vector<FamilyToWrite>& families) {
+    std::vector<FamilyToWrite*> inFileOrder;
+    for (FamilyToWrite& family : families) {
+        if (family.bFull && family.range) inFileOrder.push_back(&family);
+    }
+    std::sort(inFileOrder.begin(), inFileOrder.end(), [](const FamilyToWrite* a, const FamilyToWrite* b) {
+        return a->range->start < b->range->start;
+    });
+    familyRecords_.clear();
+    for (FamilyToWrite* family : inFileOrder) {
+        const TextView record = source_.Read(*family->range);
+        family->place = familyRecords_.size();
+        family->length = record.size();
+        familyRecords_ += record;
     }
 }
 
 /// A family with both spouses keeps all that is told of it. Another one is reduced to its links: what was
 /// told of the couple is not for those who are left.
-void ExtractWriter::OutGedFamilyTag(const Row& family, const FamiliesToSave::Entry& entry, bool bFull) {
-    const auto range = RangeOfTag(family.Tag());
-    if (!range) return;
+void ExtractWriter::OutGedFamilyTag(const FamilyToWrite& family) {
+    if (!family.range) return;
     TextStore& store = app_.lvwFamily.Store();
+    const FamiliesToSave::Entry& entry = family.entry;
     ++families_;
-    if (bFull) {
-        const Text record = RemoveIndis(source_.Read(*range), [&](TextView sId) {
+    if (family.bFull) {
+        const auto isMember = [&](TextView sId) {
             return std::any_of(entry.sIndis.begin(), entry.sIndis.end(),
                                [&](TextRef member) { return store.Get(member) == sId; });
-        });
+        };
+        const TextView whole = TextView(familyRecords_).substr(family.place, family.length);
+        const TextView record = RemoveIndis(whole, isMember, reduced_);
         NoteReferences(record);
         Out(record);
         return;
@@ -120,11 +151,11 @@ void ExtractWriter::OutGedTag(const RecordRange& range) {
 }
 
 void ExtractWriter::NoteReferences(TextView sRecord) {
-    for (ReferenceKey& key : FindOutTags(sRecord)) {
-        if (!sTagsSeen_.insert(UpperCase(key)).second) continue;
+    for (const Reference& reference : FindOutTags(sRecord)) {
+        if (!sTagsSeen_.Add(reference.key, true)) continue;
         // The submission stands behind the head already, whoever refers to it.
-        if (lines_.subn.end != 0 && lines_.colRecords().Find(key) == lines_.subn) continue;
-        colTagsToSave_.push_back(std::move(key));
+        if (lines_.subn.end != 0 && lines_.colRecords().Find(reference.key) == lines_.subn) continue;
+        colTagsToSave_.emplace_back(reference.key);
     }
 }
 
@@ -134,9 +165,11 @@ void ExtractWriter::Out(TextView bytes) {
 }
 
 void ExtractWriter::Flush() {
-    const Text bytes = std::exchange(buffer_, {});
-    out_.Write(bytes);
-    buffer_.reserve(2 * kBufferSize);
+    // A buffer that could not be written is not tried again.
+    if (std::exchange(isWriting_, true)) return;
+    out_.Write(buffer_);
+    buffer_.clear();
+    isWriting_ = false;
 }
 
 }  // namespace swiftroll::modSaveGed

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <boost/unordered/unordered_flat_set.hpp>
 #include <deque>
 
 #include "app/application.h"
 #include "extract/families_to_save.h"
 #include "extract/record_lines.h"
 #include "extract/record_source.h"
+#include "tables/keyed_collection.h"
 
 namespace swiftroll::modSaveGed {
 
@@ -33,7 +33,16 @@ class ExtractWriter {
     void OutGedTag(const modReadGedcom::RecordRange& range);
     void OutIndividuals();
     void OutFamilies();
-    void OutGedFamilyTag(const Row& family, const FamiliesToSave::Entry& entry, bool bFull);
+    /// A family, and its record in `familyRecords_` when it is written as it is.
+    struct FamilyToWrite {
+        FamiliesToSave::Entry entry;
+        std::optional<modReadGedcom::RecordRange> range;
+        bool bFull;
+        std::size_t place, length;
+    };
+    FamilyToWrite Prepare(const FamiliesToSave::Entry& entry);
+    void ReadRecords(std::vector<FamilyToWrite>& families);
+    void OutGedFamilyTag(const FamilyToWrite& family);
     void OutReferencedRecords();
     void NoteReferences(TextView sRecord);
     void Out(TextView bytes);
@@ -45,8 +54,11 @@ class ExtractWriter {
     File& out_;
     Text buffer_;
     FamiliesToSave colFamToSave_;
-    std::deque<ReferenceKey> colTagsToSave_;
-    boost::unordered_flat_set<Text> sTagsSeen_;  // in capitals: records are found whatever the case
+    std::deque<Text> colTagsToSave_;
+    KeyedCollection<bool> sTagsSeen_;  // records are found whatever the case, and so are these
+    Text familyRecords_;
+    Text reduced_;            // a family without some members, kept for its memory
+    bool isWriting_ = false;  // what is in the buffer is being written
     std::int32_t individuals_ = 0, families_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "extract/families_to_save.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "tables/column_numbers.h"
@@ -28,24 +29,25 @@ void FamiliesToSave::AddFamToSave(TextRef sIndi) {
         added_.push_back({families_[i], sIndi});
 }
 
-std::vector<FamiliesToSave::Entry> FamiliesToSave::InOrder() const {
+void FamiliesToSave::Arrange() {
     constexpr std::uint32_t kNone = 0xFFFFFFFFu;
     // From the last membership back, so that the first one met of a family gives its place.
     std::vector<std::uint32_t> placeOf(first_.size(), kNone);
-    std::vector<TextRef> order;
+    order_.clear();
     for (auto member = added_.rbegin(); member != added_.rend(); ++member) {
         std::uint32_t& place = placeOf[member->sFam.Symbol()];
         if (place != kNone) continue;
-        place = static_cast<std::uint32_t>(order.size());
-        order.push_back(member->sFam);
+        place = static_cast<std::uint32_t>(order_.size());
+        order_.push_back(member->sFam);
     }
-    std::vector<Entry> entries(order.size());
-    for (const Membership& member : added_) {
-        Entry& entry = entries[order.size() - 1 - placeOf[member.sFam.Symbol()]];
-        entry.sFam = member.sFam;
-        entry.sIndis.push_back(member.sIndi);
-    }
-    return entries;
+    std::reverse(order_.begin(), order_.end());
+    const auto placeFromStart = [&](TextRef sFam) { return order_.size() - 1 - placeOf[sFam.Symbol()]; };
+    firstMember_.assign(order_.size() + 1, 0);
+    for (const Membership& member : added_) ++firstMember_[placeFromStart(member.sFam) + 1];
+    std::partial_sum(firstMember_.begin(), firstMember_.end(), firstMember_.begin());
+    members_.resize(added_.size());
+    std::vector<std::uint32_t> next = firstMember_;
+    for (const Membership& member : added_) members_[next[placeFromStart(member.sFam)]++] = member.sIndi;
 }
 
 }  // namespace swiftroll::modSaveGed

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "tables/table.h"
@@ -17,10 +18,16 @@ class FamiliesToSave {
 
     struct Entry {
         TextRef sFam;
-        std::vector<TextRef> sIndis;  // members in the order in which they were added
+        std::span<const TextRef> sIndis;  // members in the order in which they were added
     };
-    /// All families in their order.
-    std::vector<Entry> InOrder() const;
+    /// Puts the families in their order; to be called when all individuals were added.
+    void Arrange();
+    std::size_t Count() const { return order_.size(); }
+    /// A family by its place from 0.
+    Entry operator[](std::size_t i) const {
+        return {order_[i],
+                std::span(members_).subspan(firstMember_[i], firstMember_[i + 1] - firstMember_[i])};
+    }
 
   private:
     struct Membership {
@@ -31,6 +38,10 @@ class FamiliesToSave {
     std::vector<std::uint32_t> first_;
     std::vector<TextRef> families_;
     std::vector<Membership> added_;
+    // The families in order, and the members of the i-th from firstMember_[i] on, up to that of the next.
+    std::vector<TextRef> order_;
+    std::vector<std::uint32_t> firstMember_;
+    std::vector<TextRef> members_;
 };
 
 }  // namespace swiftroll::modSaveGed

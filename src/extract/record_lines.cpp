@@ -1,32 +1,48 @@
 #include "extract/record_lines.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-
-#include "text/edit.h"
+#include <cstdint>
 
 namespace swiftroll::modSaveGed {
 namespace {
 
-constexpr TextView sRefTags[] = {"OBJE", "NOTE", "REPO", "SOUR", "SUBM", "SUBN"};
 constexpr std::size_t kTagLength = 4;
-constexpr TextView kLineEnds = "\r\n";
+
+/// A tag of four characters as a number, which compares at once.
+using TagCode = std::uint32_t;
+constexpr TagCode CodeOf(TextView tag) {
+    TagCode code = 0;
+    for (std::size_t i = 0; i < kTagLength; ++i) code = code << 8 | static_cast<unsigned char>(tag[i]);
+    return code;
+}
+constexpr TagCode kNoTag = 0;
+constexpr TagCode sRefTags[] = {CodeOf("OBJE"), CodeOf("NOTE"), CodeOf("REPO"),
+                                CodeOf("SOUR"), CodeOf("SUBM"), CodeOf("SUBN")};
+constexpr TagCode kMemberTags[] = {CodeOf("HUSB"), CodeOf("WIFE"), CodeOf("CHIL")};
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 
 /// A reference at a place of a record, if the line has nothing else behind it; empty otherwise.
 TextView ReferenceAt(TextView record, std::size_t at) {
-    const std::size_t end = record.find_first_of("@\r\n", at + 1);
-    if (end == TextView::npos || record[end] != '@' || end == at + 1) return {};
-    const std::size_t rest = record.find_first_not_of(' ', end + 1);
-    if (rest != TextView::npos && kLineEnds.find(record[rest]) == TextView::npos) return {};
+    std::size_t end = at + 1;
+    while (end < record.size() && record[end] != '@' && !IsLineEnd(record[end])) ++end;
+    if (end == record.size() || record[end] != '@' || end == at + 1) return {};
+    std::size_t rest = end + 1;
+    while (rest < record.size() && record[rest] == ' ') ++rest;
+    if (rest < record.size() && !IsLineEnd(record[rest])) return {};
     return record.substr(at, end + 1 - at);
 }
 
-/// The tag of the line whose value begins at a place: what stands between a level at the head of the line and
-/// one blank. Empty when there is no such tag of four characters.
-TextView TagBefore(TextView record, std::size_t at) {
+/// What stands before the value of a line: a level at the head of the line, and a tag of four characters.
+struct LineHead {
+    TagCode tag = kNoTag;
+    std::size_t line = 0;  // where the line begins
+    TextView level;
+};
+
+/// The head of the line whose value begins at a place; without a tag when there is none such.
+LineHead HeadBefore(TextView record, std::size_t at) {
     constexpr std::size_t kLeast = kTagLength + 3;  // a digit and two blanks
     if (at < kLeast || record[at - 1] != ' ') return {};
     const std::size_t tag = at - 1 - kTagLength;
@@ -35,63 +51,64 @@ TextView TagBefore(TextView record, std::size_t at) {
     const std::size_t levelEnd = i;
     while (i > 0 && IsDigit(record[i - 1])) --i;
     if (levelEnd == tag || i == levelEnd) return {};
+    const TextView level = record.substr(i, levelEnd - i);
     while (i > 0 && record[i - 1] == ' ') --i;
-    if (i > 0 && kLineEnds.find(record[i - 1]) == TextView::npos) return {};
-    return record.substr(tag, kTagLength);
+    if (i > 0 && !IsLineEnd(record[i - 1])) return {};
+    return {CodeOf(record.substr(tag, kTagLength)), i, level};
 }
 
-/// The end of the line that begins at a place, its line end included.
+/// Calls `visit(head, reference)` for the lines of a record whose value is a reference. "@" is rare beside
+/// all the rest of a record.
+template <class Visitor>
+void VisitReferences(TextView record, Visitor visit) {
+    for (std::size_t at = record.find('@'); at != TextView::npos; at = record.find('@', at + 1)) {
+        const LineHead head = HeadBefore(record, at);
+        if (head.tag == kNoTag) continue;
+        const TextView reference = ReferenceAt(record, at);
+        if (reference.empty()) continue;
+        visit(head, reference);
+        at += reference.size() - 1;
+    }
+}
+
+/// The end of a line, its line end included.
 std::size_t EndOfLine(TextView record, std::size_t line) {
-    const std::size_t end = record.find_first_of(kLineEnds, line);
-    if (end == TextView::npos) return record.size();
-    return record.substr(end, 2) == kLineEnds ? end + 2 : end + 1;
-}
-
-/// The value of a line of level 1 with the tag of a family member, if it is a reference.
-TextView MemberOf(TextView line) {
-    const std::size_t level = line.find_first_not_of(' ');
-    if (level == TextView::npos || line[level] != '1') return {};
-    const std::size_t at = line.find('@');
-    if (at == TextView::npos) return {};
-    const TextView tag = TagBefore(line, at);
-    if (tag != "HUSB" && tag != "WIFE" && tag != "CHIL") return {};
-    return line.substr(level + 1, 1) == " " ? ReferenceAt(line, at) : TextView();
+    std::size_t end = line;
+    while (end < record.size() && !IsLineEnd(record[end])) ++end;
+    if (end == record.size()) return end;
+    return record.substr(end, kLineEnd.size()) == kLineEnd ? end + kLineEnd.size() : end + 1;
 }
 
 }  // namespace
 
-std::vector<ReferenceKey> FindOutTags(TextView sRecord) {
-    std::array<std::vector<ReferenceKey>, std::size(sRefTags)> found;
-    bool any = false;
-    // "@" is rare beside all the rest of a record.
-    for (std::size_t at = sRecord.find('@'); at != TextView::npos; at = sRecord.find('@', at + 1)) {
-        const TextView tag = TagBefore(sRecord, at);
-        const auto* const place = std::find(std::begin(sRefTags), std::end(sRefTags), tag);
-        if (tag.empty() || place == std::end(sRefTags)) continue;
-        const TextView reference = ReferenceAt(sRecord, at);
-        if (reference.empty()) continue;
-        found[static_cast<std::size_t>(place - std::begin(sRefTags))].push_back(
-            Concat({tag, " ", reference}));
-        any = true;
-        at += reference.size() - 1;
+std::vector<Reference> FindOutTags(TextView sRecord) {
+    std::vector<Reference> found;
+    VisitReferences(sRecord, [&](const LineHead& head, TextView reference) {
+        const auto* const tag = std::find(std::begin(sRefTags), std::end(sRefTags), head.tag);
+        if (tag == std::end(sRefTags)) return;
+        const auto place = static_cast<std::size_t>(reference.data() - sRecord.data());
+        found.push_back({static_cast<int>(tag - std::begin(sRefTags)),
+                         sRecord.substr(place - 1 - kTagLength, kTagLength + 1 + reference.size())});
+    });
+    if (found.size() > 1) {
+        std::stable_sort(found.begin(), found.end(),
+                         [](const Reference& a, const Reference& b) { return a.rank < b.rank; });
     }
-    std::vector<ReferenceKey> keys;
-    for (std::size_t tag = 0; any && tag < found.size(); ++tag) {
-        keys.insert(keys.end(), found[tag].begin(), found[tag].end());
-    }
-    return keys;
+    return found;
 }
 
-Text RemoveIndis(TextView sRecord, const std::function<bool(TextView sId)>& isKept) {
-    Text kept;
-    kept.reserve(sRecord.size());
-    for (std::size_t line = 0; line < sRecord.size();) {
-        const std::size_t end = EndOfLine(sRecord, line);
-        const TextView text = sRecord.substr(line, end - line);
-        const TextView member = MemberOf(text);
-        if (member.empty() || isKept(member)) kept += text;
-        line = end;
-    }
+TextView RemoveIndis(TextView sRecord, const std::function<bool(TextView sId)>& isKept, Text& kept) {
+    std::size_t copied = 0;
+    kept.clear();
+    VisitReferences(sRecord, [&](const LineHead& head, TextView reference) {
+        const bool isMember = head.level == "1" && std::find(std::begin(kMemberTags), std::end(kMemberTags),
+                                                             head.tag) != std::end(kMemberTags);
+        if (!isMember || isKept(reference)) return;
+        kept += sRecord.substr(copied, head.line - copied);
+        copied = EndOfLine(sRecord, head.line);
+    });
+    if (copied == 0) return sRecord;
+    kept += sRecord.substr(copied);
     return kept;
 }
 

@@ -9,10 +9,10 @@
 namespace swiftroll::modSaveGed {
 namespace {
 
-constexpr std::size_t kReadAhead = std::size_t{1} << 20;
-constexpr std::size_t kSinglePiece = std::size_t{1} << 13;
+constexpr std::size_t kReadAhead = std::size_t{1} << 18;
+constexpr std::size_t kSinglePiece = std::size_t{1} << 12;
 // What lies no further behind the last piece is taken for its continuation.
-constexpr std::int64_t kNear = 1 << 13;
+constexpr std::int64_t kNear = 1 << 15;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ TextView RecordSource::Read(const modReadGedcom::RecordRange& range) {
     if (start < start_ || start + static_cast<std::int64_t>(length) > end) {
         const bool continues = filled_ > 0 && start >= start_ && start <= end + kNear;
         const std::size_t wanted = std::max(length, continues ? kReadAhead : kSinglePiece);
-        buffer_.resize(std::max(buffer_.size(), wanted));
+        if (buffer_.size() < wanted) buffer_.resize(wanted);
         start_ = start;
         filled_ = 0;
         while (filled_ < length) {

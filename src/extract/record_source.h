@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "app/ports.h"
@@ -7,7 +8,7 @@
 
 namespace swiftroll::modSaveGed {
 
-/// Gives records of the input file by their ranges. Reads ahead as long as they follow each other, so that
+/// Gives records of the input file by their ranges. It reads ahead as long as they follow each other, so that
 /// copying a whole file reads it in large pieces.
 class RecordSource {
   public:

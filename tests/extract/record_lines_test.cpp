@@ -8,8 +8,16 @@
 namespace swiftroll::test {
 namespace {
 
-using modSaveGed::FindOutTags;
-using modSaveGed::RemoveIndis;
+std::vector<Text> FindOutTags(TextView record) {
+    std::vector<Text> keys;
+    for (const auto& reference : modSaveGed::FindOutTags(record)) keys.emplace_back(reference.key);
+    return keys;
+}
+
+Text RemoveIndis(TextView record, const std::function<bool(TextView)>& isKept) {
+    Text kept;
+    return Text(modSaveGed::RemoveIndis(record, isKept, kept));
+}
 
 TEST(FindOutTags, TakesWholeReferencesOnly) {
     EXPECT_EQ(
