@@ -57,13 +57,16 @@ void ExtractWriter::OutIndividuals() {
 /// Families are written in an order that is not that of the file: some thousands of them at a time are read
 /// in the order of the file before they are written.
 void ExtractWriter::OutFamilies() {
-    constexpr std::size_t kAtATime = std::size_t{1} << 16;
+    constexpr std::size_t kAtATime = std::size_t{1} << 17, kLookAhead = 8;
     colFamToSave_.Arrange();
     for (std::size_t first = 0; first < colFamToSave_.Count(); first += kAtATime) {
         const std::size_t last = std::min(first + kAtATime, colFamToSave_.Count());
         std::vector<FamilyToWrite> families;
         families.reserve(last - first);
-        for (std::size_t i = first; i < last; ++i) families.push_back(Prepare(colFamToSave_[i]));
+        for (std::size_t i = first; i < last; ++i) {
+            if (i + kLookAhead < last) app_.lvwFamily.Prefetch(RowKey(colFamToSave_[i + kLookAhead].sFam));
+            families.push_back(Prepare(colFamToSave_[i]));
+        }
         ReadRecords(families);
         for (const FamilyToWrite& family : families) OutGedFamilyTag(family);
     }
@@ -112,7 +115,7 @@ void ExtractWriter::OutGedFamilyTag(const FamilyToWrite& family) {
                                [&](TextRef member) { return store.Get(member) == sId; });
         };
         const TextView whole = TextView(familyRecords_).substr(family.place, family.length);
-        const TextView record = RemoveIndis(whole, isMember, reduced_);
+        const TextView record = entry.isComplete ? whole : RemoveIndis(whole, isMember, reduced_);
         NoteReferences(record);
         Out(record);
         return;

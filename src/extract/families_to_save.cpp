@@ -9,18 +9,24 @@ namespace swiftroll::modSaveGed {
 
 FamiliesToSave::FamiliesToSave(Table& lvwFamilyXref)
     : first_(lvwFamilyXref.Store().InternedCount() + 1),
-      families_(static_cast<std::size_t>(lvwFamilyXref.Count())) {
-    const auto visit = [&](auto&& take) {
-        for (std::int32_t i = 1; i <= lvwFamilyXref.Count(); ++i) {
-            const Row member = lvwFamilyXref.Item(i);
-            const TextRef indi = member.Ref(FamilyXref::IDIndi);
-            if (!indi.IsEmpty()) take(indi.Symbol(), member.Ref(FamilyXref::IDFam));
-        }
-    };
-    visit([&](std::uint32_t indi, TextRef) { ++first_[indi + 1]; });
+      families_(static_cast<std::size_t>(lvwFamilyXref.Count())),
+      sizes_(first_.size()) {
+    constexpr std::int32_t kLookAhead = 16;
+    std::vector<Membership> all;
+    all.reserve(families_.size());
+    for (std::int32_t i = 1; i <= lvwFamilyXref.Count(); ++i) {
+        lvwFamilyXref.Prefetch(i + kLookAhead);
+        const Row member = lvwFamilyXref.Item(i);
+        const TextRef indi = member.Ref(FamilyXref::IDIndi), family = member.Ref(FamilyXref::IDFam);
+        if (!indi.IsEmpty() && !family.IsEmpty()) all.push_back({family, indi});
+    }
+    for (const Membership& member : all) {
+        ++first_[member.sIndi.Symbol() + 1];
+        ++sizes_[member.sFam.Symbol()];
+    }
     std::partial_sum(first_.begin(), first_.end(), first_.begin());
     std::vector<std::uint32_t> next = first_;
-    visit([&](std::uint32_t indi, TextRef family) { families_[next[indi]++] = family; });
+    for (const Membership& member : all) families_[next[member.sIndi.Symbol()]++] = member.sFam;
 }
 
 void FamiliesToSave::AddFamToSave(TextRef sIndi) {

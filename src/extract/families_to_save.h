@@ -19,14 +19,16 @@ class FamiliesToSave {
     struct Entry {
         TextRef sFam;
         std::span<const TextRef> sIndis;  // members in the order in which they were added
+        bool isComplete;                  // nobody of the family is missing
     };
     /// Puts the families in their order; to be called when all individuals were added.
     void Arrange();
     std::size_t Count() const { return order_.size(); }
     /// A family by its place from 0.
     Entry operator[](std::size_t i) const {
-        return {order_[i],
-                std::span(members_).subspan(firstMember_[i], firstMember_[i + 1] - firstMember_[i])};
+        const std::uint32_t count = firstMember_[i + 1] - firstMember_[i];
+        return {order_[i], std::span(members_).subspan(firstMember_[i], count),
+                count == sizes_[order_[i].Symbol()]};
     }
 
   private:
@@ -37,6 +39,7 @@ class FamiliesToSave {
     // Families of each individual by the number of its identifier: from first_[n] on, up to first_[n + 1].
     std::vector<std::uint32_t> first_;
     std::vector<TextRef> families_;
+    std::vector<std::uint32_t> sizes_;  // number of members of each family, by the number of its identifier
     std::vector<Membership> added_;
     // The families in order, and the members of the i-th from firstMember_[i] on, up to that of the next.
     std::vector<TextRef> order_;

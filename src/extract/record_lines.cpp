@@ -15,7 +15,6 @@ constexpr TagCode CodeOf(TextView tag) {
     for (std::size_t i = 0; i < kTagLength; ++i) code = code << 8 | static_cast<unsigned char>(tag[i]);
     return code;
 }
-constexpr TagCode kNoTag = 0;
 constexpr TagCode sRefTags[] = {CodeOf("OBJE"), CodeOf("NOTE"), CodeOf("REPO"),
                                 CodeOf("SOUR"), CodeOf("SUBM"), CodeOf("SUBN")};
 constexpr TagCode kMemberTags[] = {CodeOf("HUSB"), CodeOf("WIFE"), CodeOf("CHIL")};
@@ -34,14 +33,14 @@ TextView ReferenceAt(TextView record, std::size_t at) {
     return record.substr(at, end + 1 - at);
 }
 
-/// What stands before the value of a line: a level at the head of the line, and a tag of four characters.
+/// What stands before the tag of a line: a level at the head of the line.
 struct LineHead {
-    TagCode tag = kNoTag;
     std::size_t line = 0;  // where the line begins
     TextView level;
 };
 
-/// The head of the line whose value begins at a place; without a tag when there is none such.
+/// The head of the line whose value, behind a tag of four characters, begins at a place; without a level when
+/// it is no such place.
 LineHead HeadBefore(TextView record, std::size_t at) {
     constexpr std::size_t kLeast = kTagLength + 3;  // a digit and two blanks
     if (at < kLeast || record[at - 1] != ' ') return {};
@@ -54,19 +53,24 @@ LineHead HeadBefore(TextView record, std::size_t at) {
     const TextView level = record.substr(i, levelEnd - i);
     while (i > 0 && record[i - 1] == ' ') --i;
     if (i > 0 && !IsLineEnd(record[i - 1])) return {};
-    return {CodeOf(record.substr(tag, kTagLength)), i, level};
+    return {i, level};
 }
 
-/// Calls `visit(head, reference)` for the lines of a record whose value is a reference. "@" is rare beside
-/// all the rest of a record.
-template <class Visitor>
-void VisitReferences(TextView record, Visitor visit) {
+/// Calls `visit(head, reference, rank)` for the lines of a record with one of the tags whose value is a
+/// reference; the rank is that of the tag. "@" is rare beside all the rest of a record, and most of those few
+/// stand behind other tags.
+template <std::size_t kCount, class Visitor>
+void VisitReferences(TextView record, const TagCode (&tags)[kCount], Visitor visit) {
     for (std::size_t at = record.find('@'); at != TextView::npos; at = record.find('@', at + 1)) {
+        if (at <= kTagLength) continue;
+        const TagCode code = CodeOf(record.substr(at - 1 - kTagLength, kTagLength));
+        const auto* const tag = std::find(std::begin(tags), std::end(tags), code);
+        if (tag == std::end(tags)) continue;
         const LineHead head = HeadBefore(record, at);
-        if (head.tag == kNoTag) continue;
+        if (head.level.empty()) continue;
         const TextView reference = ReferenceAt(record, at);
         if (reference.empty()) continue;
-        visit(head, reference);
+        visit(head, reference, static_cast<int>(tag - std::begin(tags)));
         at += reference.size() - 1;
     }
 }
@@ -83,12 +87,9 @@ std::size_t EndOfLine(TextView record, std::size_t line) {
 
 std::vector<Reference> FindOutTags(TextView sRecord) {
     std::vector<Reference> found;
-    VisitReferences(sRecord, [&](const LineHead& head, TextView reference) {
-        const auto* const tag = std::find(std::begin(sRefTags), std::end(sRefTags), head.tag);
-        if (tag == std::end(sRefTags)) return;
+    VisitReferences(sRecord, sRefTags, [&](const LineHead&, TextView reference, int rank) {
         const auto place = static_cast<std::size_t>(reference.data() - sRecord.data());
-        found.push_back({static_cast<int>(tag - std::begin(sRefTags)),
-                         sRecord.substr(place - 1 - kTagLength, kTagLength + 1 + reference.size())});
+        found.push_back({rank, sRecord.substr(place - 1 - kTagLength, kTagLength + 1 + reference.size())});
     });
     if (found.size() > 1) {
         std::stable_sort(found.begin(), found.end(),
@@ -100,10 +101,8 @@ std::vector<Reference> FindOutTags(TextView sRecord) {
 TextView RemoveIndis(TextView sRecord, const std::function<bool(TextView sId)>& isKept, Text& kept) {
     std::size_t copied = 0;
     kept.clear();
-    VisitReferences(sRecord, [&](const LineHead& head, TextView reference) {
-        const bool isMember = head.level == "1" && std::find(std::begin(kMemberTags), std::end(kMemberTags),
-                                                             head.tag) != std::end(kMemberTags);
-        if (!isMember || isKept(reference)) return;
+    VisitReferences(sRecord, kMemberTags, [&](const LineHead& head, TextView reference, int) {
+        if (head.level != "1" || isKept(reference)) return;
         kept += sRecord.substr(copied, head.line - copied);
         copied = EndOfLine(sRecord, head.line);
     });
