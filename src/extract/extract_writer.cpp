@@ -117,7 +117,7 @@ void ExtractWriter::OutGedFamilyTag(const FamilyToWrite& family) {
         const TextView whole = TextView(familyRecords_).substr(family.place, family.length);
         const TextView record = entry.isComplete ? whole : RemoveIndis(whole, isMember, reduced_);
         NoteReferences(record);
-        Out(record);
+        OutRecord(record);
         return;
     }
     Out(Concat({"0 ", store.Get(entry.sFam), " FAM", kLineEnd}));
@@ -150,7 +150,7 @@ void ExtractWriter::OutReferencedRecords() {
 void ExtractWriter::OutGedTag(const RecordRange& range) {
     const TextView record = source_.Read(range);
     NoteReferences(record);
-    Out(record);
+    OutRecord(record);
 }
 
 void ExtractWriter::NoteReferences(TextView sRecord) {
@@ -160,6 +160,12 @@ void ExtractWriter::NoteReferences(TextView sRecord) {
         if (lines_.subn.end != 0 && lines_.colRecords().Find(reference.key) == lines_.subn) continue;
         colTagsToSave_.emplace_back(reference.key);
     }
+}
+
+/// The last line of a file may have no line end; what follows it in the extract must be a line of its own.
+void ExtractWriter::OutRecord(TextView sRecord) {
+    Out(sRecord);
+    if (!sRecord.empty() && kLineEnd.find(sRecord.back()) == TextView::npos) Out(kLineEnd);
 }
 
 void ExtractWriter::Out(TextView bytes) {

@@ -45,6 +45,7 @@ class ExtractWriter {
     void OutGedFamilyTag(const FamilyToWrite& family);
     void OutReferencedRecords();
     void NoteReferences(TextView sRecord);
+    void OutRecord(TextView sRecord);
     void Out(TextView bytes);
     TextView RoleOf(const FamiliesToSave::Entry& entry, TextRef sIndi);
 

@@ -17,17 +17,17 @@ struct KinshipCodes {
     std::vector<TextView> asCode;  // from lFirst on
 };
 
-/// The codes of a path of `lvwKinship`, which stands in the order of `SeqNr`, from the row `lRow` on, which need
-/// not be its first. Beside spouses, `bSpouses`, couples are wider. A row whose type shows no way forward,
-/// "ALIA" for one, ends the drawing.
+/// The codes of a path of `lvwKinship`, which stands in the order of `SeqNr`, from the row `lRow` on, which
+/// need not be its first. Beside spouses, `bSpouses`, couples are wider. A row whose type shows no way
+/// forward, "ALIA" for one, ends the drawing.
 /// @throws Failure when there is no such row
 KinshipCodes MakeKinshipCodes(Application& app, std::int32_t lRow, bool bSpouses);
 
 /// What stands for a spouse who is not known.
 inline constexpr TextView kUnknownID = "UnknownID";
 
-/// The other spouse of a family: the wife of a man, the husband of a woman. `kUnknownID` when none is known, or
-/// when there is no record of the one who is named; empty after a failure, which is reported.
+/// The other spouse of a family: the wife of a man, the husband of a woman. `kUnknownID` when none is known,
+/// or when there is no record of the one who is named; empty after a failure, which is reported.
 Text GetSpouseID(Application& app, TextView sIndiID, TextView sFamID);
 
 }  // namespace swiftroll::modKinship

@@ -87,6 +87,12 @@ TEST(Extract, FamiliesKnownFromIndividualsAloneHaveNoRecord) {
               "0 @F2@ FAM\r\n1 FAMS @I1@\r\n1 CHIL @I2@\r\n0 TRLR\r\n");
 }
 
+TEST(Extract, ALastLineWithoutLineEndGetsOne) {
+    Extract t("0 @I1@ INDI\n1 SEX M");
+    t.MarkAll();
+    EXPECT_EQ(t.Save(), "0 @I1@ INDI\n1 SEX M\r\n0 TRLR\r\n");
+}
+
 TEST(Extract, WhatGoesWrongIsToldAndLeavesWhatWasWritten) {
     Extract t(WholeFile());
     t.Mark({"@I1@"});
