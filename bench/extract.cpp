@@ -69,7 +69,9 @@ int main(int argumentCount, char** arguments) {
     swiftroll::platform::UserFolders folders;
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
-    swiftroll::frmMain main({dialogs, clock, pump, files, folders, status, machine});
+    swiftroll::NoDesktop desktop;
+    swiftroll::frmMain main(
+        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop});
     main.Form_Load({});
     main.cboGedIn.SetText(swiftroll::FileNameToText(file.string()));
     main.cmdLoad.Click();

@@ -16,6 +16,7 @@ class QuietDialogs : public swiftroll::Dialogs {
     bool AskFile(const FileRequest&, swiftroll::Text&) override { return false; }
     bool AskColour(std::uint32_t&) override { return false; }
     bool AskFont(swiftroll::CellFont&) override { return false; }
+    void PopUp(const swiftroll::Menu&) override {}
 };
 
 class QuietStatus : public swiftroll::StatusObserver {

@@ -92,7 +92,9 @@ class SelectionBench {
     swiftroll::platform::UserFolders folders_;
     bench::QuietStatus status_;
     swiftroll::platform::ThisMachine machine_;
-    swiftroll::frmMain main_{{dialogs_, clock_, pump_, files_, folders_, status_, machine_}};
+    swiftroll::NoDesktop desktop_;
+    swiftroll::frmMain main_{
+        {dialogs_, clock_, pump_, files_, folders_, status_, machine_, desktop_, desktop_, desktop_}};
     double slowest_ = 0;
 };
 

@@ -30,7 +30,9 @@ struct Bench {
     swiftroll::platform::UserFolders folders;
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
-    swiftroll::frmMain main{{dialogs, clock, pump, files, folders, status, machine}};
+    swiftroll::NoDesktop desktop;
+    swiftroll::frmMain main{
+        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop}};
 };
 
 /// The worst figures of all cases, for the targets.

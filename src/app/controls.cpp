@@ -47,6 +47,11 @@ void Window::SetFocus(Control& control) {
     Fire(OnFocusChanged);
 }
 
+void Window::LeaveFocus() {
+    const Control* previous = std::exchange(activeControl_, nullptr);
+    if (previous != nullptr) previous->LoseFocus();
+}
+
 void Window::Hide() {
     visible_ = false;
     Fire(OnHide);

@@ -27,6 +27,8 @@ class Window {
     Control* ActiveControl() const { return activeControl_; }
     /// Gives a control the focus: the one that had it loses it first.
     void SetFocus(Control& control);
+    /// Takes the focus from the control that has it, as when a table gets it.
+    void LeaveFocus();
     /// For the presentation, which moves its own focus after.
     std::function<void()> OnFocusChanged;
 
@@ -242,6 +244,13 @@ class Command : public Control {
     void Click() const;
     Text Key;
     Event Operation;
+};
+
+/// A command of a menu, with the entries that it opens where it stands for a submenu. A command whose caption
+/// is framed by dashes is the title of the entries below it.
+struct Menu {
+    Command& head;
+    std::vector<Menu> entries = {};
 };
 
 }  // namespace swiftroll

@@ -25,8 +25,9 @@ struct MessageBox {
 };
 
 class Window;
+struct Menu;
 
-/// The user's answers: boxes, file dialogs and windows of questions.
+/// The user's answers: boxes, file dialogs, windows of questions and context menus.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
@@ -48,6 +49,9 @@ class Dialogs {
     /// the user cancels.
     virtual bool AskColour(std::uint32_t& colour) = 0;
     virtual bool AskFont(CellFont& font) = 0;
+    /// Shows the entries of a menu at the pointer; returns when the chosen command has run, or when the user
+    /// dismissed the menu.
+    virtual void PopUp(const Menu& menu) = 0;
 };
 
 /// A moment of local time.
@@ -128,6 +132,34 @@ class Machine {
     virtual std::uint64_t Memory() = 0;
 };
 
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    /// Empties the clipboard and gives it a text.
+    virtual void SetText(TextView text) = 0;
+};
+
+class Keyboard {
+  public:
+    virtual ~Keyboard() = default;
+    virtual bool IsShiftDown() = 0;
+};
+
+/// What the desktop does with files and addresses.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+    enum class OpenResult { Opened, FileNotFound, NoProgram, Refused };
+    /// Opens a file with the program that belongs to it; `number` tells why it was refused.
+    virtual OpenResult Open(TextView file, int& number) = 0;
+    /// Lets the user choose a program for a file that none belongs to.
+    virtual void ChooseProgram(TextView file) = 0;
+    /// Opens the help at the page of a topic, above 0, or at its beginning.
+    virtual void OpenHelp(TextView file, int topic) = 0;
+    /// Opens a web address, or a new mail for an address that begins with "mailto:".
+    virtual void OpenAddress(TextView address) = 0;
+};
+
 /// Told after the status panels or the progress have changed; must be cheap.
 class StatusObserver {
   public:
@@ -144,6 +176,19 @@ struct Ports {
     Folders& folders;
     StatusObserver& status;
     Machine& machine;
+    Clipboard& clipboard;
+    Keyboard& keyboard;
+    Desktop& desktop;
+};
+
+/// The desktop of a program without a window: there is none.
+struct NoDesktop : Clipboard, Keyboard, Desktop {
+    void SetText(TextView) override {}
+    bool IsShiftDown() override { return false; }
+    OpenResult Open(TextView, int&) override { return OpenResult::NoProgram; }
+    void ChooseProgram(TextView) override {}
+    void OpenHelp(TextView, int) override {}
+    void OpenAddress(TextView) override {}
 };
 
 }  // namespace swiftroll

@@ -20,6 +20,7 @@ class HeadlessDialogs : public Dialogs {
     void ShowModal(Window& window) override { window.Hide(); }
     bool AskColour(std::uint32_t&) override { return false; }
     bool AskFont(CellFont&) override { return false; }
+    void PopUp(const Menu&) override {}
     bool AskFile(const FileRequest& request, Text& chosen) override;
 
     /// Whether the question of the recalculation is answered Yes.

@@ -43,6 +43,7 @@ struct Session {
     CliFiles files;
     platform::UserFolders folders;
     platform::ThisMachine machine;
+    NoDesktop desktop;
     TerminalProgress progress;
     frmMain main;
     bool failed = false;

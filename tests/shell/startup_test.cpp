@@ -54,7 +54,8 @@ TEST(Startup, AFailureEndsTheApplicationAfterItsReport) {
         Text Models() override { throw Failure(FailureKind::FileAccess); }
     } folders;
     TestPorts t;
-    frmMain main({t.dialogs, t.clock, t.events, t.files, folders, t.status, t.machine});
+    frmMain main({t.dialogs, t.clock, t.events, t.files, folders, t.status, t.machine, t.desktop, t.desktop,
+                  t.desktop});
     EXPECT_THROW(main.Form_Load({}), ProgramEnd);
     ASSERT_EQ(t.dialogs.boxes.size(), 1u);
     EXPECT_TRUE(t.dialogs.boxes[0].text.ends_with("|InitCombos/0//docs/.ged//|")) << t.dialogs.boxes[0].text;

@@ -34,6 +34,10 @@ bool ScriptedDialogs::AskColour(std::uint32_t& chosen) {
     return colour.has_value();
 }
 
+void ScriptedDialogs::PopUp(const Menu& menu) {
+    if (onMenu) onMenu(menu);
+}
+
 bool ScriptedDialogs::AskFont(CellFont& chosen) {
     chosen = font.value_or(chosen);
     return font.has_value();

@@ -18,6 +18,7 @@ class ScriptedDialogs : public Dialogs {
     bool AskFile(const FileRequest& request, Text& chosen) override;
     bool AskColour(std::uint32_t& colour) override;
     bool AskFont(CellFont& font) override;
+    void PopUp(const Menu& menu) override;
 
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> fileRequests;
@@ -30,6 +31,8 @@ class ScriptedDialogs : public Dialogs {
     /// What the colour and font dialogs give; without it they are cancelled.
     std::optional<std::uint32_t> colour;
     std::optional<CellFont> font;
+    /// Chooses in a menu that pops up; without it the menu is dismissed.
+    std::function<void(const Menu&)> onMenu;
 };
 
 /// Sunday 22 November 2026, 14:05:09.
@@ -74,6 +77,28 @@ class TestMachine : public Machine {
     std::uint64_t memory = std::uint64_t{1} << 34;
 };
 
+/// Keeps what reached the clipboard and what was opened.
+struct TestDesktop : Clipboard, Keyboard, Desktop {
+    void SetText(TextView text) override { clipboard = text; }
+    bool IsShiftDown() override { return shiftIsDown; }
+    OpenResult Open(TextView file, int& number) override {
+        opened.emplace_back(file);
+        number = openNumber;
+        return openResult;
+    }
+    void ChooseProgram(TextView file) override { opened.emplace_back("with:" + Text(file)); }
+    void OpenHelp(TextView file, int topic) override {
+        opened.emplace_back(Text(file) + "#" + std::to_string(topic));
+    }
+    void OpenAddress(TextView address) override { opened.emplace_back(address); }
+
+    Text clipboard;
+    bool shiftIsDown = false;
+    OpenResult openResult = OpenResult::Opened;
+    int openNumber = 0;
+    std::vector<Text> opened;
+};
+
 /// All ports of one application without a screen.
 struct TestPorts {
     ScriptedDialogs dialogs;
@@ -83,7 +108,10 @@ struct TestPorts {
     TestFolders folders;
     SilentStatus status;
     TestMachine machine;
-    Ports All() { return {dialogs, clock, events, files, folders, status, machine}; }
+    TestDesktop desktop;
+    Ports All() {
+        return {dialogs, clock, events, files, folders, status, machine, desktop, desktop, desktop};
+    }
 };
 
 /// A started application. `log` of the error trail is "/data/SwiftRoll/SwiftRoll.log".
