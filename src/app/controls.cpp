@@ -74,7 +74,8 @@ void CheckBox::SetFromText(TextView text) { SetChecked(ZeroOrOne(text, Name()));
 void OptionButton::SetValue(bool value) {
     for (Control* control : window_.Controls()) {
         auto* other = dynamic_cast<OptionButton*>(control);
-        if (value && other != nullptr && other->arrayName_ == arrayName_) other->value_ = false;
+        const bool isOfGroup = other != nullptr && other->arrayName_ == arrayName_ && other->group_ == group_;
+        if (value && isOfGroup) other->value_ = false;
     }
     value_ = value;
 }

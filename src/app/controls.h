@@ -113,13 +113,16 @@ class CheckBox : public Control {
 };
 
 /// One of several option buttons of a control array, which stand and are enabled each by itself; one of them
-/// is set at most.
+/// is set at most, or one of each group where an array has several.
 class OptionButton : public Control {
   public:
-    OptionButton(Window& window, const ControlTexts& texts)
-        : Control(window, ControlKind::OptionButton, texts), window_(window), arrayName_(texts.name) {}
+    OptionButton(Window& window, const ControlTexts& texts, int group = 0)
+        : Control(window, ControlKind::OptionButton, texts),
+          window_(window),
+          arrayName_(texts.name),
+          group_(group) {}
     bool Value() const { return value_; }
-    /// Setting it clears the others of the array.
+    /// Setting it clears the others of the group.
     void SetValue(bool value);
     void SetFromText(TextView text) override;
     Event OnDblClick;
@@ -127,6 +130,7 @@ class OptionButton : public Control {
   private:
     Window& window_;
     Text arrayName_;
+    int group_;
     bool value_ = false;
 };
 

@@ -78,6 +78,16 @@ void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
     app.bTablesLocked = false;
 }
 
+void WarnWithoutColumns(Application& app, const Table& table) {
+    for (const Column& column : table.Columns()) {
+        if (column.IsOn()) return;
+    }
+    app.Box(" - Sélection Colonnes"_t,
+            Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
+                    "puisqu'aucune colonne n'est sélectionnée"_t}),
+            BoxButtons::Ok, BoxIcon::Exclamation);
+}
+
 void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown) {
     app.trail.Guard(
         "lvw_ColumnClick",
@@ -92,13 +102,7 @@ void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftI
             if (&table == &app.lvwOut) return;
             column.Icon.replace(0, 2, column.IsOn() ? "Of" : "On");
             SetColumnIcon(table, column, false);
-            for (const Column& other : table.Columns()) {
-                if (other.IsOn()) return;
-            }
-            app.Box(" - Sélection Colonnes"_t,
-                    Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
-                            "puisqu'aucune colonne n'est sélectionnée"_t}),
-                    BoxButtons::Ok, BoxIcon::Exclamation);
+            WarnWithoutColumns(app, table);
         },
         [] { return Text(); });
 }

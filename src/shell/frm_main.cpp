@@ -12,6 +12,7 @@ namespace swiftroll {
 
 frmMain::frmMain(const Ports& applicationPorts)
     : Application(applicationPorts),
+      ListCommands(static_cast<Window&>(*this)),
       cmdLoad(*this, {"cmdLoad", "Lire Tout"_t, "Lit le fichier GEDCOM spécifié."_t}),
       mnuReadGedCom(*this, {"mnuReadGedCom", "Lire GedCom"_t}, "Ctrl+O"),
       cmdRecalcIn(*this,
@@ -51,15 +52,19 @@ frmMain::frmMain(const Ports& applicationPorts)
       picTreeH(*this, {"picTreeH", {}, "Dessine les liens de parenté avec les ancêtres en haut."_t}),
       picTreeV(*this, {"picTreeV", {}, "Dessine les liens de parenté avec les ancêtres à gauche."_t}),
       cmdFont(*this, {"cmdFont", "Fonte..."}),
+      mnuContext(ContextMenu()),
       modReadGedcom(*this),
       modKinship(*this),
       frmKinshipSelect(*this),
-      modSelectionIn(*this) {
+      modSelectionIn(*this),
+      frmFind(*this, modSelectionIn) {
     DisableKinshipCommands();
     BindReading();
     BindWriting();
     BindFiles();
     BindOptionRules();
+    BindLists();
+    BindContextMenu();
     BindKinship();
     BindDrawing();
     BindExtract();
@@ -132,13 +137,6 @@ void frmMain::InitCombos() {
         cboKinship.SetText(PathOf(sUserMyDocuments, "Kinship"));
         ChangeKinshipExtension();
     }
-}
-
-void frmMain::ShowTab(Tab tab) {
-    SSTab1 = tab;
-    Table* const tables[] = {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
-    const auto number = static_cast<std::size_t>(tab);
-    if (number < std::size(tables)) lvwActiveListView = tables[number];
 }
 
 }  // namespace swiftroll

@@ -4,14 +4,26 @@
 #include "gedcom/reader.h"
 #include "kinship/search.h"
 #include "selection/engine.h"
+#include "shell/frm_find.h"
 #include "shell/frm_kinship_select.h"
+#include "shell/list_commands.h"
 
 namespace swiftroll {
+
+enum class MouseButton { Left, Right };
+
+/// A key as the tables know it.
+struct ListKey {
+    enum class Code { ContextMenu, F10, Letter, Other };
+    Code code = Code::Other;
+    char letter = 0;  ///< in capitals
+    bool shift = false, ctrl = false, alt = false;
+};
 
 /// The main window without a screen: owner of all tables, options and commands. Loading it starts the
 /// application. A window, the headless program and the tests are presentations that set its controls and
 /// click its commands.
-class frmMain : public Application {
+class frmMain : public Application, public ListCommands {
   public:
     explicit frmMain(const Ports& applicationPorts);
 
@@ -45,13 +57,45 @@ class frmMain : public Application {
     /// person twice, and two islands, as the command does; false then.
     bool FindPathBetween(TextView sFromId, TextView sToId);
 
-    /// The row and the column of the last hit test in a table, from 0; -1 for none.
+    // The lists
+    /// A table has taken the focus: the list commands work on it from now on.
+    void TableGotFocus(Table& table);
+    /// Tells the row and the column under the pointer, from 0; -1 for none.
+    void HitTest(std::int32_t lRow, std::int32_t lCol);
+    /// What the last hit test told.
     std::int32_t lHitRow = -1, lHitCol = -1;
-    /// Goes to the individual or the family that the cell under the last hit names.
-    void lvwKinship_DblClick();
 
-    /// Goes to a tab and gives its table the focus.
+    /// The context menu of the tables.
+    Menu mnuContext;
+    /// The button was released over the active table: the right one opens the context menu.
+    void lvw_MouseUp(MouseButton button);
+    /// Fits the menu to the cell of the last hit test.
+    void ModifyContextMenu();
+    /// Shows, or shows no more, which cells of the column the commands of the menu would work on. With them
+    /// the clicked row becomes `Selected`, until the end if a command changed the marks meanwhile.
+    void MarkSubItems(std::int32_t iCol, bool bMark);
+    /// A key that was pressed in the active table, whose hit test stands for the place of the pointer.
+    void lvw_KeyDown(const ListKey& key);
+    /// Goes to the individual or the family that the cell of the last hit test names; in lvwOut, marks the
+    /// individuals of the marked groups.
+    void lvw_DblClick(Table& table);
+    /// Sorts by the column or, with Shift, switches it on or off for export.
+    void lvw_ColumnClick(Table& table, Column& column);
+    /// The marked rows of the active table as a text to drag.
+    Text DragText();
+
+    /// Brings a tab to the front and gives the focus to what it is for.
     void ShowTab(Tab tab);
+    void SSTab1_GotFocus();
+    /// Puts the marked rows of the tab first, and tells how many there are.
+    void SSTab1_DblClick();
+    /// Opens the context menu without a cell.
+    void SSTab1_RightClick();
+    /// Tells how many rows of the active table are marked.
+    void StatusBar1_DblClick();
+    /// Puts the marked rows of the active table before the others.
+    void PlaceSelected();
+
     /// The last file written is whole; false when a step of an XML file failed, which no box tells.
     bool bWriteComplete = true;
     /// What the last read knows beside the tables.
@@ -61,6 +105,7 @@ class frmMain : public Application {
     class frmKinshipSelect frmKinshipSelect;
     /// Marks in lvwIn what the marked rows of a table lead to.
     modSelectionIn::Engine modSelectionIn;
+    class frmFind frmFind;
 
   private:
     void BindReading();
@@ -83,7 +128,25 @@ class frmMain : public Application {
     void EnableFamilyCommands(bool enabled);
     void DisableKinshipCommands();
 
-    void JumpTo(Table& target, Tab tab, TextView sKey);
+    void BindLists();
+    void BindContextMenu();
+    Menu ContextMenu();
+    void OnActiveTable(const char* sProc, const std::function<void(Table&)>& command,
+                       TextView arguments = {});
+    bool TabHasTable() const;
+    void DeselectAll(Table& table);
+    void mnuNextSelected_Click();
+    void mnuDeselectCurrent_Click();
+    void mnuDeselectAll_Click();
+    void mnuSelectAll_Click();
+    void mnuInvertSelection_Click();
+    void mnuColSelUnsel(TextView sPrefix);
+    void mnuResetCol_Click();
+    void mnuFind_Click();
+    void mnuCopy_Click();
+    std::optional<Text> MarkedLines(TextView sLineEnd);
+    void JumpTo(Table& target, TextView sKey);
+
     void RequestKinship(const std::function<void(TextView& step, std::int32_t& row)>& steps);
     void cmdFindPath_Click();
     void RefuseKinship(const KinshipChoices& choices);
@@ -126,6 +189,10 @@ class frmMain : public Application {
     const Text& ModelExtension() const;
 
     Text sPrevFile_;
+    /// The row that was clicked for the context menu, and whether it was `Selected` before.
+    Table* clickedTable_ = nullptr;
+    std::int32_t lClickedRow_ = -1;
+    bool bClickedRowWasSelected = false;
 };
 
 }  // namespace swiftroll

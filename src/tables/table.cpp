@@ -8,6 +8,11 @@
 #include "text/failure.h"
 
 namespace swiftroll {
+namespace {
+
+constexpr std::uint32_t kPaint = 255;  // red
+
+}  // namespace
 
 std::shared_ptr<TextStore> StoreGroup::Acquire() {
     auto store = current_.lock();
@@ -241,6 +246,13 @@ void Table::Reorder(const std::vector<std::uint32_t>& permutation) {
     inSlotOrder_ = placesAreFresh_ = false;
 }
 
+std::int32_t Table::GatherMarked() {
+    const auto isMarked = [&](Slot slot) { return slot < marks_.size() && marks_[slot] != 0; };
+    const auto others = std::stable_partition(order_.begin(), order_.end(), isMarked);
+    inSlotOrder_ = placesAreFresh_ = false;
+    return static_cast<std::int32_t>(others - order_.begin());
+}
+
 void Table::RefreshPlaces() {
     place_.resize(index_.SlotCount());
     for (std::size_t i = 0; i < order_.size(); ++i) place_[order_[i]] = static_cast<std::uint32_t>(i);
@@ -292,10 +304,19 @@ std::uint64_t Row::LookPlace(std::int16_t column) const {
     return std::uint64_t{slot_} << 16 | static_cast<std::uint16_t>(column);
 }
 
+bool Row::IsPainted(std::int16_t column) const {
+    return table_->paintedColumn_ == column && Marked() && (column == 0 || !CellAt(column).IsEmpty());
+}
+
 CellLook Row::Look(std::int16_t column) const {
     CheckAlive();
     const auto found = table_->looks_.find(LookPlace(column));
-    return found == table_->looks_.end() ? CellLook() : found->second;
+    CellLook look = found == table_->looks_.end() ? CellLook() : found->second;
+    if (IsPainted(column)) {
+        look.ForeColor = kPaint;
+        look.Bold = true;
+    }
+    return look;
 }
 
 void Row::SetLook(std::int16_t column, const CellLook& look) {
