@@ -12,6 +12,20 @@ struct WidthTables {
     Widths lMaxLenIn, lMaxLenOut, lMaxLenXref, lMaxLenFamily, lMaxLenFamilyXref, lMaxLenKinship;
 };
 
+/// Sets a flag for as long as it lives, and then puts it back: operations that set the same flag nest, and
+/// failures leave them.
+class ScopedFlag {
+  public:
+    explicit ScopedFlag(bool& flag) : flag_(flag), previous_(flag) { flag_ = true; }
+    ~ScopedFlag() { flag_ = previous_; }
+    ScopedFlag(const ScopedFlag&) = delete;
+    ScopedFlag& operator=(const ScopedFlag&) = delete;
+
+  private:
+    bool& flag_;
+    bool previous_;
+};
+
 /// The tabs of the main window by number; the first six have the numbers of their tables.
 enum class Tab { In, Out, FamilyXref, Xref, Family, Kinship, FormatOptions, LinkOptions, Options };
 

@@ -62,7 +62,7 @@ void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey) {
 }
 
 void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
-    app.bTablesLocked = true;
+    const ScopedFlag lock(app.bTablesLocked);
     // The forms stand aside, one behind the other, for the length of the sort.
     TextStore formStore;
     std::vector<TextView> forms;
@@ -75,7 +75,6 @@ void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
     const bool descending = toggles && wasSorted && table.SortOrder() != 1;
     table.SortByForms(forms, static_cast<std::int16_t>(toggles ? column.Index - 1 : 0), descending ? 1 : 0);
     if (toggles) SetColumnIcon(table, column, true);
-    app.bTablesLocked = false;
 }
 
 void WarnWithoutColumns(Application& app, const Table& table) {

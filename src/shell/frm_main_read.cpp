@@ -32,9 +32,8 @@ void frmMain::ReadFile() {
     DisableKinshipCommands();
     SSTab1 = Tab::Options;  // no table is seen during the read; the focus stays where it is
     if (modReadGedcom.lines.InitGedcom(cboGedIn.Get())) {
-        bTablesLocked = true;
+        const ScopedFlag lock(bTablesLocked);
         modReadGedcom.ProcessGedcom();
-        bTablesLocked = false;
     }
     modReadGedcom.lines.Close();
     ShowTab(Tab::In);
