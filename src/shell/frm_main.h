@@ -16,7 +16,7 @@ enum class MouseButton { Left, Right };
 struct ListKey {
     enum class Code { ContextMenu, F10, Letter, Other };
     Code code = Code::Other;
-    char letter = 0;  ///< in capitals
+    char letter = 0;  // in capitals
     bool shift = false, ctrl = false, alt = false;
 };
 

@@ -10,22 +10,22 @@ namespace {
 /// Cells that name a row of another table by the identifier in a column, a `SubItems` number.
 struct Jump {
     Table TableSet::*from;
-    ColumnSet columns;
     Table TableSet::*to;
+    ColumnSet columns;
     std::int16_t iIdCol;
 };
 
 constexpr Jump kJumps[] = {
-    {&TableSet::lvwFamily, {1, 8}, &TableSet::lvwIn, 1},
-    {&TableSet::lvwFamily, {2, 9}, &TableSet::lvwIn, 2},
-    {&TableSet::lvwFamily, {3, 10}, &TableSet::lvwIn, 3},
-    {&TableSet::lvwFamilyXref, {0, 4}, &TableSet::lvwFamily, 0},
-    {&TableSet::lvwFamilyXref, {2, 5}, &TableSet::lvwIn, 2},
-    {&TableSet::lvwXref, {0, 3}, &TableSet::lvwIn, 0},
-    {&TableSet::lvwXref, {2, 4}, &TableSet::lvwIn, 2},
-    {&TableSet::lvwXref, {5, 6}, &TableSet::lvwFamily, 5},
-    {&TableSet::lvwKinship, {1, 2, 3}, &TableSet::lvwIn, 1},
-    {&TableSet::lvwKinship, {4, 5}, &TableSet::lvwFamily, 4},
+    {&TableSet::lvwFamily, &TableSet::lvwIn, {1, 8}, 1},
+    {&TableSet::lvwFamily, &TableSet::lvwIn, {2, 9}, 2},
+    {&TableSet::lvwFamily, &TableSet::lvwIn, {3, 10}, 3},
+    {&TableSet::lvwFamilyXref, &TableSet::lvwFamily, {0, 4}, 0},
+    {&TableSet::lvwFamilyXref, &TableSet::lvwIn, {2, 5}, 2},
+    {&TableSet::lvwXref, &TableSet::lvwIn, {0, 3}, 0},
+    {&TableSet::lvwXref, &TableSet::lvwIn, {2, 4}, 2},
+    {&TableSet::lvwXref, &TableSet::lvwFamily, {5, 6}, 5},
+    {&TableSet::lvwKinship, &TableSet::lvwIn, {1, 2, 3}, 1},
+    {&TableSet::lvwKinship, &TableSet::lvwFamily, {4, 5}, 4},
 };
 
 }  // namespace

@@ -82,7 +82,7 @@ TEST_F(Lists, ColumnsAreSwitchedAndResetTogether) {
 TEST_F(Lists, AJumpGoesToWhatTheCellNames) {
     const struct {
         Table& table;
-        TextView targets;  ///< a character a column: the digit of an individual, "F" the family, "." none
+        TextView targets;  // a character a column: the digit of an individual, "F" the family, "." none
     } cases[] = {{main.lvwFamily, ".12.....12."}, {main.lvwFamilyXref, "F.1.F1"},
                  {main.lvwXref, "1.212FF"},       {main.lvwXref1, "....."},
                  {main.lvwKinship, ".333FF.."},   {main.lvwIn, "................."}};

@@ -23,16 +23,16 @@ constexpr int kMostYields = 4000;  // of a run, after which everything is asked 
 class Dice {
   public:
     explicit Dice(std::uint32_t seed) : engine_(seed) {}
-    std::size_t Below(std::size_t n) { return engine_() % n; }
-    bool OneIn(std::size_t n) { return Below(n) == 0; }
+    std::int32_t Below(std::int32_t n) {
+        return static_cast<std::int32_t>(engine_() % static_cast<unsigned>(n));
+    }
+    bool OneIn(std::int32_t n) { return Below(n) == 0; }
     template <class Range>
     auto& Pick(Range& range) {
-        return range[Below(std::size(range))];
+        return range[static_cast<std::size_t>(Below(static_cast<std::int32_t>(std::size(range))))];
     }
-    /// A number from -1 to a little more than `n`, mostly one of a row or column from 0.
-    std::int32_t Place(std::int32_t n) {
-        return static_cast<std::int32_t>(Below(static_cast<std::size_t>(n) + 3)) - 1;
-    }
+    /// Mostly one of `n` rows or columns from 0; sometimes none, -1, or one that is not there.
+    std::int32_t Place(std::int32_t n) { return Below(n + 3) - 1; }
 
   private:
     std::mt19937 engine_;
@@ -40,25 +40,21 @@ class Dice {
 
 /// A file of a few people with many ties between them, and sometimes lines that a reader asks about.
 Text RandomFile(Dice& dice) {
-    const std::size_t people = 6 + dice.Below(8), families = 3 + dice.Below(4);
+    const std::int32_t people = 6 + dice.Below(8), families = 3 + dice.Below(4);
     const TextView names[] = {"Jean /Dupont/", "Élise /DUPONT/"_t, "/Le Gall/", "Anne /Martin/", ""};
     const TextView oddLines[] = {"1 CHAR UTF-8\n", "nonsense\n", "9 DEEP\n3 DEEPER\n", "0 @N1@ NOTE note\n",
                                  "1 ALIA @I1@\n"};
-    const auto person = [&] {
-        return Concat({"@I", Decimal(static_cast<std::int32_t>(dice.Below(people) + 1)), "@"});
-    };
+    const auto person = [&] { return Concat({" @I", Decimal(dice.Below(people) + 1), "@\n"}); };
     Text file = "0 HEAD\n1 CHAR ANSI\n";
-    for (std::size_t i = 1; i <= people; ++i) {
-        file +=
-            Concat({"0 @I", Decimal(static_cast<std::int32_t>(i)), "@ INDI\n1 NAME ", dice.Pick(names),
-                    "\n1 SEX ", dice.OneIn(2) ? "M" : "F", "\n1 BIRT\n2 DATE ",
-                    Decimal(static_cast<std::int32_t>(1700 + dice.Below(200))), "\n2 PLAC Paris, Seine\n"});
+    for (std::int32_t i = 1; i <= people; ++i) {
+        file += Concat({"0 @I", Decimal(i), "@ INDI\n1 NAME ", dice.Pick(names), "\n1 SEX ",
+                        dice.OneIn(2) ? "M" : "F", "\n1 BIRT\n2 DATE ", Decimal(1700 + dice.Below(200)),
+                        "\n2 PLAC Paris, Seine\n"});
         if (dice.OneIn(25)) file += dice.Pick(oddLines);
     }
-    for (std::size_t i = 1; i <= families; ++i) {
-        file +=
-            Concat({"0 @F", Decimal(static_cast<std::int32_t>(i)), "@ FAM\n1 HUSB ", person(), "\n1 WIFE ",
-                    person(), "\n1 CHIL ", person(), "\n1 CHIL ", person(), "\n1 MARR\n2 DATE 1801\n"});
+    for (std::int32_t i = 1; i <= families; ++i) {
+        file += Concat({"0 @F", Decimal(i), "@ FAM\n1 HUSB", person(), "1 WIFE", person(), "1 CHIL", person(),
+                        "1 CHIL", person(), "1 MARR\n2 DATE 1801\n"});
     }
     return WithCrLf(file + "0 TRLR\n");
 }
@@ -135,7 +131,7 @@ class Monkey : public Dialogs, public EventPump {
         return !isCalm_ && !dice_.OneIn(3);
     }
     bool AskColour(std::uint32_t& colour) override {
-        colour = static_cast<std::uint32_t>(dice_.Below(1u << 24));
+        colour = static_cast<std::uint32_t>(dice_.Below(1 << 24));
         return dice_.OneIn(2);
     }
     bool AskFont(CellFont&) override { return dice_.OneIn(2); }
@@ -184,7 +180,7 @@ BoxAnswer Monkey::Show(const MessageBox& box) {
 }
 
 void Monkey::ShowModal(Window& window) {
-    for (std::size_t i = dice_.Below(4); i > 0 && window.Visible(); --i) ChangeAnything(window);
+    for (int i = dice_.Below(4); i > 0 && window.Visible(); --i) ChangeAnything(window);
     if (window.Visible() && !dice_.OneIn(4)) ClickAnything(window);
     window.Hide();
 }
@@ -205,7 +201,11 @@ void Monkey::Act() {
     story += "(";
     const bool wasLocked = main.bTablesLocked;
     if (onlyLooks) {
-        dice_.OneIn(4) ? WorkWithTheTabs() : WorkWithATable();
+        if (dice_.OneIn(4)) {
+            WorkWithTheTabs();
+        } else {
+            WorkWithATable();
+        }
     } else {
         DoAnything();
     }
@@ -272,13 +272,15 @@ void Monkey::ChangeAnything(Window& window) {
     if (auto* check = dynamic_cast<CheckBox*>(&control)) check->SetChecked(!check->Checked());
     if (auto* option = dynamic_cast<OptionButton*>(&control)) option->SetValue(true);
     if (auto* text = dynamic_cast<TextBox*>(&control)) text->SetText(dice_.Pick(texts));
-    if (auto* list = dynamic_cast<OrderedList*>(&control)) list->Move(dice_.Below(3), dice_.Below(3));
+    if (auto* list = dynamic_cast<OrderedList*>(&control)) {
+        list->Move(static_cast<std::size_t>(dice_.Below(3)), static_cast<std::size_t>(dice_.Below(3)));
+    }
     if (auto* group = dynamic_cast<OptionGroup*>(&control)) {
-        group->SetIndex(static_cast<int>(dice_.Below(group->Captions().size())));
+        group->SetIndex(dice_.Below(static_cast<int>(group->Captions().size())));
     }
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
         if (combo->IsSelector()) {
-            combo->SetListIndex(static_cast<int>(dice_.Below(combo->Items().size())));
+            combo->SetListIndex(dice_.Below(static_cast<int>(combo->Items().size())));
         } else {
             combo->SetText(dice_.Pick(texts));
         }
@@ -291,15 +293,13 @@ void Monkey::WorkWithATable() {
     story += table.Name() + " ";
     main.TableGotFocus(table);
     main.HitTest(dice_.Place(table.Count()), dice_.Place(table.ColumnCount()));
-    for (std::size_t i = dice_.Below(4); i > 0 && table.Count() > 0; --i) {
-        Row row =
-            table.Item(static_cast<std::int32_t>(dice_.Below(static_cast<std::size_t>(table.Count()))) + 1);
+    for (int i = dice_.Below(4); i > 0 && table.Count() > 0; --i) {
+        Row row = table.Item(dice_.Below(table.Count()) + 1);
         row.SetSelected(dice_.OneIn(2));
         row.SetChecked(dice_.OneIn(2));
         table.SetCurrent(row);
     }
-    const auto column =
-        static_cast<std::int16_t>(dice_.Below(static_cast<std::size_t>(table.ColumnCount())) + 1);
+    const auto column = static_cast<std::int16_t>(dice_.Below(table.ColumnCount()) + 1);
     ListKey key;
     switch (dice_.Below(7)) {
         case 0:
