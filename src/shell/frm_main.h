@@ -190,9 +190,12 @@ class frmMain : public Application, public ListCommands {
 
     Text sPrevFile_;
     /// The row that was clicked for the context menu, and whether it was `Selected` before.
-    Table* clickedTable_ = nullptr;
-    std::int32_t lClickedRow_ = -1;
-    bool bClickedRowWasSelected = false;
+    struct ClickedRow {
+        Table* table = nullptr;
+        std::int32_t row = -1;
+        bool bClickedRowWasSelected = false;
+    };
+    ClickedRow clicked_;
 };
 
 }  // namespace swiftroll

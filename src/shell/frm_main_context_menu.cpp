@@ -79,7 +79,10 @@ void frmMain::lvw_MouseUp(MouseButton button) {
         ModifyContextMenu();
         MarkSubItems(iCol, true);
         modSelectionIn.context.bRestoreClickedRow = true;
+        // While a command of the menu runs for long, another menu may open and close.
+        const ClickedRow clicked = clicked_;
         ports.dialogs.PopUp(mnuContext);
+        clicked_ = clicked;
         MarkSubItems(iCol, false);
         mnuFindPath.Enabled = mnuDrawKinship.Enabled = true;
     });
@@ -113,20 +116,20 @@ void frmMain::ModifyContextMenu() {
 
 void frmMain::MarkSubItems(std::int32_t iCol, bool bMark) {
     if (bMark) {
-        clickedTable_ = lvwActiveListView;
-        lClickedRow_ = lHitRow;
+        const bool formsNoGroups =
+            lvwActiveListView == &lvwOut && (iCol < 0 || !modSelectionIn::FormsGroups(*this, iCol));
+        clicked_ = {formsNoGroups ? nullptr : lvwActiveListView, lHitRow};
     }
     // A command of the menu may have gone to another table, but what was marked must be restored.
-    Table* const table = clickedTable_;
-    if (table == nullptr || (table == &lvwOut && (iCol < 0 || !modSelectionIn::FormsGroups(*this, iCol))))
-        return;
-    if (lClickedRow_ >= 0 && lClickedRow_ < table->Count()) {
-        Row row = table->Item(lClickedRow_ + 1);
+    Table* const table = clicked_.table;
+    if (table == nullptr) return;
+    if (clicked_.row >= 0 && clicked_.row < table->Count()) {
+        Row row = table->Item(clicked_.row + 1);
         if (bMark) {
-            bClickedRowWasSelected = row.Selected();
+            clicked_.bClickedRowWasSelected = row.Selected();
             row.SetSelected(true);
         } else if (modSelectionIn.context.bRestoreClickedRow) {
-            row.SetSelected(bClickedRowWasSelected);
+            row.SetSelected(clicked_.bClickedRowWasSelected);
         }
     }
     table->SetPaintedColumn(std::nullopt);

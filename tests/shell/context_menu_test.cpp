@@ -153,6 +153,19 @@ TEST_F(ContextMenu, MarksTheClickedRowForItsTime) {
         main.lvw_MouseUp(MouseButton::Right);
         EXPECT_EQ(Marks(main.lvwIn), c.after) << (c.chosen == nullptr ? "none" : c.chosen->Name());
     }
+    // A command that takes long lets other menus open meanwhile.
+    Mark(main.lvwIn, ".....");
+    Mark(main.lvwOut, "...");
+    dialogs.onMenu = [&](const Menu&) {
+        dialogs.onMenu = nullptr;
+        Point(main.lvwOut, 2, 1);
+        main.lvw_MouseUp(MouseButton::Right);
+    };
+    Point(main.lvwIn, 1, 0);
+    main.lvw_MouseUp(MouseButton::Right);
+    EXPECT_EQ(Concat({Marks(main.lvwIn), Marks(main.lvwOut)}), "........");
+    main.lvwIn.Item(1).SetChecked(true);
+    EXPECT_EQ(main.lvwIn.Item(1).Look(0), CellLook());
     // What a command does to the table that the menu is of, does not keep the row marked either.
     Mark(main.lvwIn, ".....");
     Point(main.lvwIn, 1, 0);

@@ -115,12 +115,21 @@ class Monkey : public Dialogs, public EventPump {
     void TakeSettings(const frmMain& other);
     /// Every table is what a table must be.
     void CheckTables();
-    void CheckAtRest() const {
+    void CheckAtRest() {
         EXPECT_FALSE(main.bWaitCursor);
         EXPECT_FALSE(main.bTablesLocked);
         EXPECT_FALSE(main.modKinship.IsRunning());
         EXPECT_TRUE(main.cmdLoad.Enabled && main.mnuReadGedCom.Enabled && main.cboLoad.Enabled);
         EXPECT_TRUE(internalFailure.empty()) << internalFailure;
+        // No menu is open, so nothing is painted.
+        for (Table* table : main.All()) {
+            if (table->Count() == 0) continue;
+            Row row = table->Item(1);
+            row.SetSelected(true);
+            for (std::int16_t c = 0; c <= table->ColumnCount(); ++c) {
+                EXPECT_EQ(row.Look(c), CellLook()) << table->Name();
+            }
+        }
     }
 
     BoxAnswer Show(const MessageBox& box) override;
@@ -187,6 +196,8 @@ void Monkey::ShowModal(Window& window) {
 
 void Monkey::PopUp(const Menu& menu) {
     if (dice_.OneIn(4)) return;
+    // The entry that takes long, during which other menus are opened, is chosen more often than others.
+    if (!onlyLooks && main.mnuFindPath.Enabled && dice_.OneIn(3)) return main.mnuFindPath.Click();
     const Menu& entry = dice_.Pick(menu.entries);
     const bool starts = &entry.head == &main.mnuFindPath || &entry.head == &main.mnuDrawKinship;
     if (!entry.head.Enabled || (onlyLooks && starts)) return;
