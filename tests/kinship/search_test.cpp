@@ -204,9 +204,7 @@ TEST(KinshipSearch, OtherCommandsDuringTheWalkChangeNothingOfIt) {
 
 TEST(KinshipSearch, LinksSortedDuringTheCopyAreCopiedAllTheSame) {
     AfterRead quiet(LadderFile(300)), t(LadderFile(300));
-    t.events.onYield = [&] {
-        t.main.lvwXref.SortBy(Xref::Indi2 - 1, 1);
-    };
+    t.events.onYield = [&] { t.main.lvwXref.SortBy(Xref::Indi2 - 1, 1); };
     for (AfterRead* program : {&quiet, &t}) {
         const int yields = program->events.yields;
         program->main.chkMaxLinks.SetChecked(true);
