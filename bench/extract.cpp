@@ -70,8 +70,9 @@ int main(int argumentCount, char** arguments) {
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
     swiftroll::NoDesktop desktop;
+    swiftroll::NoSettings settings;
     swiftroll::frmMain main(
-        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop});
+        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop, settings});
     main.Form_Load({});
     main.cboGedIn.SetText(swiftroll::FileNameToText(file.string()));
     main.cmdLoad.Click();

@@ -25,7 +25,7 @@ install_packages() {
     fail "the packages could not be installed"
 }
 
-BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev libsqlite3-dev)
 TEST_PACKAGES=(libgtest-dev xsltproc)
 
 # build PRESET [TARGET...]: configures and builds; says nothing when there is nothing to do.

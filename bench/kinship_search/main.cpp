@@ -31,8 +31,9 @@ struct Bench {
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
     swiftroll::NoDesktop desktop;
+    swiftroll::NoSettings settings;
     swiftroll::frmMain main{
-        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop}};
+        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop, settings}};
 };
 
 /// The worst figures of all cases, for the targets.

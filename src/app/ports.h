@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "app/cell_font.h"
 #include "text/text.h"
@@ -160,6 +162,28 @@ class Desktop {
     virtual void OpenAddress(TextView address) = 0;
 };
 
+/// The user's settings, kept from one run to the next: texts by section and key. A section may have
+/// sub-sections, whose names follow it behind "\". Keys and values hold any characters; case counts.
+class SettingsStore {
+  public:
+    virtual ~SettingsStore() = default;
+    /// @throws Failure FileAccess when the store cannot be written
+    virtual void SaveSetting(TextView section, TextView key, TextView value) = 0;
+    /// The value, or `fallback` where there is none. @throws Failure FileAccess
+    virtual Text GetSetting(TextView section, TextView key, TextView fallback) = 0;
+    using Pairs = std::vector<std::pair<Text, Text>>;
+    /// Keys and values of a section, in any order, without its sub-sections. @throws Failure FileAccess
+    virtual Pairs GetAllSettings(TextView section) = 0;
+    /// Removes a key, or a section with its sub-sections, if it is there. @throws Failure FileAccess
+    virtual void DeleteSetting(TextView section, TextView key) = 0;
+    virtual void DeleteSetting(TextView section) = 0;
+    /// Runs `writes` and keeps all that it writes, or nothing: when it throws, when a write failed, and when
+    /// the program ends in the middle, the former settings stay whole. @throws Failure FileAccess
+    virtual void Together(const std::function<void()>& writes) = 0;
+    /// What to tell the user about the state in which the store was found, empty when all is well.
+    virtual Text Notice() = 0;
+};
+
 /// Told after the status panels or the progress have changed; must be cheap.
 class StatusObserver {
   public:
@@ -179,6 +203,7 @@ struct Ports {
     Clipboard& clipboard;
     Keyboard& keyboard;
     Desktop& desktop;
+    SettingsStore& settings;
 };
 
 /// The desktop of a program without a window: there is none.
@@ -189,6 +214,17 @@ struct NoDesktop : Clipboard, Keyboard, Desktop {
     void ChooseProgram(TextView) override {}
     void OpenHelp(TextView, int) override {}
     void OpenAddress(TextView) override {}
+};
+
+/// The settings of a program that keeps none: every run begins with the defaults.
+struct NoSettings : SettingsStore {
+    void SaveSetting(TextView, TextView, TextView) override {}
+    Text GetSetting(TextView, TextView, TextView fallback) override { return Text(fallback); }
+    Pairs GetAllSettings(TextView) override { return {}; }
+    void DeleteSetting(TextView, TextView) override {}
+    void DeleteSetting(TextView) override {}
+    void Together(const std::function<void()>& writes) override { writes(); }
+    Text Notice() override { return {}; }
 };
 
 }  // namespace swiftroll

@@ -44,6 +44,7 @@ struct Session {
     platform::UserFolders folders;
     platform::ThisMachine machine;
     NoDesktop desktop;
+    NoSettings settings;
     TerminalProgress progress;
     frmMain main;
     bool failed = false;

@@ -6,6 +6,7 @@
 #include "app/ports.h"
 #include "shell/frm_main.h"
 #include "support/memory_files.h"
+#include "support/memory_settings.h"
 
 namespace swiftroll::test {
 
@@ -109,8 +110,9 @@ struct TestPorts {
     SilentStatus status;
     TestMachine machine;
     TestDesktop desktop;
+    MemorySettings settings;
     Ports All() {
-        return {dialogs, clock, events, files, folders, status, machine, desktop, desktop, desktop};
+        return {dialogs, clock, events, files, folders, status, machine, desktop, desktop, desktop, settings};
     }
 };
 
