@@ -58,8 +58,7 @@ SettingsFile::SettingsFile(TextView folder)
         fs::create_directories(PathOf(folder), ignored);
         Open();
         if (!database_->IsReadOnly()) return;
-        notice_ +=
-            Concat({"Les paramètres ne seront pas sauvegardés : "_t, file_, " est en lecture seule."_t});
+        Tell(Concat({"Les paramètres ne seront pas sauvegardés : "_t, file_, " est en lecture seule."_t}));
     } catch (const SqliteError& error) {
         GiveUp(error.Reason());
     } catch (const fs::filesystem_error&) {
@@ -72,8 +71,13 @@ SettingsFile::~SettingsFile() = default;
 void SettingsFile::GiveUp(TextView reason) {
     database_.reset();
     trouble_ = reason;
-    notice_ += Concat({"Paramètres par défaut, qui ne seront pas sauvegardés : "_t, file_,
-                       " n'a pu être lu ("_t, trouble_, ")."});
+    Tell(Concat({"Paramètres par défaut, qui ne seront pas sauvegardés : "_t, file_, " n'a pu être lu ("_t,
+                 trouble_, ")."}));
+}
+
+void SettingsFile::Tell(TextView sentence) {
+    if (!notice_.empty()) notice_ += ' ';
+    notice_ += sentence;
 }
 
 void SettingsFile::Open() {
@@ -82,8 +86,8 @@ void SettingsFile::Open() {
     } catch (const SqliteError& error) {
         if (!error.IsDamage()) throw;
         database_.reset();
-        notice_ = Concat({"Le fichier des paramètres était endommagé ; il est gardé sous "_t, SetAside(file_),
-                          ", et les paramètres sont ceux par défaut. "_t});
+        Tell(Concat({"Le fichier des paramètres était endommagé ; il est gardé sous "_t, SetAside(file_),
+                     ", et les paramètres sont ceux par défaut."_t}));
         OpenFile();
     }
 }

@@ -28,6 +28,7 @@ class SettingsFile : public SettingsStore {
   private:
     void Open();
     void OpenFile();
+    void Tell(TextView sentence);
     void GiveUp(TextView reason);
     void Abandon();
     void Write(const char* sql, std::initializer_list<TextView> parameters);
