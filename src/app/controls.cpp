@@ -87,6 +87,13 @@ void OptionGroup::SetIndex(int index) {
     Fire(OnClick);
 }
 
+void OptionGroup::SetMember(int index, bool value) {
+    if (index < 0 || index >= static_cast<int>(captions_.size())) throw Failure(FailureKind::IndexOutOfRange);
+    if (value) index_ = index;
+    if (!value && index_ == index) index_ = -1;
+    Fire(OnClick);
+}
+
 void OptionGroup::SetFromText(TextView text) {
     const auto index = ParseDecimal(text);
     if (!index || *index < 0 || *index >= static_cast<std::int64_t>(captions_.size())) {

@@ -19,19 +19,30 @@ Text PlacesOrderTip() {
 
 std::vector<Text> Texts(std::initializer_list<TextView> texts) { return {texts.begin(), texts.end()}; }
 
+constexpr TextView kFavorites = "Favoris"_t;
 constexpr TextView kOutExtension = "Liste en Sortie"_t;
 constexpr TextView kModelExtension = "Modèle en Entrée"_t;
 
 }  // namespace
 
 OptionRecord::OptionRecord()
-    : chkProcFamilies(
+    : Window("frmMain"),
+      cboCells(*this, {"cboCells", "Jeu de paramètres des cellules"_t}),
+      cboColumns(*this, {"cboColumns", "Jeu de positions et largeurs des colonnes"_t}),
+      cboOutPlace(*this, {"cboOutPlace", "Jeu de paramètres des lieux"_t}),
+      cboFavorites{ComboBox(*this, {"cboFavorites", kFavorites, {}, 0}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 1}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 2}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 3}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 4}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 5})},
+      cboLoad(*this, {"cboLoad", {}, "Sélectionne l'action par défaut du bouton à gauche"_t},
+              Texts({"Lire Tout"_t, "Lire Sans Famille"_t})),
+      chkProcFamilies(
           *this,
           {"chkProcFamilies", "Lire Familles"_t,
            "Nécessite une relecture du fichier GedCom en entrée pour traiter la définition des familles."_t},
           true),
-      cboLoad(*this, {"cboLoad", {}, "Sélectionne l'action par défaut du bouton à gauche"_t},
-              Texts({"Lire Tout"_t, "Lire Sans Famille"_t})),
       chkUpperNames(*this,
                     {"chkUpperNames", "Afficher les NOMS en MAJUSCULES"_t,
                      "Ne convertit pas les noms, c'est uniquement leur affichage qui est concerné."_t},
@@ -138,6 +149,7 @@ OptionRecord::OptionRecord()
       chkIgnoreCase(*this, {"chkIgnoreCase", "ABC=abc"_t}, true),
       chkDelAccents(
           *this, {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"_t}, true) {
+    cboOutPlace.SetText("Tout");
     chkProcFamilies.Visible = false;
     txtFont.Visible = false;
     txtKinshipLandscape.Visible = false;

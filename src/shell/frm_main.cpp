@@ -1,6 +1,5 @@
 #include "shell/frm_main.h"
 
-#include "app/french_date.h"
 #include "gedcom/places.h"
 #include "list/calc_output.h"
 #include "shell/file_names.h"
@@ -51,6 +50,13 @@ frmMain::frmMain(const Ports& applicationPorts)
       picTreeH(*this, {"picTreeH", {}, "Dessine les liens de parenté avec les ancêtres en haut."_t}),
       picTreeV(*this, {"picTreeV", {}, "Dessine les liens de parenté avec les ancêtres à gauche."_t}),
       cmdFont(*this, {"cmdFont", "Fonte..."}),
+      cmdSaveCells(*this, {"cmdSaveCells", {}, "Sauve les paramètres des cellules sous ce nom."_t}),
+      cmdSaveColumns(*this,
+                     {"cmdSaveColumns", {}, "Sauve les positions et largeurs des colonnes sous ce nom."_t}),
+      cmdSavePlace(*this, {"cmdSavePlace", {}, "Sauve les paramètres des lieux sous ce nom."_t}),
+      cmdGotoFavorite(*this,
+                      {"cmdGotoFavorite", ">",
+                       Concat({"Va à ce favori dans la liste."_t, kLineEnd, "+Shift = Le sélectionner"_t})}),
       modReadGedcom(*this),
       modKinship(*this),
       frmKinshipSelect(*this),
@@ -63,6 +69,8 @@ frmMain::frmMain(const Ports& applicationPorts)
     BindKinship();
     BindDrawing();
     BindExtract();
+    BindParameterSets();
+    BindFavorites();
 }
 
 void frmMain::Form_Load(TextView sCommandLine) {
@@ -80,14 +88,8 @@ void frmMain::Form_Load(TextView sCommandLine) {
                 "=> N'oubliez pas de consulter la disponibilité de mises-à-jour via le menu "
                 "\"Aide / Vérifier...\""_t);
             step = "GetAllControls";
-            const Moment now = ports.clock.Now();
-            sRunStart = Concat({ShortDate(now), " ", LongTime(now)});
             SetAllColumnIcons(*this);
-            cboLoad.SetListIndex(chkProcFamilies.Checked() ? 0 : 1);
-            bFormLoading = true;  // no file name follows the format yet
-            optOutExtension_Click(optOutExtension.Index());
-            bFormLoading = false;
-            cmdSaveSwift.Caption = cboSaveSwift.Get();
+            RestoreSettings();
             step = "InitCombos";
             InitCombos();
             cboDrawKinship.SetListIndex(3);
@@ -136,6 +138,7 @@ void frmMain::InitCombos() {
 
 void frmMain::ShowTab(Tab tab) {
     SSTab1 = tab;
+    ShowFavorites(tab);
     Table* const tables[] = {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
     const auto number = static_cast<std::size_t>(tab);
     if (number < std::size(tables)) lvwActiveListView = tables[number];

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <deque>
+
 #include "app/application.h"
 #include "gedcom/reader.h"
 #include "kinship/search.h"
 #include "selection/engine.h"
 #include "shell/frm_kinship_select.h"
+#include "shell/parameter_set.h"
+#include "shell/settings_walk.h"
 
 namespace swiftroll {
 
@@ -40,6 +44,14 @@ class frmMain : public Application {
     Command cmdSelectDirKinship;
     Command picTreeH, picTreeV;
     Command cmdFont;
+    // Parameter sets and favourites
+    Command cmdSaveCells, cmdSaveColumns, cmdSavePlace;
+    Command cmdGotoFavorite;
+
+    /// Puts the current row of the current table among the favourites of the present tab.
+    void mnuAddFavorite_Click();
+    /// Saves all settings, as the end of the run does; a failure is reported, and the former ones stay.
+    void SaveAllControls();
 
     /// Searches the kinship of two individuals by their identifiers, whatever is marked; refuses the same
     /// person twice, and two islands, as the command does; false then.
@@ -70,6 +82,16 @@ class frmMain : public Application {
     void BindKinship();
     void BindDrawing();
     void BindExtract();
+    void BindParameterSets();
+    void BindFavorites();
+
+    std::vector<modCommon::SavedWindow> SavedWindows();
+    void RestoreSettings();
+    void ShowFavorites(Tab tab);
+    void cboFavorites_GotFocus(std::size_t Index);
+    void cboFavorites_LostFocus(std::size_t Index);
+    void KeepOneFavorite(ComboBox& combo);
+    void cmdGotoFavorite_Click();
 
     void AttachTips();
     void chkTips_Click();
@@ -126,6 +148,9 @@ class frmMain : public Application {
     const Text& ModelExtension() const;
 
     Text sPrevFile_;
+    /// The key part of the favourites' combo that has the focus.
+    Text sFavoriteKey_;
+    std::deque<modCommon::ParameterSet> parameterSets_;
 };
 
 }  // namespace swiftroll
