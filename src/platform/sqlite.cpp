@@ -8,8 +8,15 @@
 namespace swiftroll::platform {
 namespace {
 
-/// How long to wait for another program that uses the file.
-constexpr int kPatience = 1000;  // milliseconds
+/// How long to wait for another program that uses the file, and how long between two tries: short pauses, so
+/// that one that saves again and again does not always come first.
+constexpr int kPatience = 1000, kPause = 5;  // milliseconds
+
+int WaitForOthers(void*, int tries) {
+    if (tries * kPause >= kPatience) return 0;
+    sqlite3_sleep(kPause);
+    return 1;
+}
 
 void Check(int code) {
     if (code != SQLITE_OK) throw SqliteError(code);
@@ -52,7 +59,7 @@ SqliteFile::SqliteFile(const std::string& name) {
         sqlite3_close(database_);
         throw SqliteError(code);
     }
-    sqlite3_busy_timeout(database_, kPatience);
+    sqlite3_busy_handler(database_, WaitForOthers, nullptr);
     // The file may come from anywhere: nothing that it defines is run.
     sqlite3_db_config(database_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(database_, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);

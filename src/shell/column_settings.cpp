@@ -73,11 +73,11 @@ void GetColumsSettings(Application& app, Table& lvw, TextView sSection) {
                 ++position;
                 IgnoringFailures([&] { lvw.MoveColumn(ColumnNamed(lvw, name).Index, position); });
             }
-            for (const auto& [name, value] : pairsBelow(kWidth)) {
-                IgnoringFailures([&] { SetWidth(ColumnNamed(lvw, name), value); });
+            for (const auto& pair : pairsBelow(kWidth)) {
+                IgnoringFailures([&] { SetWidth(ColumnNamed(lvw, pair.first), pair.second); });
             }
-            for (const auto& [name, value] : pairsBelow(kIcon)) {
-                IgnoringFailures([&] { SetIcon(ColumnNamed(lvw, name), value); });
+            for (const auto& pair : pairsBelow(kIcon)) {
+                IgnoringFailures([&] { SetIcon(ColumnNamed(lvw, pair.first), pair.second); });
             }
         },
         [&] {

@@ -26,8 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 using Pairs = SettingsStore::Pairs;
 
-class SettingsFileTest : public testing::Test {
-  protected:
+struct SettingsFileTest : testing::Test {
     SettingsFileTest() : folder_(mkdtemp(name_)), file_(folder_ / "settings.sqlite") {
         fs::permissions(folder_, fs::perms::all);
     }
@@ -47,7 +46,7 @@ class SettingsFileTest : public testing::Test {
   private:
     char name_[32] = "/tmp/settings-XXXXXX";
 
-  protected:
+  public:
     const fs::path folder_;
     const fs::path file_;
 };
@@ -67,36 +66,39 @@ TEST_F(SettingsFileTest, AnyTextsComeBackAfterAnyOrderOfWrites) {
         sections.push_back(sections[static_cast<std::size_t>(upTo(9))] + "\\" + text(3));
 
     std::map<Text, std::map<Text, Text>> expected;
-    auto store = std::make_unique<SettingsFile>(folder_.string());
-    for (int step = 0; step < 600; ++step) {
+    const auto writeOne = [&](SettingsFile& store) {
         const Text& section = sections[static_cast<std::size_t>(upTo(19))];
-        const Text key = step % 50 == 0 ? everyByte : text(2);
+        const Text key = upTo(50) == 0 ? everyByte : text(2);
         if (upTo(9) > 1) {
             const Text value = upTo(20) == 0 ? everyByte : text(30);
-            store->SaveSetting(section, key, value);
+            store.SaveSetting(section, key, value);
             expected[section][key] = value;
         } else if (upTo(5) > 0) {
-            store->DeleteSetting(section, key);
+            store.DeleteSetting(section, key);
             expected[section].erase(key);
         } else {
-            store->DeleteSetting(section);
+            store.DeleteSetting(section);
             std::erase_if(expected, [&](const auto& entry) {
                 return entry.first == section || entry.first.starts_with(section + "\\");
             });
         }
-        if (step % 100 == 0) {
-            store.reset();
-            store = std::make_unique<SettingsFile>(folder_.string());
-        }
+    };
+    for (int run = 0; run < 6; ++run) {
+        SettingsFile store = Open();
+        writeOne(store);
+        store.Together([&] {
+            for (int step = 0; step < 200; ++step) writeOne(store);
+        });
     }
+    SettingsFile store = Open();
     for (const Text& section : sections) {
-        Pairs pairs = store->GetAllSettings(section);
+        Pairs pairs = store.GetAllSettings(section);
         std::sort(pairs.begin(), pairs.end());
         EXPECT_EQ(pairs, Pairs(expected[section].begin(), expected[section].end()));
         for (const auto& [key, value] : expected[section])
-            EXPECT_EQ(store->GetSetting(section, key, "-"), value);
+            EXPECT_EQ(store.GetSetting(section, key, "-"), value);
     }
-    EXPECT_EQ(store->Notice(), "");
+    EXPECT_EQ(store.Notice(), "");
 }
 
 TEST_F(SettingsFileTest, ADamagedFileIsKeptAsideAndOthersAreNotOverwritten) {
