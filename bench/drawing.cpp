@@ -37,7 +37,7 @@ std::string CousinFile() {
 }
 
 /// Stops the search after a number of paths.
-class PathLimit : public swiftroll::EventPump {
+class PathLimit : public bench::QuietPump {
   public:
     explicit PathLimit(std::int64_t most) : most_(most) {}
     void Watch(swiftroll::frmMain& main) { main_ = &main; }
@@ -88,8 +88,10 @@ int main(int argumentCount, char** arguments) {
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
     swiftroll::NoDesktop desktop;
-    swiftroll::frmMain main(
-        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop});
+    swiftroll::NoSettings settings;
+    swiftroll::NoDrawingDevice preview;
+    swiftroll::frmMain main({dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop,
+                             settings, preview, desktop, desktop});
     main.Form_Load({});
     main.cboGedIn.SetText(swiftroll::FileNameToText(gedcom.string()));
     main.cmdLoad.Click();

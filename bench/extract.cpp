@@ -70,8 +70,10 @@ int main(int argumentCount, char** arguments) {
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
     swiftroll::NoDesktop desktop;
-    swiftroll::frmMain main(
-        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop});
+    swiftroll::NoSettings settings;
+    swiftroll::NoDrawingDevice preview;
+    swiftroll::frmMain main({dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop,
+                             settings, preview, desktop, desktop});
     main.Form_Load({});
     main.cboGedIn.SetText(swiftroll::FileNameToText(file.string()));
     main.cmdLoad.Click();

@@ -28,6 +28,7 @@ class QuietStatus : public swiftroll::StatusObserver {
 class QuietPump : public swiftroll::EventPump {
   public:
     void Yield() override {}
+    void YieldFor(int, const bool&) override {}
 };
 
 }  // namespace bench

@@ -93,8 +93,10 @@ class SelectionBench {
     bench::QuietStatus status_;
     swiftroll::platform::ThisMachine machine_;
     swiftroll::NoDesktop desktop_;
-    swiftroll::frmMain main_{
-        {dialogs_, clock_, pump_, files_, folders_, status_, machine_, desktop_, desktop_, desktop_}};
+    swiftroll::NoSettings settings_;
+    swiftroll::NoDrawingDevice preview_;
+    swiftroll::frmMain main_{{dialogs_, clock_, pump_, files_, folders_, status_, machine_, desktop_,
+                              desktop_, desktop_, settings_, preview_, desktop_, desktop_}};
     double slowest_ = 0;
 };
 

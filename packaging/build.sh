@@ -25,8 +25,9 @@ install_packages() {
     fail "the packages could not be installed"
 }
 
-BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev)
-TEST_PACKAGES=(libgtest-dev xsltproc)
+BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev libsqlite3-dev
+  qt6-base-dev qt6-svg-dev qt6-translations-l10n)
+TEST_PACKAGES=(libgtest-dev xsltproc python3)
 
 # build PRESET [TARGET...]: configures and builds; says nothing when there is nothing to do.
 build() {

@@ -31,8 +31,10 @@ struct Bench {
     bench::QuietStatus status;
     swiftroll::platform::ThisMachine machine;
     swiftroll::NoDesktop desktop;
-    swiftroll::frmMain main{
-        {dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop}};
+    swiftroll::NoSettings settings;
+    swiftroll::NoDrawingDevice preview;
+    swiftroll::frmMain main{{dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop,
+                             settings, preview, desktop, desktop}};
 };
 
 /// The worst figures of all cases, for the targets.

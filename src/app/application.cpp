@@ -13,7 +13,9 @@ Application::Application(const Ports& applicationPorts)
              [this] {
                  return PathOf(sUserAppData, Concat({sProduct, ".log"}));
              },
-             [this] { return sRunStart; }}) {}
+             [this] { return sRunStart; }}) {
+    for (Table* table : All()) table->OnPause = [this] { ports.status.StatusChanged(); };
+}
 
 Text Application::MainCaption() const { return Concat({sProduct, " (v", sVersion, ")"}); }
 

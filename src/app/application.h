@@ -12,6 +12,20 @@ struct WidthTables {
     Widths lMaxLenIn, lMaxLenOut, lMaxLenXref, lMaxLenFamily, lMaxLenFamilyXref, lMaxLenKinship;
 };
 
+/// Sets a flag for as long as it lives, and then puts it back: operations that set the same flag nest, and
+/// failures leave them.
+class ScopedFlag {
+  public:
+    explicit ScopedFlag(bool& flag) : flag_(flag), previous_(flag) { flag_ = true; }
+    ~ScopedFlag() { flag_ = previous_; }
+    ScopedFlag(const ScopedFlag&) = delete;
+    ScopedFlag& operator=(const ScopedFlag&) = delete;
+
+  private:
+    bool& flag_;
+    bool previous_;
+};
+
 /// The tabs of the main window by number; the first six have the numbers of their tables.
 enum class Tab { In, Out, FamilyXref, Xref, Family, Kinship, FormatOptions, LinkOptions, Options };
 
@@ -28,6 +42,7 @@ class Application : public TableSet, public OptionRecord, public StatusBar, publ
     const Text sProduct{"SwiftRoll"};
     const Text sVersion{SWIFTROLL_VERSION};
     const Text sWebAddress{SWIFTROLL_WEB};
+    const Text sMailAddress{SWIFTROLL_MAIL};
     /// Time at which the settings were restored, in the short form.
     Text sRunStart;
     Text sUserAppData;
@@ -37,6 +52,8 @@ class Application : public TableSet, public OptionRecord, public StatusBar, publ
     bool bStarting = false;
     bool bFormLoading = false;
     bool bExiting = false;
+    /// The program is to end: nothing more runs.
+    bool bEnded = false;
     /// The abort request: long loops leave at their next test.
     bool bAbort = false;
     /// Whether the families of the present file were processed.

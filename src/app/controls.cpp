@@ -74,7 +74,8 @@ void CheckBox::SetFromText(TextView text) { SetChecked(ZeroOrOne(text, Name()));
 void OptionButton::SetValue(bool value) {
     for (Control* control : window_.Controls()) {
         auto* other = dynamic_cast<OptionButton*>(control);
-        if (value && other != nullptr && other->arrayName_ == arrayName_) other->value_ = false;
+        const bool isOfGroup = other != nullptr && other->arrayName_ == arrayName_ && other->group_ == group_;
+        if (value && isOfGroup) other->value_ = false;
     }
     value_ = value;
 }
@@ -84,6 +85,13 @@ void OptionButton::SetFromText(TextView text) { SetValue(ZeroOrOne(text, Name())
 void OptionGroup::SetIndex(int index) {
     if (index < 0 || index >= static_cast<int>(captions_.size())) throw Failure(FailureKind::IndexOutOfRange);
     index_ = index;
+    Fire(OnClick);
+}
+
+void OptionGroup::SetMember(int index, bool value) {
+    if (index < 0 || index >= static_cast<int>(captions_.size())) throw Failure(FailureKind::IndexOutOfRange);
+    if (value) index_ = index;
+    if (!value && index_ == index) index_ = -1;
     Fire(OnClick);
 }
 

@@ -11,14 +11,27 @@ namespace swiftroll {
 
 class Control;
 
+/// Where a window stands on the screen, in pixels. The presentation fills it before the settings are restored
+/// and before they are saved, and reads it after the restore.
+struct WindowPlace {
+    int top = 0, left = 0;
+    int width = 0, height = 0;
+    /// Whether the user can change the size.
+    bool resizable = true;
+    /// Whether there is a place: a window that was never on a screen has none, unless one was restored.
+    bool known = false;
+};
+
 /// A window without a screen: the ordered list of its controls. Presentations, settings and the headless
 /// program walk it; the controls themselves are members of the class that derives from it.
 class Window {
   public:
-    Window() = default;
+    /// `name` stands for the window in the settings.
+    explicit Window(TextView name = {}) : name_(name) {}
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
+    const Text& Name() const { return name_; }
     const std::vector<Control*>& Controls() const { return controls_; }
     /// The control of a name as users write it, "txtPlaceFormat" or "txtOutExtension(0)"; nullptr if none.
     Control* Find(TextView name) const;
@@ -32,6 +45,7 @@ class Window {
     /// For the presentation, which moves its own focus after.
     std::function<void()> OnFocusChanged;
 
+    WindowPlace Place;
     Text Caption;
     bool Visible() const { return visible_; }
     void Show() { visible_ = true; }
@@ -42,6 +56,7 @@ class Window {
 
   private:
     friend class Control;
+    Text name_;
     std::vector<Control*> controls_;
     Control* activeControl_ = nullptr;
     bool visible_ = false;
@@ -113,13 +128,16 @@ class CheckBox : public Control {
 };
 
 /// One of several option buttons of a control array, which stand and are enabled each by itself; one of them
-/// is set at most.
+/// is set at most, or one of each group where an array has several.
 class OptionButton : public Control {
   public:
-    OptionButton(Window& window, const ControlTexts& texts)
-        : Control(window, ControlKind::OptionButton, texts), window_(window), arrayName_(texts.name) {}
+    OptionButton(Window& window, const ControlTexts& texts, int group = 0)
+        : Control(window, ControlKind::OptionButton, texts),
+          window_(window),
+          arrayName_(texts.name),
+          group_(group) {}
     bool Value() const { return value_; }
-    /// Setting it clears the others of the array.
+    /// Setting it clears the others of the group.
     void SetValue(bool value);
     void SetFromText(TextView text) override;
     Event OnDblClick;
@@ -127,24 +145,36 @@ class OptionButton : public Control {
   private:
     Window& window_;
     Text arrayName_;
+    int group_;
     bool value_ = false;
 };
 
 /// Option buttons of which one is set: `GetOptionIndex`, `SetOptionIndex`.
 class OptionGroup : public Control {
   public:
-    OptionGroup(Window& window, const ControlTexts& texts, std::vector<Text> captions, int index)
-        : Control(window, ControlKind::OptionGroup, texts), captions_(std::move(captions)), index_(index) {}
-    int Index() const { return index_; }
+    /// `tips` has one for each caption, or is empty.
+    OptionGroup(Window& window, const ControlTexts& texts, std::vector<Text> captions, int index,
+                std::vector<Text> tips = {})
+        : Control(window, ControlKind::OptionGroup, texts),
+          captions_(std::move(captions)),
+          tips_(std::move(tips)),
+          index_(index) {}
+    /// The first one, when none is set.
+    int Index() const { return index_ < 0 ? 0 : index_; }
     /// @throws Failure IndexOutOfRange
     void SetIndex(int index);
+    /// Sets or clears one button by itself; none is set after the one that was is cleared.
+    /// @throws Failure IndexOutOfRange
+    void SetMember(int index, bool value);
     const std::vector<Text>& Captions() const { return captions_; }
+    const std::vector<Text>& Tips() const { return tips_; }
     void SetFromText(TextView text) override;
     Event OnClick;
 
   private:
     std::vector<Text> captions_;
-    int index_;
+    std::vector<Text> tips_;
+    int index_;  // -1 for none
 };
 
 class TextBox : public Control {
@@ -203,6 +233,7 @@ class OrderedList : public Control {
     /// Takes the row at 0-based place `from` out and puts it in at the place of row `to`.
     /// @throws Failure IndexOutOfRange
     void Move(std::size_t from, std::size_t to);
+    void SetItems(std::vector<Item> items) { items_ = std::move(items); }
     /// Puts the rows in the order of their numbers, as in "2,1,3".
     void SetFromText(TextView text) override;
 

@@ -19,19 +19,30 @@ Text PlacesOrderTip() {
 
 std::vector<Text> Texts(std::initializer_list<TextView> texts) { return {texts.begin(), texts.end()}; }
 
+constexpr TextView kFavorites = "Favoris"_t;
 constexpr TextView kOutExtension = "Liste en Sortie"_t;
 constexpr TextView kModelExtension = "Modèle en Entrée"_t;
 
 }  // namespace
 
 OptionRecord::OptionRecord()
-    : chkProcFamilies(
+    : Window("frmMain"),
+      cboCells(*this, {"cboCells", "Jeu de paramètres des cellules"_t}),
+      cboColumns(*this, {"cboColumns", "Jeu de positions et largeurs des colonnes"_t}),
+      cboOutPlace(*this, {"cboOutPlace", "Jeu de paramètres des lieux"_t}),
+      cboFavorites{ComboBox(*this, {"cboFavorites", kFavorites, {}, 0}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 1}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 2}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 3}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 4}),
+                   ComboBox(*this, {"cboFavorites", kFavorites, {}, 5})},
+      cboLoad(*this, {"cboLoad", {}, "Sélectionne l'action par défaut du bouton à gauche"_t},
+              Texts({"Lire Tout"_t, "Lire Sans Famille"_t})),
+      chkProcFamilies(
           *this,
           {"chkProcFamilies", "Lire Familles"_t,
            "Nécessite une relecture du fichier GedCom en entrée pour traiter la définition des familles."_t},
           true),
-      cboLoad(*this, {"cboLoad", {}, "Sélectionne l'action par défaut du bouton à gauche"_t},
-              Texts({"Lire Tout"_t, "Lire Sans Famille"_t})),
       chkUpperNames(*this,
                     {"chkUpperNames", "Afficher les NOMS en MAJUSCULES"_t,
                      "Ne convertit pas les noms, c'est uniquement leur affichage qui est concerné."_t},
@@ -78,7 +89,11 @@ OptionRecord::OptionRecord()
       txtFont(*this, {"txtFont"}, "Text1"),
       lblFont(*this, {"lblFont", "Arial"_t,
                       "Montre la police de caractères utilisée dans les cellules des liens de parenté."_t}),
-      optFullName(*this, {"optFullName"}, Texts({"Prénom, NOM"_t, "NOM"_t}), 0),
+      optFullName(
+          *this, {"optFullName"}, Texts({"Prénom, NOM"_t, "NOM"_t}), 0,
+          Texts(
+              {"Dans les cellules d'individus, le prénom et le nom (en MAJUSCULES) de l'individu seront indiqués."_t,
+               "Dans les cellules d'individus, seul le nom de l'individu en MAJUSCULES sera repris."_t})),
       chkIndiID(*this,
                 {"chkIndiID", "ID"_t,
                  "Dans les cellules d'individus, l'identifiant de l'individu sera également repris."_t},
@@ -138,6 +153,7 @@ OptionRecord::OptionRecord()
       chkIgnoreCase(*this, {"chkIgnoreCase", "ABC=abc"_t}, true),
       chkDelAccents(
           *this, {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"_t}, true) {
+    cboOutPlace.SetText("Tout");
     chkProcFamilies.Visible = false;
     txtFont.Visible = false;
     txtKinshipLandscape.Visible = false;

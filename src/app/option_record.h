@@ -13,9 +13,17 @@ class OptionRecord : public Window {
   public:
     OptionRecord();
 
-    // Reading
-    CheckBox chkProcFamilies;
+    // Named parameter sets. Restoring one loads it, so they stand before the options that they hold: what
+    // the user saw last wins.
+    ComboBox cboCells;
+    ComboBox cboColumns;
+    ComboBox cboOutPlace;
+    // Favourites of the six table tabs
+    std::array<ComboBox, 6> cboFavorites;
+
+    // Reading. Restoring the combo sets the box, so the box comes behind it.
     ComboBox cboLoad;
+    CheckBox chkProcFamilies;
     CheckBox chkUpperNames;
     CheckBox chkInvertNames;
 

@@ -3,8 +3,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "app/cell_font.h"
+#include "app/drawing_device.h"
 #include "text/text.h"
 
 namespace swiftroll {
@@ -74,6 +77,8 @@ class EventPump {
   public:
     virtual ~EventPump() = default;
     virtual void Yield() = 0;
+    /// Lets events be handled for so long, or until `stop` is set by one of them.
+    virtual void YieldFor(int milliseconds, const bool& stop) = 0;
 };
 
 /// A file open for reading or writing. The destructor closes it without telling of failures.
@@ -124,9 +129,17 @@ class Folders {
     virtual Text Separator() = 0;
 };
 
+/// The operating system as it tells of itself. `name` is empty where the numbers tell it.
+struct SystemVersion {
+    Text name;
+    int major = 0, minor = 0, build = 0, platformId = 0;
+};
+
 /// What the machine is.
 class Machine {
   public:
+    /// @throws Failure when the system does not tell
+    virtual SystemVersion System() = 0;
     virtual ~Machine() = default;
     /// Bytes of memory that the program may count on at most.
     virtual std::uint64_t Memory() = 0;
@@ -160,6 +173,57 @@ class Desktop {
     virtual void OpenAddress(TextView address) = 0;
 };
 
+struct SettingEntry {
+    Text section, key, value;
+};
+
+/// The user's settings, kept from one run to the next: texts by section and key. A section may have
+/// sub-sections, whose names follow it behind "\". Keys and values hold any characters; case counts.
+class SettingsStore {
+  public:
+    virtual ~SettingsStore() = default;
+    /// @throws Failure FileAccess when the store cannot be written
+    virtual void SaveSetting(TextView section, TextView key, TextView value) = 0;
+    /// The value, or `fallback` where there is none. @throws Failure FileAccess
+    virtual Text GetSetting(TextView section, TextView key, TextView fallback) = 0;
+    using Pairs = std::vector<std::pair<Text, Text>>;
+    /// Keys and values of a section, in any order, without its sub-sections. @throws Failure FileAccess
+    virtual Pairs GetAllSettings(TextView section) = 0;
+    /// Removes a key, or a section with its sub-sections, if it is there. @throws Failure FileAccess
+    virtual void DeleteSetting(TextView section, TextView key) = 0;
+    virtual void DeleteSetting(TextView section) = 0;
+    /// Runs `writes` and keeps all that it writes, or nothing: when it throws, when a write failed, and when
+    /// the program ends in the middle, the former settings stay whole. @throws Failure FileAccess
+    virtual void Together(const std::function<void()>& writes) = 0;
+    /// All that is stored, in the order of sections and keys. @throws Failure FileAccess
+    virtual std::vector<SettingEntry> Everything() = 0;
+    /// What to tell the user about the state in which the store was found, empty when all is well.
+    virtual Text Notice() = 0;
+};
+
+/// Files of the web.
+class Network {
+  public:
+    virtual ~Network() = default;
+    /// Fetches a file to a local one. What is not found, or cannot be reached, leaves the local file as it
+    /// is; Escape ends the wait. @throws Failure when nothing can be fetched at all
+    virtual void Download(TextView address, TextView localFile) = 0;
+};
+
+struct MailMessage {
+    Text recipient, address, subject, body;
+    std::vector<Text> attachments;
+};
+
+/// The mail program of the user.
+class Mail {
+  public:
+    virtual ~Mail() = default;
+    /// Shows the message to the user, who sends it. Where there is no mail program, writes it as a draft into
+    /// the file `draft`, and tells so by true. @throws Failure FileAccess
+    virtual bool Compose(const MailMessage& message, TextView draft) = 0;
+};
+
 /// Told after the status panels or the progress have changed; must be cheap.
 class StatusObserver {
   public:
@@ -179,16 +243,35 @@ struct Ports {
     Clipboard& clipboard;
     Keyboard& keyboard;
     Desktop& desktop;
+    SettingsStore& settings;
+    /// The sheet that the preview shows.
+    DrawingDevice& preview;
+    Network& network;
+    Mail& mail;
 };
 
 /// The desktop of a program without a window: there is none.
-struct NoDesktop : Clipboard, Keyboard, Desktop {
+struct NoDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
     void SetText(TextView) override {}
     bool IsShiftDown() override { return false; }
     OpenResult Open(TextView, int&) override { return OpenResult::NoProgram; }
     void ChooseProgram(TextView) override {}
     void OpenHelp(TextView, int) override {}
     void OpenAddress(TextView) override {}
+    void Download(TextView, TextView) override {}
+    bool Compose(const MailMessage&, TextView) override { return true; }
+};
+
+/// The settings of a program that keeps none: every run begins with the defaults.
+struct NoSettings : SettingsStore {
+    void SaveSetting(TextView, TextView, TextView) override {}
+    Text GetSetting(TextView, TextView, TextView fallback) override { return Text(fallback); }
+    Pairs GetAllSettings(TextView) override { return {}; }
+    void DeleteSetting(TextView, TextView) override {}
+    void DeleteSetting(TextView) override {}
+    void Together(const std::function<void()>& writes) override { writes(); }
+    std::vector<SettingEntry> Everything() override { return {}; }
+    Text Notice() override { return {}; }
 };
 
 }  // namespace swiftroll

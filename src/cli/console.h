@@ -59,6 +59,7 @@ class InterruptPump : public EventPump {
   public:
     void Watch(Application& app) { app_ = &app; }
     void Yield() override;
+    void YieldFor(int, const bool&) override { Yield(); }
     /// A limit of the command line; when it gives true, the operation is stopped in the same way.
     std::function<bool()> stopWhen;
 

@@ -18,7 +18,8 @@ Session::Session(const Arguments& theArguments)
     : arguments(theArguments),
       dialogs(theArguments),
       progress(!theArguments.quiet && platform::ErrorIsTerminal()),
-      main({dialogs, clock, pump, files, folders, progress, machine, desktop, desktop, desktop}) {
+      main({dialogs, clock, pump, files, folders, progress, machine, desktop, desktop, desktop, settings,
+            preview, desktop, desktop}) {
     progress.Watch(main);
     pump.Watch(main);
     dialogs.beforeBox = [this] { progress.Wipe(); };

@@ -44,6 +44,8 @@ struct Session {
     platform::UserFolders folders;
     platform::ThisMachine machine;
     NoDesktop desktop;
+    NoSettings settings;
+    NoDrawingDevice preview;
     TerminalProgress progress;
     frmMain main;
     bool failed = false;

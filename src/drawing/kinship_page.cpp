@@ -1,7 +1,6 @@
 #include "drawing/kinship_page.h"
 
 #include "app/french_date.h"
-#include "tables/column_numbers.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -9,9 +8,7 @@
 namespace swiftroll::modKinshipOutput {
 namespace {
 
-constexpr std::int64_t lPageLeft = 10;
 constexpr std::size_t kBufferSize = std::size_t{1} << 16;
-constexpr int kFirst = 1, kLast = 9;
 
 constexpr TextView kBoxStyle =
     "{ border: 1pt solid black; text-align: Center; margin-top: 0pt; margin-bottom: 1pt; background-color:";
@@ -30,38 +27,10 @@ constexpr TextView kLinesPortrait[] = {
 
 }  // namespace
 
-KinshipPage::KinshipPage(Application& app, TextView sKinshipTitle)
-    : app_(app),
-      sKinshipTitle_(sKinshipTitle),
-      font_(ParseCellFont(app.txtFont.Get()).value_or(CellFont())),
-      texts_(app, font_) {}
+KinshipPage::KinshipPage(Application& app, TextView sKinshipTitle) : KinshipDocument(app, sKinshipTitle) {}
 
-bool KinshipPage::DisplayHtmlKinship(int iStage, const KinshipGrid& grid) {
-    const CellSizes sizes(app_);
-    try {
-        if (iStage == kFirst) {
-            file_ = app_.ports.files.Open(app_.cboKinship.Get(), Files::Mode::Write);
-            WriteHead(sizes);
-        }
-        if (iStage != kLast) {
-            WriteDrawing(grid, sizes);
-        } else {
-            WriteFoot();
-            Flush();
-            file_->Close();
-            app_.pnlMessage.Set(Concat({sKinshipTitle_, " : Terminé"_t}));
-        }
-    } catch (const std::exception&) {
-        const Failure failure = CurrentFailure();
-        app_.Box(" - Kinship", Concat({"Erreur d'écriture dans le fichier "_t, app_.cboKinship.Get(), ".",
-                                       kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
-        file_.reset();
-        return true;
-    }
-    return false;
-}
-
-void KinshipPage::WriteHead(const CellSizes& sizes) {
+void KinshipPage::Begin(const CellSizes& sizes) {
+    file_ = app_.ports.files.Open(app_.cboKinship.Get(), Files::Mode::Write);
     WriteLine({"<HTML>"});
     WriteLine({"<HEAD>"});
     WriteLine({"<style type=\"text/css\">"});
@@ -83,57 +52,30 @@ void KinshipPage::WriteHead(const CellSizes& sizes) {
     WriteLine({"</HEAD><BODY>"});
 }
 
-void KinshipPage::WriteDrawing(const KinshipGrid& grid, const CellSizes& sizes) {
-    constexpr std::int64_t kBeforeRule = 20, kBehindRule = 10;
-    for (const GridCell& cell : grid.asGrid) WriteCell(cell, RectangleOf(cell, grid, sizes));
-    lPageTop_ += kBeforeRule + DrawingHeight(grid, sizes);
-    WriteLine({"<table class=hr style=\"top:", Decimal(lPageTop_), "; left:0; height:1; width:",
-               Decimal(RuleWidth(grid, sizes)), "\"><tr><td>&nbsp;</td></tr></TABLE>"});
-    lPageTop_ += kBehindRule;
+void KinshipPage::WriteCell(TextView sClass, TextView sText, const CellRectangle& place, const CellSizes&) {
+    WriteLine({"<table class=", sClass, " style=\"top:", Decimal(place.top), ";left:", Decimal(place.left),
+               ";height:", Decimal(place.height), ";width:", Decimal(place.width), "\"><tr><td>",
+               sText.empty() ? TextView("&nbsp;") : sText, "</td></tr></table>"});
 }
 
-void KinshipPage::WriteCell(const GridCell& cell, const CellRectangle& rectangle) {
-    const Text text = TextOf(cell);
-    WriteLine({"<table class=", ClassOf(cell), " style=\"top:", Decimal(lPageTop_ + rectangle.top),
-               ";left:", Decimal(lPageLeft + rectangle.left), ";height:", Decimal(rectangle.height),
-               ";width:", Decimal(rectangle.width), "\"><tr><td>",
-               text.empty() ? TextView("&nbsp;") : TextView(text), "</td></tr></table>"});
+void KinshipPage::EndDrawing(std::int64_t lTop, std::int64_t lWidth) {
+    WriteLine({"<table class=hr style=\"top:", Decimal(lTop), "; left:0; height:1; width:", Decimal(lWidth),
+               "\"><tr><td>&nbsp;</td></tr></TABLE>"});
 }
 
-TextView KinshipPage::ClassOf(const GridCell& cell) const {
-    switch (cell.kind) {
-        case CellKind::Person: {
-            const auto person = app_.lvwIn.Find(TextView(cell.id));
-            const TextView sex = person ? person->Cell(In::Sex) : TextView();
-            return sex == "M" ? "IndivMBox" : sex == "F" ? "IndivFBox" : "IndivUBox";
-        }
-        case CellKind::UnknownPerson:
-            return "IndivUBox";
-        case CellKind::Marriage:
-            return "SpouseLine";
-        case CellKind::ChildLeft:
-            return "ChildHLine";
-        case CellKind::Child1Parent:
-        case CellKind::Child2Parents:
-        case CellKind::Children1Parent:
-        case CellKind::Children2Parents:
-            break;
-    }
-    return "ChildVLine";
-}
-
-Text KinshipPage::TextOf(const GridCell& cell) const {
-    if (cell.kind == CellKind::Person) return texts_.IndividualInfos(cell.id);
-    if (cell.kind == CellKind::UnknownPerson) return "<p>?</p>";
-    if (cell.kind == CellKind::Marriage) return texts_.FamilyInfos(cell.id);
-    return {};
-}
-
-void KinshipPage::WriteFoot() {
-    WriteLine({"<table style=\"left:0; top:", Decimal(lPageTop_),
+void KinshipPage::End(std::int64_t lTop) {
+    WriteLine({"<table style=\"left:0; top:", Decimal(lTop),
                "\"><tr><td><p><font size=\"1\" color=\"#000000\">", "Généré par <a href=\""_t,
                app_.sWebAddress, "\">SwiftRoll</a> (v", app_.sVersion, ") le ",
                ShortDate(app_.ports.clock.Now()), "</font></p></td></tr></table></BODY></HTML>"});
+    Flush();
+    file_->Close();
+}
+
+void KinshipPage::Fail(const Failure& failure) {
+    app_.Box(" - Kinship", Concat({"Erreur d'écriture dans le fichier "_t, app_.cboKinship.Get(), ".",
+                                   kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
+    file_.reset();
 }
 
 void KinshipPage::WriteLine(std::initializer_list<TextView> pieces) {

@@ -6,23 +6,15 @@
 #include "text/edit.h"
 #include "text/failure.h"
 #include "text/literal.h"
-#include "text/numbers.h"
 
 namespace swiftroll::modSaveGed {
 
-using modReadGedcom::RecordRange;
-
 namespace {
 
-constexpr std::size_t kBufferSize = std::size_t{1} << 20;
+constexpr std::size_t kBufferSize = std::size_t{1} << 18;
+constexpr std::int64_t kLongestRun = std::int64_t{1} << 20;
 
 }  // namespace
-
-std::optional<RecordRange> RangeOfTag(TextView sTag) {
-    const std::size_t blank = sTag.find(' ');
-    if (blank == TextView::npos || sTag.find(' ', blank + 1) != TextView::npos) return std::nullopt;
-    return RecordRange{ToLong(sTag.substr(0, blank)), ToLong(sTag.substr(blank + 1))};
-}
 
 ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& lines,
                              std::unique_ptr<File> in, File& out)
@@ -30,8 +22,8 @@ ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& 
       lines_(lines),
       source_(std::move(in), app.cboGedIn.Get()),
       out_(out),
-      colFamToSave_(app.lvwFamilyXref) {
-    buffer_.reserve(2 * kBufferSize);
+      colFamToSave_(app.lvwFamily, app.lvwFamilyXref) {
+    buffer_.reserve(kBufferSize);
 }
 
 void ExtractWriter::Write() {
@@ -49,85 +41,90 @@ void ExtractWriter::OutIndividuals() {
         const Row person = app_.lvwIn.Item(i);
         if (!person.Marked()) continue;
         colFamToSave_.AddFamToSave(person.Ref(In::ID));
-        if (const auto range = RangeOfTag(person.Tag())) OutGedTag(*range);
+        OutWithNeighbours(RangeOfTag(person.Tag()));
         ++individuals_;
     }
+    OutRun();
 }
 
-/// Families are written in an order that is not that of the file: some thousands of them at a time are read
+/// Records that follow each other in the file are copied at once.
+void ExtractWriter::OutWithNeighbours(const RecordRange& range) {
+    if (IsEmpty(range)) return;
+    const bool follows = !run_.empty() && run_.back().end == range.start;
+    if (!run_.empty() && (!follows || range.end - run_.front().start > kLongestRun)) OutRun();
+    run_.push_back(range);
+}
+
+void ExtractWriter::OutRun() {
+    if (run_.empty()) return;
+    const std::int64_t start = run_.front().start;
+    const TextView records = source_.Read({start, run_.back().end});
+    for (const RecordRange& range : run_) {
+        NoteReferences(records.substr(static_cast<std::size_t>(range.start - start), LengthOf(range)));
+    }
+    OutRecord(records);
+    run_.clear();
+}
+
+/// Families are written in an order that is not that of the file: some megabytes of them at a time are read
 /// in the order of the file before they are written.
 void ExtractWriter::OutFamilies() {
-    constexpr std::size_t kAtATime = std::size_t{1} << 17, kLookAhead = 8;
+    constexpr std::size_t kAtATime = std::size_t{1} << 24;
     colFamToSave_.Arrange();
-    for (std::size_t first = 0; first < colFamToSave_.Count(); first += kAtATime) {
-        const std::size_t last = std::min(first + kAtATime, colFamToSave_.Count());
-        std::vector<FamilyToWrite> families;
-        families.reserve(last - first);
-        for (std::size_t i = first; i < last; ++i) {
-            if (i + kLookAhead < last) app_.lvwFamily.Prefetch(RowKey(colFamToSave_[i + kLookAhead].sFam));
-            families.push_back(Prepare(colFamToSave_[i]));
+    for (std::size_t first = 0; first < colFamToSave_.Count();) {
+        std::vector<Piece> pieces;
+        std::size_t total = 0, last = first;
+        for (; last < colFamToSave_.Count() && total < kAtATime; ++last) {
+            const FamiliesToSave::Entry family = colFamToSave_[last];
+            if (!family.bFull) continue;
+            pieces.push_back({family.range, total});
+            total += LengthOf(family.range);
         }
-        ReadRecords(families);
-        for (const FamilyToWrite& family : families) OutGedFamilyTag(family);
+        ReadRecords(pieces, total);
+        TextView records = familyRecords_;
+        for (; first < last; ++first) OutGedFamilyTag(colFamToSave_[first], records);
     }
 }
 
-ExtractWriter::FamilyToWrite ExtractWriter::Prepare(const FamiliesToSave::Entry& entry) {
-    const auto family = app_.lvwFamily.Find(RowKey(entry.sFam));
-    if (!family) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(entry.sFam));
-    const auto isMarkedSpouse = [&](std::int16_t column) {
-        const TextRef spouse = family->Ref(column);
-        return !spouse.IsEmpty() &&
-               std::find(entry.sIndis.begin(), entry.sIndis.end(), spouse) != entry.sIndis.end();
-    };
-    const int spouses = (isMarkedSpouse(Family::IDHusb) ? 1 : 0) + (isMarkedSpouse(Family::IDWife) ? 1 : 0) +
-                        (isMarkedSpouse(Family::IDFams) ? 1 : 0);
-    return {entry, RangeOfTag(family->Tag()), spouses >= 2, 0, 0};
-}
-
-void ExtractWriter::ReadRecords(std::vector<FamilyToWrite>& families) {
-    std::vector<FamilyToWrite*> inFileOrder;
-    for (FamilyToWrite& family : families) {
-        if (family.bFull && family.range) inFileOrder.push_back(&family);
-    }
-    std::sort(inFileOrder.begin(), inFileOrder.end(), [](const FamilyToWrite* a, const FamilyToWrite* b) {
-        return a->range->start < b->range->start;
-    });
-    familyRecords_.clear();
-    for (FamilyToWrite* family : inFileOrder) {
-        const TextView record = source_.Read(*family->range);
-        family->place = familyRecords_.size();
-        family->length = record.size();
-        familyRecords_ += record;
+void ExtractWriter::ReadRecords(std::vector<Piece>& pieces, std::size_t total) {
+    std::sort(pieces.begin(), pieces.end(),
+              [](const Piece& a, const Piece& b) { return a.range.start < b.range.start; });
+    familyRecords_.resize(total);
+    for (const Piece& piece : pieces) {
+        const TextView record = source_.Read(piece.range);
+        std::copy(record.begin(), record.end(),
+                  familyRecords_.begin() + static_cast<std::ptrdiff_t>(piece.place));
     }
 }
 
 /// A family with both spouses keeps all that is told of it. Another one is reduced to its links: what was
 /// told of the couple is not for those who are left.
-void ExtractWriter::OutGedFamilyTag(const FamilyToWrite& family) {
-    if (!family.range) return;
+void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextView& records) {
+    if (IsEmpty(family.range)) return;
     TextStore& store = app_.lvwFamily.Store();
-    const FamiliesToSave::Entry& entry = family.entry;
     ++families_;
     if (family.bFull) {
         const auto isMember = [&](TextView sId) {
-            return std::any_of(entry.sIndis.begin(), entry.sIndis.end(),
-                               [&](TextRef member) { return store.Get(member) == sId; });
+            return std::any_of(family.sIndis.begin(), family.sIndis.end(), [&](FamiliesToSave::Rank member) {
+                return store.Get(colFamToSave_.Individual(member)) == sId;
+            });
         };
-        const TextView whole = TextView(familyRecords_).substr(family.place, family.length);
-        const TextView record = entry.isComplete ? whole : RemoveIndis(whole, isMember, reduced_);
+        const TextView whole = records.substr(0, LengthOf(family.range));
+        records.remove_prefix(whole.size());
+        const TextView record = family.isComplete ? whole : RemoveIndis(whole, isMember, reduced_);
         NoteReferences(record);
         OutRecord(record);
         return;
     }
-    Out(Concat({"0 ", store.Get(entry.sFam), " FAM", kLineEnd}));
-    for (const TextRef sIndi : entry.sIndis) {
-        Out(Concat({"1 ", RoleOf(entry, sIndi), " ", store.Get(sIndi), kLineEnd}));
+    Out(Concat({"0 ", store.Get(family.sFam), " FAM", kLineEnd}));
+    for (const FamiliesToSave::Rank member : family.sIndis) {
+        const TextRef sIndi = colFamToSave_.Individual(member);
+        Out(Concat({"1 ", RoleOf(family.sFam, sIndi), " ", store.Get(sIndi), kLineEnd}));
     }
 }
 
-TextView ExtractWriter::RoleOf(const FamiliesToSave::Entry& entry, TextRef sIndi) {
-    const auto member = app_.lvwFamilyXref.Find(RowKey(entry.sFam, sIndi));
+TextView ExtractWriter::RoleOf(TextRef sFam, TextRef sIndi) {
+    const auto member = app_.lvwFamilyXref.Find(RowKey(sFam, sIndi));
     if (!member) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(sIndi));
     const TextView type = member->Cell(FamilyXref::Type);
     if (type == "Fils" || type == "Fille" || type == "Enfant") return "CHIL";
@@ -169,15 +166,22 @@ void ExtractWriter::OutRecord(TextView sRecord) {
 }
 
 void ExtractWriter::Out(TextView bytes) {
-    buffer_ += bytes;
-    if (buffer_.size() >= kBufferSize) Flush();
+    if (buffer_.size() + bytes.size() > kBufferSize) Flush();
+    if (bytes.size() > kBufferSize)
+        Write(bytes);
+    else
+        buffer_ += bytes;
 }
 
 void ExtractWriter::Flush() {
-    // A buffer that could not be written is not tried again.
-    if (std::exchange(isWriting_, true)) return;
-    out_.Write(buffer_);
+    Write(buffer_);
     buffer_.clear();
+}
+
+void ExtractWriter::Write(TextView bytes) {
+    // What could not be written is not tried again.
+    if (std::exchange(isWriting_, true)) return;
+    out_.Write(bytes);
     isWriting_ = false;
 }
 

@@ -30,30 +30,32 @@ class ExtractWriter {
     std::int32_t Families() const { return families_; }
 
   private:
-    void OutGedTag(const modReadGedcom::RecordRange& range);
+    void OutGedTag(const RecordRange& range);
     void OutIndividuals();
+    void OutWithNeighbours(const RecordRange& range);
+    void OutRun();
     void OutFamilies();
-    /// A family, and its record in `familyRecords_` when it is written as it is.
-    struct FamilyToWrite {
-        FamiliesToSave::Entry entry;
-        std::optional<modReadGedcom::RecordRange> range;
-        bool bFull;
-        std::size_t place, length;
+    /// A record of a family, and its place in `familyRecords_`.
+    struct Piece {
+        RecordRange range;
+        std::size_t place;
     };
-    FamilyToWrite Prepare(const FamiliesToSave::Entry& entry);
-    void ReadRecords(std::vector<FamilyToWrite>& families);
-    void OutGedFamilyTag(const FamilyToWrite& family);
+    void ReadRecords(std::vector<Piece>& pieces, std::size_t total);
+    /// `records` are those of the families that are written whole, from this one on.
+    void OutGedFamilyTag(const FamiliesToSave::Entry& family, TextView& records);
     void OutReferencedRecords();
     void NoteReferences(TextView sRecord);
     void OutRecord(TextView sRecord);
     void Out(TextView bytes);
-    TextView RoleOf(const FamiliesToSave::Entry& entry, TextRef sIndi);
+    void Write(TextView bytes);
+    TextView RoleOf(TextRef sFam, TextRef sIndi);
 
     Application& app_;
     const modReadGedcom::LineReader& lines_;
     RecordSource source_;
     File& out_;
     Text buffer_;
+    std::vector<RecordRange> run_;  // to be copied, each behind the one before
     FamiliesToSave colFamToSave_;
     std::deque<Text> colTagsToSave_;
     KeyedCollection<bool> sTagsSeen_;  // records are found whatever the case, and so are these
@@ -62,8 +64,5 @@ class ExtractWriter {
     bool isWriting_ = false;  // what is in the buffer is being written
     std::int32_t individuals_ = 0, families_ = 0;
 };
-
-/// The range that the tag of a row tells; nothing when it does not hold two numbers.
-std::optional<modReadGedcom::RecordRange> RangeOfTag(TextView sTag);
 
 }  // namespace swiftroll::modSaveGed

@@ -6,54 +6,98 @@
 #include "tables/column_numbers.h"
 
 namespace swiftroll::modSaveGed {
+namespace {
 
-FamiliesToSave::FamiliesToSave(Table& lvwFamilyXref)
-    : first_(lvwFamilyXref.Store().InternedCount() + 1),
-      families_(static_cast<std::size_t>(lvwFamilyXref.Count())),
-      sizes_(first_.size()) {
-    constexpr std::int32_t kLookAhead = 16;
-    std::vector<Membership> all;
-    all.reserve(families_.size());
-    for (std::int32_t i = 1; i <= lvwFamilyXref.Count(); ++i) {
-        lvwFamilyXref.Prefetch(i + kLookAhead);
-        const Row member = lvwFamilyXref.Item(i);
-        const TextRef indi = member.Ref(FamilyXref::IDIndi), family = member.Ref(FamilyXref::IDFam);
-        if (!indi.IsEmpty() && !family.IsEmpty()) all.push_back({family, indi});
-    }
-    for (const Membership& member : all) {
-        ++first_[member.sIndi.Symbol() + 1];
-        ++sizes_[member.sFam.Symbol()];
-    }
-    std::partial_sum(first_.begin(), first_.end(), first_.begin());
-    std::vector<std::uint32_t> next = first_;
-    for (const Membership& member : all) families_[next[member.sIndi.Symbol()]++] = member.sFam;
-}
+// The tables are sorted by identifiers, but their rows stand in memory as they were read.
+constexpr std::int32_t kLookAhead = 16;
+
+}  // namespace
+
+FamiliesToSave::FamiliesToSave(Table& lvwFamily, Table& lvwFamilyXref)
+    : lvwFamily_(lvwFamily), lvwFamilyXref_(lvwFamilyXref), rankOf_(lvwFamily.Store().InternedCount() + 1) {}
 
 void FamiliesToSave::AddFamToSave(TextRef sIndi) {
-    const std::uint32_t symbol = sIndi.Symbol();
-    for (std::uint32_t i = first_[symbol]; i < first_[symbol + 1]; ++i)
-        added_.push_back({families_[i], sIndi});
+    if (sIndi.IsEmpty()) return;
+    added_.push_back(sIndi);
+    rankOf_[sIndi.Symbol()] = static_cast<Rank>(added_.size());
+}
+
+/// Gives the spouses of each family.
+std::vector<FamiliesToSave::Spouses> FamiliesToSave::ReadFamilies() {
+    std::vector<Spouses> spouses;
+    spouses.reserve(static_cast<std::size_t>(lvwFamily_.Count()));
+    families_.reserve(spouses.capacity());
+    for (std::int32_t i = 1; i <= lvwFamily_.Count(); ++i) {
+        lvwFamily_.Prefetch(i + kLookAhead);
+        const Row family = lvwFamily_.Item(i);
+        spouses.push_back(
+            {family.Ref(Family::IDHusb), family.Ref(Family::IDWife), family.Ref(Family::IDFams)});
+        families_.push_back({family.Ref(Family::IDFam), RangeOfTag(family.Tag())});
+    }
+    return spouses;
+}
+
+/// The memberships of those who were added, in the order of the table. All members count for the size of a
+/// family.
+std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const std::vector<Spouses>& spouses) {
+    constexpr std::uint32_t kNone = 0xFFFFFFFFu;
+    std::vector<std::uint32_t> numberOf(rankOf_.size(), kNone);
+    for (std::size_t n = 0; n < families_.size(); ++n)
+        if (!families_[n].sFam.IsEmpty())
+            numberOf[families_[n].sFam.Symbol()] = static_cast<std::uint32_t>(n);
+    std::vector<Membership> memberships;
+    memberships.reserve(static_cast<std::size_t>(lvwFamilyXref_.Count()));
+    for (std::int32_t i = 1; i <= lvwFamilyXref_.Count(); ++i) {
+        lvwFamilyXref_.Prefetch(i + kLookAhead);
+        const Row member = lvwFamilyXref_.Item(i);
+        const TextRef sIndi = member.Ref(FamilyXref::IDIndi), sFam = member.Ref(FamilyXref::IDFam);
+        if (sIndi.IsEmpty() || sFam.IsEmpty()) continue;
+        const std::uint32_t number = numberOf[sFam.Symbol()];
+        const Rank rank = rankOf_[sIndi.Symbol()];
+        if (number == kNone) {
+            if (rank != 0) throw Failure(FailureKind::KeyNotFound, lvwFamily_.Store().Get(sFam));
+            continue;
+        }
+        FamilyRow& family = families_[number];
+        ++family.size;
+        if (rank == 0) continue;
+        ++family.added;
+        family.spouses +=
+            static_cast<std::uint32_t>(std::count(spouses[number].begin(), spouses[number].end(), sIndi));
+        memberships.push_back({number, rank});
+    }
+    return memberships;
 }
 
 void FamiliesToSave::Arrange() {
-    constexpr std::uint32_t kNone = 0xFFFFFFFFu;
-    // From the last membership back, so that the first one met of a family gives its place.
-    std::vector<std::uint32_t> placeOf(first_.size(), kNone);
-    order_.clear();
-    for (auto member = added_.rbegin(); member != added_.rend(); ++member) {
-        std::uint32_t& place = placeOf[member->sFam.Symbol()];
-        if (place != kNone) continue;
-        place = static_cast<std::uint32_t>(order_.size());
-        order_.push_back(member->sFam);
+    const std::vector<Membership> memberships = ReadMemberships(ReadFamilies());
+    members_.resize(memberships.size());
+    std::uint32_t first = 0;
+    for (FamilyRow& family : families_) {
+        family.firstMember = first;
+        first += std::exchange(family.added, 0);
     }
-    std::reverse(order_.begin(), order_.end());
-    const auto placeFromStart = [&](TextRef sFam) { return order_.size() - 1 - placeOf[sFam.Symbol()]; };
-    firstMember_.assign(order_.size() + 1, 0);
-    for (const Membership& member : added_) ++firstMember_[placeFromStart(member.sFam) + 1];
-    std::partial_sum(firstMember_.begin(), firstMember_.end(), firstMember_.begin());
-    members_.resize(added_.size());
-    std::vector<std::uint32_t> next = firstMember_;
-    for (const Membership& member : added_) members_[next[placeFromStart(member.sFam)]++] = member.sIndi;
+    for (const auto& [number, rank] : memberships) {
+        FamilyRow& family = families_[number];
+        members_[family.firstMember + family.added++] = rank;
+    }
+    for (const FamilyRow& family : families_) {
+        const auto begin = members_.begin() + family.firstMember;
+        std::sort(begin, begin + family.added);
+    }
+
+    // A family stands where its last member was added, behind the families of that one before in the table.
+    const auto isLast = [&](const FamilyRow& family, Rank rank) {
+        return members_[family.firstMember + family.added - 1] == rank;
+    };
+    std::vector<std::uint32_t> place(added_.size() + 2);
+    for (const auto& [number, rank] : memberships) place[rank + 1] += isLast(families_[number], rank) ? 1 : 0;
+    std::partial_sum(place.begin(), place.end(), place.begin());
+    ordered_.resize(place.back());
+    for (const auto& [number, rank] : memberships) {
+        const FamilyRow& family = families_[number];
+        if (isLast(family, rank)) ordered_[place[rank]++] = family;
+    }
 }
 
 }  // namespace swiftroll::modSaveGed

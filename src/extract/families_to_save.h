@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <vector>
 
+#include "extract/record_range.h"
 #include "tables/table.h"
 
 namespace swiftroll::modSaveGed {
@@ -11,40 +13,55 @@ namespace swiftroll::modSaveGed {
 /// to the end each time a member is added, so that families stand in the order of their last member.
 class FamiliesToSave {
   public:
-    explicit FamiliesToSave(Table& lvwFamilyXref);
+    FamiliesToSave(Table& lvwFamily, Table& lvwFamilyXref);
 
     /// Adds an individual to all its families. `sIndi` is an identifier in the store of the tables.
     void AddFamToSave(TextRef sIndi);
+    /// Puts the families in their order; to be called when all individuals were added.
+    /// @throws Failure KeyNotFound when a family has no row
+    void Arrange();
 
+    using Rank = std::uint32_t;
     struct Entry {
         TextRef sFam;
-        std::span<const TextRef> sIndis;  // members in the order in which they were added
-        bool isComplete;                  // nobody of the family is missing
+        RecordRange range;             // of its record; empty when there is none
+        std::span<const Rank> sIndis;  // members in the order in which they were added
+        bool isComplete;               // nobody of the family is missing
+        bool bFull;                    // at least two of the spouses were added
     };
-    /// Puts the families in their order; to be called when all individuals were added.
-    void Arrange();
-    std::size_t Count() const { return order_.size(); }
+    std::size_t Count() const { return ordered_.size(); }
     /// A family by its place from 0.
     Entry operator[](std::size_t i) const {
-        const std::uint32_t count = firstMember_[i + 1] - firstMember_[i];
-        return {order_[i], std::span(members_).subspan(firstMember_[i], count),
-                count == sizes_[order_[i].Symbol()]};
+        const FamilyRow& family = ordered_[i];
+        return {family.sFam, family.range, std::span(members_).subspan(family.firstMember, family.added),
+                family.added == family.size, family.spouses >= 2};
     }
+    /// The individual that was added with a rank.
+    TextRef Individual(Rank rank) const { return added_[rank - 1]; }
 
   private:
-    struct Membership {
+    struct FamilyRow {
         TextRef sFam;
-        TextRef sIndi;
+        RecordRange range;
+        std::uint32_t spouses = 0;  // number of those who were added
+        std::uint32_t size = 0;     // number of its members
+        std::uint32_t added = 0;    // number of those who were added: they stand from firstMember on
+        std::uint32_t firstMember = 0;
     };
-    // Families of each individual by the number of its identifier: from first_[n] on, up to first_[n + 1].
-    std::vector<std::uint32_t> first_;
-    std::vector<TextRef> families_;
-    std::vector<std::uint32_t> sizes_;  // number of members of each family, by the number of its identifier
-    std::vector<Membership> added_;
-    // The families in order, and the members of the i-th from firstMember_[i] on, up to that of the next.
-    std::vector<TextRef> order_;
-    std::vector<std::uint32_t> firstMember_;
-    std::vector<TextRef> members_;
+    struct Membership {
+        std::uint32_t family;  // number of its row from 0
+        Rank rank;
+    };
+    using Spouses = std::array<TextRef, 3>;
+    std::vector<Spouses> ReadFamilies();
+    std::vector<Membership> ReadMemberships(const std::vector<Spouses>& spouses);
+
+    Table& lvwFamily_;
+    Table& lvwFamilyXref_;
+    std::vector<TextRef> added_;  // the individuals in their order: the first one has the rank 1
+    std::vector<Rank> rankOf_;    // by the number of the identifier, 0 for others
+    std::vector<FamilyRow> families_, ordered_;  // in the order of the table, and in that of the extract
+    std::vector<Rank> members_;
 };
 
 }  // namespace swiftroll::modSaveGed

@@ -7,6 +7,8 @@ namespace swiftroll::modSaveGed {
 namespace {
 
 constexpr std::size_t kTagLength = 4;
+// What stands at least before the value of a line: a digit, a blank, a tag and a blank.
+constexpr std::size_t kLeastHead = kTagLength + 3;
 
 /// A tag of four characters as a number, which compares at once.
 using TagCode = std::uint32_t;
@@ -39,11 +41,10 @@ struct LineHead {
     TextView level;
 };
 
-/// The head of the line whose value, behind a tag of four characters, begins at a place; without a level when
-/// it is no such place.
+/// The head of the line whose value, behind a tag of four characters, begins at a place that leaves room for
+/// it; without a level when it is no such place.
 LineHead HeadBefore(TextView record, std::size_t at) {
-    constexpr std::size_t kLeast = kTagLength + 3;  // a digit and two blanks
-    if (at < kLeast || record[at - 1] != ' ') return {};
+    if (record[at - 1] != ' ') return {};
     const std::size_t tag = at - 1 - kTagLength;
     std::size_t i = tag;
     while (i > 0 && record[i - 1] == ' ') --i;
@@ -58,20 +59,20 @@ LineHead HeadBefore(TextView record, std::size_t at) {
 
 /// Calls `visit(head, reference, rank)` for the lines of a record with one of the tags whose value is a
 /// reference; the rank is that of the tag. "@" is rare beside all the rest of a record, and most of those few
-/// stand behind other tags.
+/// stand behind other tags. A value that begins with "@" is behind a line end and a head, so that the search
+/// leaps over these, and thereby over the other "@" of most references.
 template <std::size_t kCount, class Visitor>
 void VisitReferences(TextView record, const TagCode (&tags)[kCount], Visitor visit) {
-    for (std::size_t at = record.find('@'); at != TextView::npos; at = record.find('@', at + 1)) {
-        if (at <= kTagLength) continue;
+    constexpr std::size_t kLeap = 1 + 1 + kLeastHead;
+    for (std::size_t at = record.find('@', kLeastHead); at != TextView::npos;
+         at = record.find('@', at + kLeap)) {
         const TagCode code = CodeOf(record.substr(at - 1 - kTagLength, kTagLength));
         const auto* const tag = std::find(std::begin(tags), std::end(tags), code);
         if (tag == std::end(tags)) continue;
         const LineHead head = HeadBefore(record, at);
         if (head.level.empty()) continue;
         const TextView reference = ReferenceAt(record, at);
-        if (reference.empty()) continue;
-        visit(head, reference, static_cast<int>(tag - std::begin(tags)));
-        at += reference.size() - 1;
+        if (!reference.empty()) visit(head, reference, static_cast<int>(tag - std::begin(tags)));
     }
 }
 

@@ -22,6 +22,7 @@ class DisplayNames {
         TextStore& store = in_.Store();
         Text text;
         for (std::int32_t i = 1; i <= in_.Count(); ++i) {
+            app.ProgressBar1.Show(i, in_.Count());
             const Row person = in_.Item(i);
             text.assign(person.Cell(In::LastName)).append(", ").append(person.Cell(In::FirstName));
             names_[static_cast<std::size_t>(i - 1)] = text == ", " ? nameless_ : store.Put(text);

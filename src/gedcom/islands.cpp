@@ -15,15 +15,18 @@ constexpr std::int32_t kLookAhead = 16;
 /// small arrays, wherever the rows stand in memory.
 class LinkGraph {
   public:
-    LinkGraph(Application& app, const XrefRanges& colXrefRange) {
+    LinkGraph(Application& app, const XrefRanges& colXrefRange)
+        : pause_([&app] { app.ports.status.StatusChanged(); }) {
         targets_.reserve(static_cast<std::size_t>(app.lvwXref.Count()));
         for (std::int32_t i = 1; i <= app.lvwXref.Count(); ++i) {
             app.lvwXref.Prefetch(i + kLookAhead);
+            app.ProgressBar1.Show(i, app.lvwXref.Count());
             const auto linked = app.lvwIn.Find(RowKey(app.lvwXref.Item(i).Ref(Xref::IDIndi2)));
             targets_.push_back(linked ? linked->Index() - 1 : kNobody);
         }
         ranges_.reserve(static_cast<std::size_t>(app.lvwIn.Count()));
         for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
+            app.ProgressBar1.Show(i, app.lvwIn.Count());
             ranges_.push_back(colXrefRange.Find(app.lvwIn.Item(i).Text()).value_or(RowRange{1, 0}));
         }
     }
@@ -33,9 +36,11 @@ class LinkGraph {
     void CalcIsland(std::int32_t island, std::int32_t start, std::vector<std::int32_t>& islandOf) {
         toVisit_.assign(1, start);
         At(islandOf, start) = island;
+        std::size_t visits = 0;
         while (!toVisit_.empty()) {
             const RowRange links = At(ranges_, toVisit_.back());
             toVisit_.pop_back();
+            PauseAt(++visits, pause_);
             for (std::int32_t i = links.first; i <= links.last; ++i) {
                 const std::int32_t person = At(targets_, i - 1);
                 if (person == kNobody || At(islandOf, person) != 0) continue;
@@ -51,6 +56,7 @@ class LinkGraph {
     static Value& At(std::vector<Value>& values, std::int32_t i) {
         return values.at(static_cast<std::size_t>(i));
     }
+    Pause pause_;
     std::vector<std::int32_t> targets_;  // by row of lvwXref
     std::vector<RowRange> ranges_;       // by row of lvwIn
     std::vector<std::int32_t> toVisit_;
@@ -72,6 +78,7 @@ void CalcIslands(Application& app, const XrefRanges& colXrefRange) {
                 app.pnlMessage.Set(Concat({"Calcul des îlots... ("_t, Decimal(lIslandNr), ")"}));
             };
             for (std::int32_t i = 0; i < count; ++i) {
+                app.ProgressBar1.Show(i + 1, count);
                 std::int32_t& island = islandOf[static_cast<std::size_t>(i)];
                 if (island == 0) {
                     if (++lIslandNr % kStatusStep == 0) showCount();

@@ -86,7 +86,9 @@ void SetInDates(Application& app) {
                 }
                 return TextRef();
             };
+            const Pause pause = [&app] { app.ports.status.StatusChanged(); };
             for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
+                PauseAt(static_cast<std::size_t>(i), pause);
                 Row row = app.lvwIn.Item(i);
                 const TextView dateMin =
                     TakeDateMin(row.Cell(In::BirthMin), row.Cell(In::DeathMin), row.Cell(In::MarrMin));

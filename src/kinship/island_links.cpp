@@ -26,25 +26,31 @@ bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
     TextCopier copier(links.Store(), app.lvwXref1.Store(), TextCopier::Mode::Intern);
     std::optional<TextRef> previousId;
     bool isInIsland = false;
+    std::int32_t nextPause = kStatusStep;
     for (std::int32_t& r = ++progress.row; r <= lNrXref; ++r) {
-        if (r % kStatusStep == 0) {
-            app.pnlMessage.Set(
-                Concat({kStatus, Decimal(progress.copied), "/", Decimal(lNrXref), " lien(s) copié(s)"_t}));
-            app.ProgressBar1.Show(r, lNrXref);
-            app.ports.events.Yield();
-            if (app.bAbort) return false;
-            if (links.Clearings() != clearings) ThrowIndexOutOfRange();
-        }
         links.Prefetch(r + kLookAhead);
-        const Row link = links.Item(r);
-        const TextRef id = link.Ref(Xref::IDIndi1);
+        const TextRef id = links.Item(r).Ref(Xref::IDIndi1);
         if (id != previousId) {
+            if (r >= nextPause) {
+                nextPause = r + kStatusStep;
+                app.pnlMessage.Set(Concat(
+                    {kStatus, Decimal(progress.copied), "/", Decimal(lNrXref), " lien(s) copié(s)"_t}));
+                app.ProgressBar1.Show(r, lNrXref);
+                app.ports.events.Yield();
+                if (app.bAbort) return false;
+                if (links.Clearings() != clearings) ThrowIndexOutOfRange();
+                // The user may have sorted the links. When they are sorted back, those of one person may
+                // stand in another order, but no person stands elsewhere: that is why the pause is between
+                // two.
+                if (!links.Sorted() || links.SortKey() != 0 || links.SortOrder() != 0) links.SortBy(0, 0);
+            }
             const auto person = app.lvwIn.Find(RowKey(id));
             isInIsland = person && person->Cell(In::IslandNr) == sIslandNr;
             previousId = id;
         }
         if (!isInIsland) continue;
         ++progress.copied;
+        const Row link = links.Item(r);
         const TextRef from = copier.Copy(id), to = copier.Copy(link.Ref(Xref::IDIndi2));
         Row copy = app.lvwXref1.Add(std::nullopt, RowKey(from, to), from);
         copy.SetCell(Xref1::Type, copier.Copy(link.Ref(Xref::Type)));
@@ -84,8 +90,11 @@ IslandGraph::IslandGraph(Application& app) : app_(app) {
     }
     firstLinks.resize(ids.size() + 1, links.Count());
     targets.reserve(static_cast<std::size_t>(links.Count()));
+    linkKeys_.reserve(targets.capacity());
     for (std::int32_t i = 1; i <= links.Count(); ++i) {
-        const TextRef id = links.Item(i).Ref(Xref1::Indi2);
+        const Row link = links.Item(i);
+        const TextRef id = link.Ref(Xref1::Indi2);
+        linkKeys_.emplace_back(link.Ref(Xref1::Indi1), id);
         targets.push_back(id.IsEmpty() ? kNobody : nodeOfSymbol_[id.Symbol()]);
     }
     graph = LinkGraph(std::move(firstLinks), std::move(targets));
@@ -97,6 +106,12 @@ std::int32_t IslandGraph::NodeOf(TextView sId) const {
         id.IsEmpty() ? kNobody : At(nodeOfSymbol_, static_cast<std::int32_t>(id.Symbol()));
     if (node == kNobody) throw Failure(FailureKind::KeyNotFound, sId);
     return node;
+}
+
+Row IslandGraph::RowOfLink(std::int32_t link) const {
+    const auto row = app_.lvwXref1.Find(At(linkKeys_, link));
+    if (!row) throw Failure(FailureKind::KeyNotFound);
+    return *row;
 }
 
 }  // namespace swiftroll::modKinship

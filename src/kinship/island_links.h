@@ -16,19 +16,22 @@ struct CopyProgress {
 /// @throws Failure when the tables were read anew meanwhile
 bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress);
 
-/// The links of `lvwXref1` as a graph. Link i is row i + 1.
+/// The links of `lvwXref1` as a graph.
 struct IslandGraph {
     /// Sorts `lvwXref1` by its first column, so that the links of a person stand side by side in the order in
-    /// which they will be tried.
+    /// which they will be tried. Link i is row i + 1 then; later the user may have moved the rows.
     explicit IslandGraph(Application& app);
     /// The node of a person by the identifier in `lvwIn`. @throws Failure KeyNotFound
     std::int32_t NodeOf(TextView sId) const;
+    /// The row of a link, wherever it stands. @throws Failure KeyNotFound
+    Row RowOfLink(std::int32_t link) const;
 
     LinkGraph graph;
     std::vector<TextRef> ids;  // identifiers in the store of lvwIn, by node
 
   private:
     Application& app_;
+    std::vector<RowKey> linkKeys_;
     std::vector<std::int32_t> nodeOfSymbol_;  // by number of the identifier in the store of lvwXref1
 };
 

@@ -38,7 +38,7 @@ PathWriter::PathWriter(Application& app, const IslandGraph& island, const PathCo
 const PathWriter::LinkTexts& PathWriter::TextsOfLink(std::int32_t link) {
     LinkTexts& texts = At(linkTexts_, link);
     if (texts.Type.IsEmpty()) {
-        const Row row = app_.lvwXref1.Item(At(core_.links, link) + 1);
+        const Row row = island_.RowOfLink(At(core_.links, link));
         texts = {copier_.Copy(row.Ref(Xref1::Type)), copier_.Copy(row.Ref(Xref1::IDFamily)),
                  copier_.Copy(row.Ref(Xref1::Family))};
     }

@@ -20,8 +20,8 @@ constexpr std::uint64_t kBytesPerRow = 150;
 constexpr std::uint64_t kMostRows = 400'000'000;
 
 /// Empties the cell that tells where a link leads, for links that the simplification removed.
-void BlankLinks(Table& lvwXref1, const std::vector<std::int32_t>& links) {
-    for (const std::int32_t link : links) lvwXref1.Item(link + 1).SetCell(Xref1::Indi2, TextRef());
+void BlankLinks(const IslandGraph& island, const std::vector<std::int32_t>& links) {
+    for (const std::int32_t link : links) island.RowOfLink(link).SetCell(Xref1::Indi2, TextRef());
 }
 
 /// Gives the user interface its turn, in which any command may run.
@@ -144,7 +144,7 @@ void Search::Walk(TextView sFromId, TextView sToId, const char*& step) {
     Pauses pauses(app_);
     const std::vector<std::int32_t> removed =
         modKinshipOptimize::RemoveIslands(island.graph, from, to, [&] { return pauses.GoOn(); });
-    BlankLinks(app_.lvwXref1, removed);
+    BlankLinks(island, removed);
     lRemovedPaths = static_cast<std::int32_t>(removed.size());
     app_.pnlMessage.Set(Concat({"Chemins enlevés = "_t, Decimal(lRemovedPaths)}));
 

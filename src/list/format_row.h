@@ -12,6 +12,9 @@ class RowFormatter {
     /// a box.
     explicit RowFormatter(Application& app);
 
+    /// False for a table that is none of the six: it has no lines.
+    bool IsReady() const { return lastPosition_ > 0; }
+
     /// The line of a row, without line end: its cells in the order of the columns that are switched on, those
     /// of `lvwOut` up to `Number`. With `bTabs` tabs stand between them, else every column is padded to its
     /// width and a blank. A failure, such as a cell wider than its column, is reported and gives the empty

@@ -62,7 +62,7 @@ void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey) {
 }
 
 void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
-    app.bTablesLocked = true;
+    const ScopedFlag lock(app.bTablesLocked);
     // The forms stand aside, one behind the other, for the length of the sort.
     TextStore formStore;
     std::vector<TextView> forms;
@@ -75,7 +75,16 @@ void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
     const bool descending = toggles && wasSorted && table.SortOrder() != 1;
     table.SortByForms(forms, static_cast<std::int16_t>(toggles ? column.Index - 1 : 0), descending ? 1 : 0);
     if (toggles) SetColumnIcon(table, column, true);
-    app.bTablesLocked = false;
+}
+
+void WarnWithoutColumns(Application& app, const Table& table) {
+    for (const Column& column : table.Columns()) {
+        if (column.IsOn()) return;
+    }
+    app.Box(" - Sélection Colonnes"_t,
+            Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
+                    "puisqu'aucune colonne n'est sélectionnée"_t}),
+            BoxButtons::Ok, BoxIcon::Exclamation);
 }
 
 void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown) {
@@ -92,13 +101,7 @@ void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftI
             if (&table == &app.lvwOut) return;
             column.Icon.replace(0, 2, column.IsOn() ? "Of" : "On");
             SetColumnIcon(table, column, false);
-            for (const Column& other : table.Columns()) {
-                if (other.IsOn()) return;
-            }
-            app.Box(" - Sélection Colonnes"_t,
-                    Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
-                            "puisqu'aucune colonne n'est sélectionnée"_t}),
-                    BoxButtons::Ok, BoxIcon::Exclamation);
+            WarnWithoutColumns(app, table);
         },
         [] { return Text(); });
 }

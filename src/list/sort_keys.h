@@ -29,4 +29,7 @@ void SortTable(Application& app, SortMode iMode, Table& table, Column& column);
 /// sorts.
 void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown);
 
+/// Tells the user when no column of the table is switched on for export.
+void WarnWithoutColumns(Application& app, const Table& table);
+
 }  // namespace swiftroll::modCalcOut

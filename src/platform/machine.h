@@ -9,6 +9,7 @@ class ThisMachine : public Machine {
   public:
     /// The physical memory, or less where the system limits the program.
     std::uint64_t Memory() override;
+    SystemVersion System() override;
 };
 
 }  // namespace swiftroll::platform

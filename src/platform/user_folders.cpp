@@ -11,6 +11,7 @@
 #endif
 
 #include "text/code_page.h"
+#include "text/edit.h"
 
 namespace swiftroll::platform {
 namespace {
@@ -50,18 +51,27 @@ Text TextOf(const fs::path& path) {
     return text;
 }
 
-}  // namespace
-
-Text UserFolders::UserData() {
+/// Where the system keeps what programs write for the user; on Linux the folder that a variable names, or one
+/// below the home folder.
+Text UserFolder([[maybe_unused]] const char* variable, [[maybe_unused]] const fs::path& belowHome) {
 #if defined(_WIN32)
     return TextOf(FromEnvironment("APPDATA"));
 #elif defined(__APPLE__)
     return Home().empty() ? Text() : TextOf(Home() / "Library" / "Application Support");
 #else
-    const fs::path data = FromEnvironment("XDG_DATA_HOME");
-    if (data.is_absolute()) return TextOf(data);
-    return Home().empty() ? Text() : TextOf(Home() / ".local" / "share");
+    const fs::path named = FromEnvironment(variable);
+    if (named.is_absolute()) return TextOf(named);
+    return Home().empty() ? Text() : TextOf(Home() / belowHome);
 #endif
+}
+
+}  // namespace
+
+Text UserFolders::UserData() { return UserFolder("XDG_DATA_HOME", fs::path(".local") / "share"); }
+
+Text UserFolders::Settings() {
+    const Text folder = UserFolder("XDG_CONFIG_HOME", ".config");
+    return folder.empty() ? folder : Concat({folder, Separator(), "SwiftRoll"});
 }
 
 Text UserFolders::UserDocuments() {

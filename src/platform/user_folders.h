@@ -10,6 +10,8 @@ namespace swiftroll::platform {
 class UserFolders : public Folders {
   public:
     Text UserData() override;
+    /// Folder of this program's settings, empty where the user has no folder for such.
+    Text Settings();
     Text UserDocuments() override;
     Text Temporary() override;
     Text Models() override;

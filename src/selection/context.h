@@ -4,6 +4,10 @@
 
 namespace swiftroll::modSelectionIn {
 
+/// Whether a column of `lvwOut`, by its `SubItems` number, stands before `Number`, as of the last
+/// `InitIndexes`: only these form groups.
+bool FormsGroups(const Application& app, std::int32_t lOutCol);
+
 /// What the cell that was clicked last means to the selection: the state between the context menu of a table
 /// and the engine. Columns are `SubItems` numbers: 0 is the row's `Text`.
 struct SelectionContext {

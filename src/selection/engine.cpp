@@ -70,6 +70,7 @@ void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
         "Add_Remove_Selection",
         [&] {
             if (table == nullptr) return;
+            if (sMode == "?1" || sMode == "?N") return find.FindNext(app_, *table, context.iClickedCol);
             FollowLinks(relatives, *table, sMode);
             CompareValues(*table, sMode, bSelect);
         },
@@ -116,6 +117,12 @@ void Engine::CompareValues(Table& table, TextView sMode, bool bSelect) {
     for (std::size_t i = 0; i < cells.values.size(); ++i) {
         if (wanted.Match(cells.values[i])) targets.Take(table.Item(static_cast<std::int32_t>(i + 1)));
     }
+    targets.Finish();
+}
+
+void Engine::SelectGroups() {
+    ValueTargets targets(app_, app_.lvwOut, {Way::Kind::GroupKey, {}}, Marker(app_.lvwIn, true));
+    ForEachMarked(app_.lvwOut, [&](std::int32_t, const Row& row) { targets.Take(row); });
     targets.Finish();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "selection/context.h"
+#include "selection/find.h"
 #include "selection/relatives.h"
 
 namespace swiftroll::modSelectionIn {
@@ -12,16 +13,21 @@ class Engine {
     explicit Engine(Application& app) : app_(app) {}
 
     SelectionContext context;
+    FindState find;
 
     /// Adds to the marks of `lvwIn`, or with `bSelect` false removes from them, what the marked rows of
     /// `lvwActiveListView` lead to through the cell of the context: "I" the individuals, "P" their parents,
     /// "S" their spouses or those of the family, "C" their children or those of the family; "V<=", "V=" and
     /// "V>=" the rows whose value in the clicked column is at most, exactly or at least that of a marked row.
+    /// "?1" and "?N" go to the next row that the conditions of `find` tell, in the active table itself.
     ///
     /// A row counts as it is marked when its turn comes: on `lvwIn`, whom a row marks is himself followed
     /// further down, and whom a row unmarks no longer is. A failure, such as a family or an individual that
     /// no table holds, is reported; the marks made so far stay.
     void Add_Remove_Selection(bool bSelect, TextView sMode);
+
+    /// Gives both marks to the individuals of the groups of all marked rows of `lvwOut`.
+    void SelectGroups();
 
     /// Sets both marks of the individual of an identifier; an empty one is nobody.
     /// @throws Failure KeyNotFound

@@ -24,7 +24,8 @@ Text Described(const Row& person) {
 }  // namespace
 
 frmKinshipSelect::frmKinshipSelect(Application& app)
-    : optHighLightChecked(Options(*this, std::make_index_sequence<kReadings>())),
+    : Window("frmKinshipSelect"),
+      optHighLightChecked(Options(*this, std::make_index_sequence<kReadings>())),
       txtKinshipSelection(Boxes(*this, std::make_index_sequence<kSelectionBoxes>())),
       chkInverted(*this, {"chkInverted", "Inversé"_t}, false),
       cmdInvertSelected(*this, {"cmdInvertSelected", "Inverser le sens de la recherche"_t,

@@ -1,6 +1,5 @@
 #include "shell/frm_main.h"
 
-#include "app/french_date.h"
 #include "gedcom/places.h"
 #include "list/calc_output.h"
 #include "shell/file_names.h"
@@ -12,6 +11,7 @@ namespace swiftroll {
 
 frmMain::frmMain(const Ports& applicationPorts)
     : Application(applicationPorts),
+      ListCommands(static_cast<Window&>(*this)),
       cmdLoad(*this, {"cmdLoad", "Lire Tout"_t, "Lit le fichier GEDCOM spécifié."_t}),
       mnuReadGedCom(*this, {"mnuReadGedCom", "Lire GedCom"_t}, "Ctrl+O"),
       cmdRecalcIn(*this,
@@ -51,18 +51,66 @@ frmMain::frmMain(const Ports& applicationPorts)
       picTreeH(*this, {"picTreeH", {}, "Dessine les liens de parenté avec les ancêtres en haut."_t}),
       picTreeV(*this, {"picTreeV", {}, "Dessine les liens de parenté avec les ancêtres à gauche."_t}),
       cmdFont(*this, {"cmdFont", "Fonte..."}),
+      cmdDisplayGedIn(*this, {"cmdDisplayGedIn"}),
+      cmdDisplayGedOut(*this, {"cmdDisplayGedOut"}),
+      cmdDisplaySwiftOut(*this, {"cmdDisplaySwiftOut"}),
+      cmdDisplayModel(*this, {"cmdDisplayModel"}),
+      cmdDisplayKinship(*this, {"cmdDisplayKinship"}),
+      mnuFile(*this, {"mnuFile", "Fichier"}),
+      mnuContext1(*this, {"mnuContext1", "Menu Contextuel"}),
+      mnuContext2(*this, {"mnuContext2", "Click Droit dans les listes"}),
+      mnuHelp(*this, {"mnuHelp", "Aide"}),
+      cmdHelp(*this, {"cmdHelp", "Documentation"}),
+      mnuDoc(*this, {"mnuDoc", "Documentation"}),
+      mnuAbout(*this, {"mnuAbout", "A Propos"}, "F12"),
+      cmdExit(*this, {"cmdExit", "Quitter"}),
+      mnuExit(*this, {"mnuExit", "&Quitter"}),
+      mnuCheckUpdate(*this, {"mnuCheckUpdate", "Vérifier si c'est la dernière version"_t}),
+      PicturepicKeepUpdated(*this, {"PicturepicKeepUpdated", {}, "Vérifier si c'est la dernière version"_t}),
+      mnuSaveParams(*this, {"mnuSaveParams", "Sauve && Envoie Param..."}),
+      cmdSaveCells(*this, {"cmdSaveCells", {}, "Sauve les paramètres des cellules sous ce nom."_t}),
+      cmdSaveColumns(*this,
+                     {"cmdSaveColumns", {}, "Sauve les positions et largeurs des colonnes sous ce nom."_t}),
+      cmdSavePlace(*this, {"cmdSavePlace", {}, "Sauve les paramètres des lieux sous ce nom."_t}),
+      cmdGotoFavorite(*this,
+                      {"cmdGotoFavorite", ">",
+                       Concat({"Va à ce favori dans la liste."_t, kLineEnd, "+Shift = Le sélectionner"_t})}),
+      mnuContext(ContextMenu()),
       modReadGedcom(*this),
       modKinship(*this),
       frmKinshipSelect(*this),
-      modSelectionIn(*this) {
+      frmSplash(*this),
+      frmPreview(*this),
+      frmUpdates(*this),
+      modSelectionIn(*this),
+      frmFind(*this, modSelectionIn) {
     DisableKinshipCommands();
     BindReading();
     BindWriting();
     BindFiles();
     BindOptionRules();
+    BindLists();
+    BindContextMenu();
     BindKinship();
     BindDrawing();
     BindExtract();
+    BindWindow();
+    BindReport();
+    BindParameterSets();
+    BindFavorites();
+}
+
+std::vector<Menu> frmMain::MenuBar() {
+    return {{mnuFile,
+             {{mnuReadGedCom},
+              {mnuRecalcOut},
+              {mnuSaveSwift},
+              {mnuSaveGed},
+              {mnuCopyGedIn2SwiftOut},
+              {mnuCopyGedIn2GedOut},
+              {mnuExit}}},
+            {mnuContext1, {{mnuContext2}}},
+            {mnuHelp, {{mnuDoc}, {mnuCheckUpdate}, {mnuSaveParams}, {mnuAbout}}}};
 }
 
 void frmMain::Form_Load(TextView sCommandLine) {
@@ -80,14 +128,8 @@ void frmMain::Form_Load(TextView sCommandLine) {
                 "=> N'oubliez pas de consulter la disponibilité de mises-à-jour via le menu "
                 "\"Aide / Vérifier...\""_t);
             step = "GetAllControls";
-            const Moment now = ports.clock.Now();
-            sRunStart = Concat({ShortDate(now), " ", LongTime(now)});
             SetAllColumnIcons(*this);
-            cboLoad.SetListIndex(chkProcFamilies.Checked() ? 0 : 1);
-            bFormLoading = true;  // no file name follows the format yet
-            optOutExtension_Click(optOutExtension.Index());
-            bFormLoading = false;
-            cmdSaveSwift.Caption = cboSaveSwift.Get();
+            RestoreSettings();
             step = "InitCombos";
             InitCombos();
             cboDrawKinship.SetListIndex(3);
@@ -99,6 +141,7 @@ void frmMain::Form_Load(TextView sCommandLine) {
                 cboGedIn.SetText(file);
                 FileCombo_LostFocus(cboGedIn);
             }
+            if (chkCheckUpdates.Checked()) frmUpdates.GetUpdates(true);
             bStarting = false;
         },
         [&] {
@@ -118,7 +161,11 @@ void frmMain::InitPaths() {
     }
     sUserMyDocuments = ports.folders.UserDocuments();
     if (sUserMyDocuments.empty()) sUserMyDocuments = ports.folders.Program();
-    sHelpFile = PathOf(ports.folders.Program(), Concat({sProduct, ".chm"}));
+    // The manual stands beside the program, or beside the installed models.
+    sHelpFile = PathOf(PathOf(ports.folders.Program(), "help"), "index.html");
+    if (!ports.files.Exists(sHelpFile)) {
+        sHelpFile = PathOf(PathOf(PathOf(ports.folders.Models(), ".."), "help"), "index.html");
+    }
 }
 
 void frmMain::InitCombos() {
@@ -132,13 +179,6 @@ void frmMain::InitCombos() {
         cboKinship.SetText(PathOf(sUserMyDocuments, "Kinship"));
         ChangeKinshipExtension();
     }
-}
-
-void frmMain::ShowTab(Tab tab) {
-    SSTab1 = tab;
-    Table* const tables[] = {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
-    const auto number = static_cast<std::size_t>(tab);
-    if (number < std::size(tables)) lvwActiveListView = tables[number];
 }
 
 }  // namespace swiftroll

@@ -1,17 +1,37 @@
 #pragma once
 
+#include <deque>
+
 #include "app/application.h"
+#include "drawing/kinship_document.h"
 #include "gedcom/reader.h"
 #include "kinship/search.h"
 #include "selection/engine.h"
+#include "shell/frm_find.h"
 #include "shell/frm_kinship_select.h"
+#include "shell/frm_preview.h"
+#include "shell/frm_splash.h"
+#include "shell/list_commands.h"
+#include "shell/parameter_set.h"
+#include "shell/settings_walk.h"
+#include "update/frm_updates.h"
 
 namespace swiftroll {
+
+enum class MouseButton { Left, Right };
+
+/// A key as the tables know it.
+struct ListKey {
+    enum class Code { ContextMenu, F10, Letter, Other };
+    Code code = Code::Other;
+    char letter = 0;  // in capitals
+    bool shift = false, ctrl = false, alt = false;
+};
 
 /// The main window without a screen: owner of all tables, options and commands. Loading it starts the
 /// application. A window, the headless program and the tests are presentations that set its controls and
 /// click its commands.
-class frmMain : public Application {
+class frmMain : public Application, public ListCommands {
   public:
     explicit frmMain(const Ports& applicationPorts);
 
@@ -40,18 +60,77 @@ class frmMain : public Application {
     Command cmdSelectDirKinship;
     Command picTreeH, picTreeV;
     Command cmdFont;
+    // Opening files
+    Command cmdDisplayGedIn, cmdDisplayGedOut, cmdDisplaySwiftOut, cmdDisplayModel, cmdDisplayKinship;
+    // The menu bar, help and the end
+    Command mnuFile, mnuContext1, mnuContext2, mnuHelp;
+    Command cmdHelp, mnuDoc, mnuAbout, cmdExit, mnuExit;
+    // Updates and the problem report
+    Command mnuCheckUpdate, PicturepicKeepUpdated, mnuSaveParams;
+    std::vector<Menu> MenuBar();
+
+    /// Opens the help at a topic, 0 for its beginning; false, and the message line tells it, when there is
+    /// none.
+    bool LaunchHTMLHelp(int topic);
+    /// The user, or the system, closes the window: asks whether to save the settings. False when the user
+    /// wants to go on.
+    bool Form_QueryUnload();
+    /// The windows beside the main one.
+    std::vector<Window*> SecondaryWindows() {
+        return {&frmSplash, &frmUpdates, &frmFind, &frmPreview, &frmKinshipSelect};
+    }
+    // Parameter sets and favourites
+    Command cmdSaveCells, cmdSaveColumns, cmdSavePlace;
+    Command cmdGotoFavorite;
+
+    /// Puts the current row of the current table among the favourites of the present tab.
+    void mnuAddFavorite_Click();
+    /// Saves all settings, as the end of the run does; a failure is reported, and the former ones stay.
+    void SaveAllControls();
 
     /// Searches the kinship of two individuals by their identifiers, whatever is marked; refuses the same
     /// person twice, and two islands, as the command does; false then.
     bool FindPathBetween(TextView sFromId, TextView sToId);
 
-    /// The row and the column of the last hit test in a table, from 0; -1 for none.
+    // The lists
+    /// A table has taken the focus: the list commands work on it from now on.
+    void TableGotFocus(Table& table);
+    /// Tells the row and the column under the pointer, from 0; -1 for none.
+    void HitTest(std::int32_t lRow, std::int32_t lCol);
+    /// What the last hit test told.
     std::int32_t lHitRow = -1, lHitCol = -1;
-    /// Goes to the individual or the family that the cell under the last hit names.
-    void lvwKinship_DblClick();
 
-    /// Goes to a tab and gives its table the focus.
+    /// The context menu of the tables.
+    Menu mnuContext;
+    /// The button was released over the active table: the right one opens the context menu.
+    void lvw_MouseUp(MouseButton button);
+    /// Fits the menu to the cell of the last hit test.
+    void ModifyContextMenu();
+    /// Shows, or shows no more, which cells of the column the commands of the menu would work on. With them
+    /// the clicked row becomes `Selected`, until the end if a command changed the marks meanwhile.
+    void MarkSubItems(std::int32_t iCol, bool bMark);
+    /// A key that was pressed in the active table, whose hit test stands for the place of the pointer.
+    void lvw_KeyDown(const ListKey& key);
+    /// Goes to the individual or the family that the cell of the last hit test names; in lvwOut, marks the
+    /// individuals of the marked groups.
+    void lvw_DblClick(Table& table);
+    /// Sorts by the column or, with Shift, switches it on or off for export.
+    void lvw_ColumnClick(Table& table, Column& column);
+    /// The marked rows of the active table as a text to drag.
+    Text DragText();
+
+    /// Brings a tab to the front and gives the focus to what it is for.
     void ShowTab(Tab tab);
+    void SSTab1_GotFocus();
+    /// Puts the marked rows of the tab first, and tells how many there are.
+    void SSTab1_DblClick();
+    /// Opens the context menu without a cell.
+    void SSTab1_RightClick();
+    /// Tells how many rows of the active table are marked.
+    void StatusBar1_DblClick();
+    /// Puts the marked rows of the active table before the others.
+    void PlaceSelected();
+
     /// The last file written is whole; false when a step of an XML file failed, which no box tells.
     bool bWriteComplete = true;
     /// What the last read knows beside the tables.
@@ -59,8 +138,12 @@ class frmMain : public Application {
     /// The last kinship search.
     modKinship::Search modKinship;
     class frmKinshipSelect frmKinshipSelect;
+    class frmSplash frmSplash;
+    class frmPreview frmPreview;
+    class frmUpdates frmUpdates;
     /// Marks in lvwIn what the marked rows of a table lead to.
     modSelectionIn::Engine modSelectionIn;
+    class frmFind frmFind;
 
   private:
     void BindReading();
@@ -70,6 +153,28 @@ class frmMain : public Application {
     void BindKinship();
     void BindDrawing();
     void BindExtract();
+    void BindWindow();
+    void BindReport();
+
+    void mnuCheckUpdate_Click();
+    void mnuSaveParams_Click();
+    void SendReport();
+    bool ExportSettings(TextView sRegFile);
+    void SendMail(TextView sRegFile, TextView sLogFile);
+
+    void OpenFile(TextView sFile);
+    void mnuContext2_Click();
+    void cmdExit_Click();
+    void BindParameterSets();
+    void BindFavorites();
+
+    std::vector<modCommon::SavedWindow> SavedWindows();
+    void RestoreSettings();
+    void ShowFavorites(Tab tab);
+    void cboFavorites_GotFocus(std::size_t Index);
+    void cboFavorites_LostFocus(std::size_t Index);
+    void KeepOneFavorite(ComboBox& combo);
+    void cmdGotoFavorite_Click();
 
     void AttachTips();
     void chkTips_Click();
@@ -83,14 +188,32 @@ class frmMain : public Application {
     void EnableFamilyCommands(bool enabled);
     void DisableKinshipCommands();
 
-    void JumpTo(Table& target, Tab tab, TextView sKey);
+    void BindLists();
+    void BindContextMenu();
+    Menu ContextMenu();
+    void OnActiveTable(const char* sProc, const std::function<void(Table&)>& command,
+                       TextView arguments = {});
+    bool TabHasTable() const;
+    void DeselectAll(Table& table);
+    void mnuNextSelected_Click();
+    void mnuDeselectCurrent_Click();
+    void mnuDeselectAll_Click();
+    void mnuSelectAll_Click();
+    void mnuInvertSelection_Click();
+    void mnuColSelUnsel(TextView sPrefix);
+    void mnuResetCol_Click();
+    void mnuFind_Click();
+    void mnuCopy_Click();
+    std::optional<Text> MarkedLines(TextView sLineEnd);
+    void JumpTo(Table& target, TextView sKey);
+
     void RequestKinship(const std::function<void(TextView& step, std::int32_t& row)>& steps);
     void cmdFindPath_Click();
     void RefuseKinship(const KinshipChoices& choices);
     void FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step);
 
-    void DrawKinshipAll(bool bSpouses, bool bAll);
-    void DrawPaths(bool bSpouses, bool bAll);
+    void DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll);
+    void DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll);
     bool CheckWidths();
     void cmdCopyTitle2kinship_Click();
     void cmdFont_Click();
@@ -126,6 +249,16 @@ class frmMain : public Application {
     const Text& ModelExtension() const;
 
     Text sPrevFile_;
+    /// The key part of the favourites' combo that has the focus.
+    Text sFavoriteKey_;
+    std::deque<modCommon::ParameterSet> parameterSets_;
+    /// The row that was clicked for the context menu, and whether it was `Selected` before.
+    struct ClickedRow {
+        Table* table = nullptr;
+        std::int32_t row = -1;
+        bool bClickedRowWasSelected = false;
+    };
+    ClickedRow clicked_;
 };
 
 }  // namespace swiftroll

@@ -1,5 +1,6 @@
 // The commands that draw kinship paths, their options and the name of their file.
 #include "drawing/kinship_page.h"
+#include "drawing/kinship_print.h"
 #include "shell/frm_main.h"
 #include "tables/column_numbers.h"
 #include "text/edit.h"
@@ -8,14 +9,18 @@
 namespace swiftroll {
 
 void frmMain::BindDrawing() {
-    mnuDrawKinshipOne.Operation = [this] { DrawKinshipAll(false, false); };
-    mnuDrawKinshipOneSpouse.Operation = [this] { DrawKinshipAll(true, false); };
-    mnuDrawKinshipAll.Operation = [this] { DrawKinshipAll(false, true); };
-    mnuDrawKinshipAllSpouse.Operation = [this] { DrawKinshipAll(true, true); };
+    mnuDrawKinshipOne.Operation = [this] { DrawKinshipAll(false, true, false); };
+    mnuDrawKinshipOneSpouse.Operation = [this] { DrawKinshipAll(true, true, false); };
+    mnuDrawKinshipAll.Operation = [this] { DrawKinshipAll(false, true, true); };
+    mnuDrawKinshipAllSpouse.Operation = [this] { DrawKinshipAll(true, true, true); };
     cmdDrawKinship.Operation = [this] {
         const Command* const commands[] = {&mnuDrawKinshipOne, &mnuDrawKinshipOneSpouse, &mnuDrawKinshipAll,
                                            &mnuDrawKinshipAllSpouse};
         commands[cboDrawKinship.ListIndex()]->Click();
+    };
+    cmdPrintKinship.Operation = [this] {
+        const int action = cboDrawKinship.ListIndex();
+        DrawKinshipAll(action % 2 != 0, false, action >= 2);
     };
     cboDrawKinship.OnClick = [this] { cmdDrawKinship.Caption = cboDrawKinship.Get(); };
     cmdCopyTitle2kinship.Operation = [this] { cmdCopyTitle2kinship_Click(); };
@@ -36,32 +41,41 @@ void frmMain::BindDrawing() {
     txtFont.OnChange = [this] { txtFont_Change(); };
 }
 
-void frmMain::DrawKinshipAll(bool bSpouses, bool bAll) {
+void frmMain::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
     if (bSpouses && !CheckWidths()) return;
-    cmdSelectDirKinship.Click();
-    if (bDialogCancelled) return;
+    if (bHtml) {
+        cmdSelectDirKinship.Click();
+        if (bDialogCancelled) return;
+    }
     bWaitCursor = true;
     trail.Guard(
-        "DrawKinshipAll", [&] { DrawPaths(bSpouses, bAll); },
+        "DrawKinshipAll",
         [&] {
-            return Concat({bSpouses ? "True" : "False", "/", bAll ? "True" : "False", "/", cboKinship.Get()});
+            modKinshipOutput::KinshipPage page(*this, modKinship.sKinshipTitle);
+            modPrint::KinshipPrint print(*this, modKinship.sKinshipTitle);
+            modKinshipOutput::KinshipDocument& document =
+                bHtml ? static_cast<modKinshipOutput::KinshipDocument&>(page) : print;
+            DrawPaths(bSpouses, document, bAll);
+        },
+        [&] {
+            return Concat({bSpouses ? "True" : "False", "/", bHtml ? "True" : "False", "/",
+                           bAll ? "True" : "False", "/", cboKinship.Get()});
         });
     bWaitCursor = false;
 }
 
-void frmMain::DrawPaths(bool bSpouses, bool bAll) {
+void frmMain::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll) {
     constexpr TextView kFirstLine = "000001";
     constexpr int kFirst = 1, kFurther = 2, kLast = 9;
     const std::int16_t previousSortKey = lvwKinship.SortKey();
     lvwKinship.SortBy(0, 0);
-    modKinshipOutput::KinshipPage page(*this, modKinship.sKinshipTitle);
     int iStage = kFirst;
     for (std::int32_t i = 1; i <= lvwKinship.Count(); ++i) {
         const Row row = lvwKinship.Item(i);
         const bool isDrawn =
             bAll ? row.Text().ends_with(kFirstLine) : !row.Cell(Kinship::IDIndi).empty() && row.Marked();
         if (!isDrawn) continue;
-        if (page.DisplayHtmlKinship(iStage, modKinshipOutput::MakeKinshipTable(*this, i, bSpouses))) return;
+        if (document.DisplayKinship(iStage, modKinshipOutput::MakeKinshipTable(*this, i, bSpouses))) return;
         iStage = kFurther;
     }
     if (iStage == kFirst) {
@@ -69,7 +83,7 @@ void frmMain::DrawPaths(bool bSpouses, bool bAll) {
         box.title = "Graphicage des parentés"_t;
         box.text = Concat({"Aucune parenté à écrire."_t, kLineEnd, "Fichier non créé."_t});
         ports.dialogs.Show(box);
-    } else if (page.DisplayHtmlKinship(kLast, {})) {
+    } else if (document.DisplayKinship(kLast, {})) {
         return;
     }
     lvwKinship.SetSortKey(previousSortKey);

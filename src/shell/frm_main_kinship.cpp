@@ -115,29 +115,4 @@ void frmMain::FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step) {
     pnlMessage.Set(total);
 }
 
-void frmMain::lvwKinship_DblClick() {
-    if (!bFamiliesRead || lHitRow < 0) return;
-    try {
-        const Row row = lvwKinship.Item(lHitRow + 1);
-        const auto column = static_cast<std::int16_t>(lHitCol + 1);
-        if (column >= Kinship::IDIndi && column <= Kinship::Type) {
-            JumpTo(lvwIn, Tab::In, row.Cell(Kinship::IDIndi));
-        } else if (column == Kinship::IDFamily || column == Kinship::Family) {
-            JumpTo(lvwFamily, Tab::Family, row.Cell(Kinship::IDFamily));
-        }
-    } catch (const Failure&) {
-        // A cell that names nobody leads nowhere.
-    }
-}
-
-void frmMain::JumpTo(Table& target, Tab tab, TextView sKey) {
-    if (auto current = target.Current()) current->SetSelected(false);
-    Row row = target.Item(sKey);
-    target.SetCurrent(row);
-    row.SetSelected(true);
-    row.SetChecked(true);
-    row.EnsureVisible();
-    ShowTab(tab);
-}
-
 }  // namespace swiftroll

@@ -30,11 +30,10 @@ void frmMain::ReadFile() {
     bAbort = bFamiliesRead = false;
     EnableFamilyCommands(false);
     DisableKinshipCommands();
-    ShowTab(Tab::Options);
+    SSTab1 = Tab::Options;  // no table is seen during the read; the focus stays where it is
     if (modReadGedcom.lines.InitGedcom(cboGedIn.Get())) {
-        bTablesLocked = true;
+        const ScopedFlag lock(bTablesLocked);
         modReadGedcom.ProcessGedcom();
-        bTablesLocked = false;
     }
     modReadGedcom.lines.Close();
     ShowTab(Tab::In);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "tables/pause.h"
 #include "tables/text_store.h"
 
 namespace swiftroll {
@@ -11,7 +12,8 @@ namespace swiftroll {
 class SymbolRanks {
   public:
     /// Of the texts that occur in `refs`, all of them interned in `store` or empty.
-    SymbolRanks(const TextStore& store, const std::vector<TextRef>& refs, bool descending);
+    SymbolRanks(const TextStore& store, const std::vector<TextRef>& refs, bool descending,
+                const Pause& pause = {});
     std::uint32_t Of(TextRef ref) const { return rank_[Place(ref)]; }
     std::size_t Count() const { return count_; }
 

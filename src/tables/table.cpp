@@ -8,6 +8,11 @@
 #include "text/failure.h"
 
 namespace swiftroll {
+namespace {
+
+constexpr std::uint32_t kPaint = 255;  // red
+
+}  // namespace
 
 std::shared_ptr<TextStore> StoreGroup::Acquire() {
     auto store = current_.lock();
@@ -201,8 +206,11 @@ void Table::Resort() {
     const auto column = static_cast<std::size_t>(sortKey_);
     if (const auto order = OrderBySymbols(column)) return Reorder(*order);
     std::vector<TextView> texts(order_.size());
-    for (std::size_t i = 0; i < order_.size(); ++i) texts[i] = store_->Get(cells_.Row(order_[i])[column]);
-    Reorder(SortedOrder(texts, sortOrder_ == 1));
+    for (std::size_t i = 0; i < order_.size(); ++i) {
+        texts[i] = store_->Get(cells_.Row(order_[i])[column]);
+        PauseAt(i, OnPause);
+    }
+    Reorder(SortedOrder(texts, sortOrder_ == 1, OnPause));
 }
 
 /// The order of the rows by a column whose texts are all interned, as identifiers are: the texts that occur
@@ -212,15 +220,18 @@ std::optional<std::vector<std::uint32_t>> Table::OrderBySymbols(std::size_t colu
     for (std::size_t i = 0; i < order_.size(); ++i) {
         refs[i] = cells_.Row(order_[i])[column];
         if (!refs[i].IsInterned()) return std::nullopt;
+        PauseAt(i, OnPause);
     }
-    const SymbolRanks ranks(*store_, refs, sortOrder_ == 1);
+    const SymbolRanks ranks(*store_, refs, sortOrder_ == 1, OnPause);
     // Where the rows of each rank begin.
     std::vector<std::uint32_t> next(ranks.Count() + 1);
     for (const TextRef ref : refs) ++next[ranks.Of(ref) + 1];
     for (std::size_t rank = 1; rank < next.size(); ++rank) next[rank] += next[rank - 1];
     std::vector<std::uint32_t> order(refs.size());
-    for (std::size_t i = 0; i < refs.size(); ++i)
+    for (std::size_t i = 0; i < refs.size(); ++i) {
         order[next[ranks.Of(refs[i])]++] = static_cast<std::uint32_t>(i);
+        PauseAt(i, OnPause);
+    }
     return order;
 }
 
@@ -230,15 +241,25 @@ void Table::SortByForms(const std::vector<TextView>& forms, std::int16_t sortKey
     sorted_ = true;
     sortKey_ = sortKey;
     sortOrder_ = sortOrder;
-    Reorder(SortedOrder(forms, sortOrder == 1));
+    Reorder(SortedOrder(forms, sortOrder == 1, OnPause));
 }
 
 void Table::Reorder(const std::vector<std::uint32_t>& permutation) {
     if (permutation.empty()) return;
     std::vector<Slot> sorted(order_.size());
-    for (std::size_t i = 0; i < sorted.size(); ++i) sorted[i] = order_[permutation[i]];
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        sorted[i] = order_[permutation[i]];
+        PauseAt(i, OnPause);
+    }
     order_ = std::move(sorted);
     inSlotOrder_ = placesAreFresh_ = false;
+}
+
+std::int32_t Table::GatherMarked() {
+    const auto isMarked = [&](Slot slot) { return slot < marks_.size() && marks_[slot] != 0; };
+    const auto others = std::stable_partition(order_.begin(), order_.end(), isMarked);
+    inSlotOrder_ = placesAreFresh_ = false;
+    return static_cast<std::int32_t>(others - order_.begin());
 }
 
 void Table::RefreshPlaces() {
@@ -292,10 +313,19 @@ std::uint64_t Row::LookPlace(std::int16_t column) const {
     return std::uint64_t{slot_} << 16 | static_cast<std::uint16_t>(column);
 }
 
+bool Row::IsPainted(std::int16_t column) const {
+    return table_->paintedColumn_ == column && Marked() && (column == 0 || !CellAt(column).IsEmpty());
+}
+
 CellLook Row::Look(std::int16_t column) const {
     CheckAlive();
     const auto found = table_->looks_.find(LookPlace(column));
-    return found == table_->looks_.end() ? CellLook() : found->second;
+    CellLook look = found == table_->looks_.end() ? CellLook() : found->second;
+    if (IsPainted(column)) {
+        look.ForeColor = kPaint;
+        look.Bold = true;
+    }
+    return look;
 }
 
 void Row::SetLook(std::int16_t column, const CellLook& look) {

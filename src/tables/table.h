@@ -10,6 +10,7 @@
 #include "tables/cell_blocks.h"
 #include "tables/column.h"
 #include "tables/key_index.h"
+#include "tables/pause.h"
 #include "tables/text_store.h"
 #include "text/failure.h"
 
@@ -98,6 +99,8 @@ class Table {
     /// The row that the user works with, if there is one and it was not removed.
     std::optional<Row> Current();
     void SetCurrent(const Row& row);
+    /// Called now and then while many rows are sorted.
+    Pause OnPause;
     /// For the presentation, which scrolls a row into view.
     std::function<void(const Row& row)> OnEnsureVisible;
 
@@ -115,6 +118,14 @@ class Table {
     /// The same, and puts the rows in the order of `forms`, one
     /// comparison form a row in the present order, in place of the cells of the column.
     void SortByForms(const std::vector<TextView>& forms, std::int16_t sortKey, std::int16_t sortOrder);
+
+    /// Puts the marked rows before the others; on both sides the rows keep their order. Gives the number of
+    /// marked rows.
+    std::int32_t GatherMarked();
+
+    /// Shows the cells of one column in red and bold in the rows that are marked, as far as they are not
+    /// empty; column 0 shows the rows themselves so. Nothing ends it.
+    void SetPaintedColumn(std::optional<std::int16_t> column) { paintedColumn_ = column; }
 
     /// Where the texts of the cells stand. References for `Add` and `SetCell` must come from it.
     TextStore& Store();
@@ -161,6 +172,7 @@ class Table {
     bool sorted_ = false;
     std::int16_t sortKey_ = 0;
     std::int16_t sortOrder_ = 0;
+    std::optional<std::int16_t> paintedColumn_;
 };
 
 /// A row of a table: a handle that stays with its row through sorts and insertions. When rows were removed,
@@ -209,7 +221,8 @@ class Row {
     void SetSelected(bool on) { SetMark(Table::kSelected, on); }
     void SetChecked(bool on) { SetMark(Table::kChecked, on); }
 
-    /// How the cell of a column is shown; column 0 is the row itself.
+    /// How the cell of a column is shown; column 0 is the row itself. The paint of the table lies over what
+    /// `SetLook` wrote.
     CellLook Look(std::int16_t column = 0) const;
     void SetLook(std::int16_t column, const CellLook& look);
 
@@ -229,6 +242,7 @@ class Row {
     }
     std::uint64_t LookPlace(std::int16_t column) const;
     bool HasMark(std::uint8_t mark) const;
+    bool IsPainted(std::int16_t column) const;
     void SetMark(std::uint8_t mark, bool on);
 
     Table* table_;

@@ -44,7 +44,7 @@ bool IsInOrder(const std::vector<TextView>& texts, bool descending) {
 }
 
 /// Sorts by head, equal heads in their present order, by counting one byte after the other.
-void SortByHead(std::vector<Entry>& entries) {
+void SortByHead(std::vector<Entry>& entries, const Pause& pause) {
     constexpr unsigned kByteValues = 256;
     std::vector<Entry> sorted(entries.size());
     for (unsigned shift = 0; shift < 64; shift += 8) {
@@ -55,11 +55,13 @@ void SortByHead(std::vector<Entry>& entries) {
         for (unsigned value = 1; value <= kByteValues; ++value) next[value] += next[value - 1];
         for (const Entry& entry : entries) sorted[next[entry.head >> shift & 0xFF]++] = entry;
         entries.swap(sorted);
+        if (pause) pause();
     }
 }
 
 /// Sorts runs of equal heads by the rest of their texts.
-void SortEqualHeads(std::vector<Entry>& entries, const std::vector<TextView>& texts, bool descending) {
+void SortEqualHeads(std::vector<Entry>& entries, const std::vector<TextView>& texts, bool descending,
+                    const Pause& pause) {
     const auto isBefore = [&](const Entry& a, const Entry& b) {
         const int order = texts[a.place].compare(texts[b.place]);
         return descending ? order > 0 : order < 0;
@@ -68,22 +70,25 @@ void SortEqualHeads(std::vector<Entry>& entries, const std::vector<TextView>& te
         const auto last =
             std::find_if(first, entries.end(), [&](const Entry& e) { return e.head != first->head; });
         if (last - first > 1) std::stable_sort(first, last, isBefore);
+        PauseAt(static_cast<std::size_t>(last - entries.begin()), pause);
         first = last;
     }
 }
 
 }  // namespace
 
-std::vector<std::uint32_t> SortedOrder(const std::vector<TextView>& texts, bool descending) {
+std::vector<std::uint32_t> SortedOrder(const std::vector<TextView>& texts, bool descending,
+                                       const Pause& pause) {
     if (texts.size() < 2 || IsInOrder(texts, descending)) return {};
     const std::size_t skipped = CommonPrefix(texts);
     std::vector<Entry> entries(texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const std::uint64_t head = Head(texts[i], skipped);
         entries[i] = {descending ? ~head : head, static_cast<std::uint32_t>(i)};
+        PauseAt(i, pause);
     }
-    SortByHead(entries);
-    SortEqualHeads(entries, texts, descending);
+    SortByHead(entries, pause);
+    SortEqualHeads(entries, texts, descending, pause);
     std::vector<std::uint32_t> order(texts.size());
     for (std::size_t i = 0; i < order.size(); ++i) order[i] = entries[i].place;
     return order;

@@ -26,6 +26,7 @@ TEST(ReadCommand, TellsAndEnablesWhatItDid) {
     EXPECT_FALSE(FamilyCommandsEnabled(t.main));
     t.events.onYield = [&] {
         EXPECT_TRUE(t.main.SSTab1 == Tab::Options && t.main.bWaitCursor && t.main.bTablesLocked);
+        EXPECT_EQ(t.main.ActiveControl(), &t.main.cboGedIn);
         EXPECT_FALSE(t.main.cmdLoad.Enabled || t.main.cboLoad.Enabled || FamilyCommandsEnabled(t.main));
         t.main.cmdLoad.Click();
         t.main.mnuReadGedCom.Click();
@@ -38,7 +39,8 @@ TEST(ReadCommand, TellsAndEnablesWhatItDid) {
     EXPECT_FALSE(t.main.bWaitCursor || t.main.bTablesLocked || t.main.bAbort);
     EXPECT_TRUE(t.main.cmdLoad.Enabled && t.main.cboLoad.Enabled && t.main.bFamiliesRead);
     EXPECT_TRUE(FamilyCommandsEnabled(t.main));
-    EXPECT_EQ(t.main.ActiveControl(), &t.main.cboGedIn);
+    EXPECT_EQ(t.main.ActiveControl(), nullptr);
+    EXPECT_EQ(t.main.lvwActiveListView, &t.main.lvwIn);
     ASSERT_EQ(t.dialogs.boxes.size(), 1u);
     const MessageBox& question = t.dialogs.boxes[0];
     EXPECT_EQ(question.title, t.main.MainCaption() + " - Recalcul");

@@ -66,8 +66,13 @@ TEST_F(EnvironmentTest, FoldersFollowIt) {
     // A folder that is not told from the root means nothing.
     Set("XDG_DATA_HOME", "data");
     EXPECT_EQ(folders.UserData(), "/nowhere/Zoé/.local/share"_t);
+    Set("XDG_CONFIG_HOME", "");
+    EXPECT_EQ(folders.Settings(), "/nowhere/Zoé/.config/SwiftRoll"_t);
+    Set("XDG_CONFIG_HOME", "/settings");
+    EXPECT_EQ(folders.Settings(), "/settings/SwiftRoll");
+    Set("XDG_CONFIG_HOME", "");
     Set("HOME", "");
-    EXPECT_EQ(folders.UserData(), "");
+    EXPECT_EQ(folders.UserData() + folders.Settings(), "");
 }
 
 TEST(InterruptDeathTest, TheFirstIsNotedAndTheSecondEndsTheProgram) {

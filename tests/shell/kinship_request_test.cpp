@@ -164,10 +164,9 @@ TEST(KinshipRequest, ADoubleClickOnAPathGoesToThePersonOrTheFamily) {
     t.Find({1, 2}, {});
     t.Mark({}, {});
     const auto click = [&](std::int32_t row, std::int16_t column) {
-        t.main.lHitRow = row - 1;
-        t.main.lHitCol = column - 1;
+        t.main.HitTest(row - 1, column - 1);
         t.main.SSTab1 = Tab::Kinship;
-        t.main.lvwKinship_DblClick();
+        t.main.lvw_DblClick(t.main.lvwKinship);
         return t.main.SSTab1;
     };
     EXPECT_EQ(click(1, Kinship::Indi), Tab::In);

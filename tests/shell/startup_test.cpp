@@ -55,7 +55,7 @@ TEST(Startup, AFailureEndsTheApplicationAfterItsReport) {
     } folders;
     TestPorts t;
     frmMain main({t.dialogs, t.clock, t.events, t.files, folders, t.status, t.machine, t.desktop, t.desktop,
-                  t.desktop});
+                  t.desktop, t.settings, t.preview, t.desktop, t.desktop});
     EXPECT_THROW(main.Form_Load({}), ProgramEnd);
     ASSERT_EQ(t.dialogs.boxes.size(), 1u);
     EXPECT_TRUE(t.dialogs.boxes[0].text.ends_with("|InitCombos/0//docs/.ged//|")) << t.dialogs.boxes[0].text;

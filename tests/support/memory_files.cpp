@@ -13,6 +13,8 @@ class MemoryFile : public File {
     std::size_t Read(char* buffer, std::size_t size) override {
         const Text& bytes = files_.contents[name_];
         if (position_ >= files_.breaksAt) throw Failure(FailureKind::FileAccess, name_);
+        // The file may have become shorter since.
+        position_ = std::min(position_, bytes.size());
         size = std::min({size, bytes.size() - position_, files_.readSize, files_.breaksAt - position_});
         std::copy_n(bytes.data() + position_, size, buffer);
         position_ += size;

@@ -6,6 +6,7 @@
 #include "app/ports.h"
 #include "shell/frm_main.h"
 #include "support/memory_files.h"
+#include "support/memory_settings.h"
 
 namespace swiftroll::test {
 
@@ -49,6 +50,7 @@ class HookedPump : public EventPump {
         ++yields;
         if (onYield) onYield();
     }
+    void YieldFor(int, const bool&) override { Yield(); }
     int yields = 0;
     std::function<void()> onYield;
 };
@@ -74,11 +76,13 @@ class SilentStatus : public StatusObserver {
 class TestMachine : public Machine {
   public:
     std::uint64_t Memory() override { return memory; }
+    SystemVersion System() override { return system; }
+    SystemVersion system{"Test", 1, 2, 3, 4};
     std::uint64_t memory = std::uint64_t{1} << 34;
 };
 
 /// Keeps what reached the clipboard and what was opened.
-struct TestDesktop : Clipboard, Keyboard, Desktop {
+struct TestDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
     void SetText(TextView text) override { clipboard = text; }
     bool IsShiftDown() override { return shiftIsDown; }
     OpenResult Open(TextView file, int& number) override {
@@ -92,7 +96,20 @@ struct TestDesktop : Clipboard, Keyboard, Desktop {
     }
     void OpenAddress(TextView address) override { opened.emplace_back(address); }
 
+    void Download(TextView address, TextView localFile) override {
+        opened.emplace_back(address);
+        if (onDownload) onDownload(localFile);
+    }
+    bool Compose(const MailMessage& message, TextView) override {
+        mails.push_back(message);
+        return writesDraft;
+    }
+
     Text clipboard;
+    /// Puts what the web gives into the local file.
+    std::function<void(TextView localFile)> onDownload;
+    std::vector<MailMessage> mails;
+    bool writesDraft = false;
     bool shiftIsDown = false;
     OpenResult openResult = OpenResult::Opened;
     int openNumber = 0;
@@ -109,8 +126,11 @@ struct TestPorts {
     SilentStatus status;
     TestMachine machine;
     TestDesktop desktop;
+    MemorySettings settings;
+    NoDrawingDevice preview;
     Ports All() {
-        return {dialogs, clock, events, files, folders, status, machine, desktop, desktop, desktop};
+        return {dialogs, clock,   events,  files,    folders, status,  machine,
+                desktop, desktop, desktop, settings, preview, desktop, desktop};
     }
 };
 

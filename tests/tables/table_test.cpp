@@ -89,7 +89,11 @@ TEST_F(TableTest, BehavesAsAPlainListOfRows) {
         } else if (act < 94 && isKnown) {
             table.Remove(known);
             rows.erase(rows.begin() + (known - 1));
-        } else if (act >= 95) {
+        } else if (act == 95) {
+            const auto isMarked = [](const PlainRow& row) { return (row.marks & 3) != 0; };
+            const auto others = std::stable_partition(rows.begin(), rows.end(), isMarked);
+            ASSERT_EQ(table.GatherMarked(), others - rows.begin());
+        } else if (act > 95) {
             const auto text = random() % 2 == 0 ? &PlainRow::cell : &PlainRow::interned;
             const bool descending = random() % 2 == 0;
             table.SortBy(text == &PlainRow::interned, descending);

@@ -1,0 +1,128 @@
+// How the window feels: from the start of the process to the first paint, the longest stall of the event loop
+// while a file is read, and the time that a screen of rows takes while a long table is scrolled.
+//   windowbench START FILE.ged      START: when the process was started, in nanoseconds since the epoch
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+#include "desktop_application.h"
+
+namespace {
+
+/// Tells when the main window was painted for the first time.
+class FirstPaint : public QObject {
+  public:
+    explicit FirstPaint(std::function<void()> onPaint) : onPaint_(std::move(onPaint)) {}
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint && onPaint_) std::exchange(onPaint_, nullptr)();
+        return false;
+    }
+
+  private:
+    std::function<void()> onPaint_;
+};
+
+/// The longest time between two looks at the event loop.
+class StallMeter {
+  public:
+    StallMeter() {
+        QObject::connect(&timer_, &QTimer::timeout, [this] { Tick(); });
+        timer_.setTimerType(Qt::PreciseTimer);
+        timer_.start(1);
+        sinceTick_.start();
+    }
+    void Tick() {
+        const qint64 stall = sinceTick_.nsecsElapsed();
+        sinceTick_.start();
+        stalls_.push_back(static_cast<double>(stall) / 1e6);
+    }
+    void Report(const char* what) {
+        Tick();
+        std::sort(stalls_.rbegin(), stalls_.rend());
+        std::printf("%-44s %8.1f ms, then", what, stalls_.empty() ? 0 : stalls_[0]);
+        for (std::size_t i = 1; i < std::min<std::size_t>(5, stalls_.size()); ++i)
+            std::printf(" %.1f", stalls_[i]);
+        std::printf("\n");
+    }
+
+  private:
+    QTimer timer_;
+    QElapsedTimer sinceTick_;
+    std::vector<double> stalls_;
+};
+
+/// Answers the question of the recalculation with No as soon as it stands there.
+void AnswerBoxes(QTimer& timer) {
+    QObject::connect(&timer, &QTimer::timeout, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr) return;
+        QAbstractButton* no = box->button(QMessageBox::No);
+        if (no == nullptr) no = box->button(QMessageBox::Ok);
+        if (no != nullptr) no->click();
+    });
+    timer.start(10);
+}
+
+void MeasureRead(swiftroll::ui::DesktopApplication& program) {
+    QTimer answers;
+    AnswerBoxes(answers);
+    QElapsedTimer watch;
+    watch.start();
+    StallMeter stalls;
+    program.ThePresenter().Act([&] { program.Main().cmdLoad.Click(); });
+    std::printf("%-44s %8.0f ms, %d individuals\n", "read", static_cast<double>(watch.nsecsElapsed()) / 1e6,
+                program.Main().lvwIn.Count());
+    stalls.Report("longest stall during the read");
+}
+
+void MeasureScroll(swiftroll::ui::TableView& view) {
+    constexpr int kSteps = 500;
+    std::vector<double> frames;
+    QScrollBar& bar = *view.verticalScrollBar();
+    for (int i = 0; i <= kSteps; ++i) {
+        QElapsedTimer watch;
+        watch.start();
+        bar.setValue(static_cast<int>(static_cast<qint64>(bar.maximum()) * i / kSteps));
+        view.viewport()->repaint();
+        frames.push_back(static_cast<double>(watch.nsecsElapsed()) / 1e6);
+    }
+    std::sort(frames.begin(), frames.end());
+    std::printf("%-44s %8.2f ms, at most %.2f\n", "a screen of rows while scrolling, median",
+                frames[frames.size() / 2], frames.back());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: windowbench START FILE.ged\n");
+        return 2;
+    }
+    QApplication application(argc, argv);
+    swiftroll::ui::SetUpFrench();
+    swiftroll::ui::DesktopApplication program;
+    double toFirstPaint = 0;
+    FirstPaint firstPaint([&] {
+        const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(
+                             std::chrono::system_clock::now().time_since_epoch())
+                             .count();
+        toFirstPaint = static_cast<double>(now - std::atoll(argv[1])) / 1e6;
+    });
+    if (!program.Start(QString::fromLocal8Bit(argv[2]))) return 1;
+    program.Window().centralWidget()->installEventFilter(&firstPaint);
+    while (toFirstPaint == 0) QApplication::processEvents(QEventLoop::WaitForMoreEvents, 1000);
+    std::printf("%-44s %8.0f ms\n", "from the start of the process to first paint", toFirstPaint);
+    MeasureRead(program);
+    QApplication::processEvents();
+    MeasureScroll(program.Window().ViewOf(program.Main().lvwIn));
+    std::fflush(stdout);
+    std::_Exit(0);
+}

@@ -1,0 +1,88 @@
+#include "drawing/kinship_print.h"
+
+#include "drawing/tagged_text.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modPrint {
+namespace {
+
+using modKinshipOutput::CellRectangle;
+using modKinshipOutput::CellSizes;
+
+/// A screen has 96 pixels to the inch, a twip is a 1440th of it.
+constexpr std::int64_t kTwipsPerPixel = 15;
+/// A4 in the rounded centimetres of the layout, as twips.
+constexpr std::int64_t kLongSide = 29 * 144000 / 254, kShortSide = 21 * 144000 / 254;
+/// The two lines of a marriage stand this much, in pixels, inside the cell.
+constexpr std::int64_t kMarriageInset = 5;
+constexpr std::uint32_t kBlack = 0;
+
+}  // namespace
+
+void KinshipPrint::Begin(const CellSizes& sizes) {
+    app_.ports.preview.Open(sKinshipTitle_, sizes.bLandscape ? kLongSide : kShortSide,
+                            sizes.bLandscape ? kShortSide : kLongSide);
+}
+
+void KinshipPrint::WriteCell(TextView sClass, TextView sText, const CellRectangle& place,
+                             const CellSizes& sizes) {
+    std::int64_t height = place.height, width = place.width;
+    const bool isMarriage = sClass == "SpouseLine";
+    if (isMarriage) (sizes.bLandscape ? height : width) -= kMarriageInset;
+    const Frame frame{place.left * kTwipsPerPixel, place.top * kTwipsPerPixel,
+                      (place.left + width) * kTwipsPerPixel, (place.top + height) * kTwipsPerPixel};
+    const bool across = sizes.bLandscape;
+    if (isMarriage) {
+        DrawEdges(frame, {across, !across, across, !across});
+    } else if (sClass == "ChildVLine") {
+        DrawEdges(frame, {!across, false, false, across});
+    } else if (sClass == "ChildHLine") {
+        DrawEdges(frame, {true, true, !across, across});
+    } else {
+        const ColourButton& colour = sClass == "IndivMBox"   ? app_.cmdColorMale
+                                     : sClass == "IndivFBox" ? app_.cmdColorFemale
+                                                             : app_.cmdColorUndefined;
+        WriteBox(frame, colour.Colour(), sText);
+    }
+}
+
+void KinshipPrint::DrawEdges(const Frame& frame, Edges edges) {
+    DrawingDevice& device = app_.ports.preview;
+    if (edges.top) device.DrawLine(frame.left, frame.top, frame.right, frame.top, kBlack);
+    if (edges.left) device.DrawLine(frame.left, frame.top, frame.left, frame.bottom, kBlack);
+    if (edges.bottom) device.DrawLine(frame.left, frame.bottom, frame.right, frame.bottom, kBlack);
+    if (edges.right) device.DrawLine(frame.right, frame.top, frame.right, frame.bottom, kBlack);
+}
+
+void KinshipPrint::WriteBox(const Frame& frame, std::uint32_t colour, TextView sText) {
+    DrawingDevice& device = app_.ports.preview;
+    const std::int64_t width = frame.right - frame.left;
+    device.FillRectangle(frame.left, frame.top, width, frame.bottom - frame.top, colour);
+    DrawEdges(frame, {true, true, true, true});
+    const Text text =
+        ReplaceAll(ReplaceAll(sText, "<p class=Right style=\"text-align: right\">", "<RIGHT>"), "</p>", "");
+    CellFont font = font_;
+    std::int64_t y = frame.top;
+    for (const modPreview::TextPiece& piece : modPreview::SplitTags(text)) {
+        font.bold = piece.bold;
+        font.underline = piece.underline;
+        font.italic = piece.italic;
+        if (piece.afterBreak) y += ParseDecimal(font.size).value_or(0);
+        if (!piece.text.empty()) y += device.PrintLine(frame.left, y, width, piece.text, font);
+    }
+}
+
+void KinshipPrint::EndDrawing(std::int64_t lTop, std::int64_t) {
+    app_.ports.preview.EndDrawing(lTop * kTwipsPerPixel);
+}
+
+void KinshipPrint::End(std::int64_t) { app_.ports.preview.Close(); }
+
+void KinshipPrint::Fail(const Failure& failure) {
+    app_.Box(" - Kinship",
+             Concat({"Erreor d'impression", kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
+}
+
+}  // namespace swiftroll::modPrint

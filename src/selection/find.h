@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/application.h"
+
+namespace swiftroll::modSelectionIn {
+
+/// What a cell must hold: a text, as a whole, at its beginning or anywhere. An empty text begins every cell,
+/// and stands anywhere in those that are not empty.
+struct FindCondition {
+    enum class Match { Whole, Beginning, Anywhere };
+    Text text;
+    Match match = Match::Beginning;
+
+    /// Whether a cell holds the text; both in their comparison forms.
+    bool Holds(TextView sCell) const;
+};
+
+/// The search for rows by the text of one column, or two: its conditions, and where it has come to.
+struct FindState {
+    FindCondition first, second;
+    /// The column of the second condition by its `SubItems` number; that of the first is the clicked one.
+    std::int16_t iSecondCol = 0;
+    /// Index of the row at which the next search begins; 0 before the first.
+    std::int32_t lFindNext = 0;
+
+    /// Goes to the next row of the table in which the column `iFirstCol` holds the text of the first
+    /// condition, and the second column that of the second unless it is empty. The row gets `Selected` and is
+    /// scrolled into view, and the next search begins behind it; without one nothing changes. The message
+    /// line tells which. @throws Failure IndexOutOfRange for a column that the table lacks
+    void FindNext(Application& app, Table& table, std::int16_t iFirstCol);
+};
+
+}  // namespace swiftroll::modSelectionIn

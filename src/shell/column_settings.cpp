@@ -1,0 +1,88 @@
+#include "shell/column_settings.h"
+
+#include "shell/ignoring_failures.h"
+#include "shell/sorted_settings.h"
+#include "text/edit.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modCommon {
+namespace {
+
+constexpr TextView kPosition = "\\Position", kWidth = "\\Width", kIcon = "\\Icon";
+constexpr TextView kByIndex = "*";
+
+Text NameOf(const Column& column) {
+    return column.Key.empty() ? Concat({kByIndex, Decimal(column.Index)}) : column.Key;
+}
+
+/// @throws Failure when the table has no such column
+Column& ColumnNamed(Table& lvw, TextView name) {
+    if (name.starts_with(kByIndex)) return lvw.ColumnAt(ToInteger(name.substr(kByIndex.size())));
+    Column* column = lvw.FindColumn(name);
+    if (column == nullptr) throw Failure(FailureKind::KeyNotFound, name);
+    return *column;
+}
+
+void SetWidth(Column& column, TextView value) {
+    const std::int32_t width = ToLong(value);
+    if (width < 0) throw Failure(FailureKind::InvalidArgument);
+    column.Width = width;
+}
+
+/// There is no other image than these.
+void SetIcon(Column& column, TextView value) {
+    for (const TextView selection : {"On", "Of"}) {
+        for (const TextView sort : {"No", "Up", "Dw"}) {
+            if (value == Concat({selection, sort})) column.Icon = value;
+        }
+    }
+}
+
+}  // namespace
+
+bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection) {
+    Text sName;
+    return app.trail.Guard(
+        "SaveColumnsSettings",
+        [&] {
+            SettingsStore& store = app.ports.settings;
+            for (const Column& column : lvw.Columns()) {
+                sName = NameOf(column);
+                store.SaveSetting(Concat({sSection, kPosition}), sName, Decimal(column.Position));
+                store.SaveSetting(Concat({sSection, kWidth}), sName, Decimal(column.Width));
+                store.SaveSetting(Concat({sSection, kIcon}), sName, column.Icon);
+            }
+            return true;
+        },
+        [&] {
+            return Concat({lvw.Name(), "/", sSection, "/", sName});
+        });
+}
+
+void GetColumsSettings(Application& app, Table& lvw, TextView sSection) {
+    Text sSubSection;
+    const auto pairsBelow = [&](TextView name) {
+        sSubSection = Concat({sSection, name});
+        return app.ports.settings.GetAllSettings(sSubSection);
+    };
+    app.trail.Guard(
+        "GetColumsSettings",
+        [&] {
+            std::int16_t position = 0;
+            for (const Text& name : SortMySettings(app, pairsBelow(kPosition))) {
+                ++position;
+                IgnoringFailures([&] { lvw.MoveColumn(ColumnNamed(lvw, name).Index, position); });
+            }
+            for (const auto& pair : pairsBelow(kWidth)) {
+                IgnoringFailures([&] { SetWidth(ColumnNamed(lvw, pair.first), pair.second); });
+            }
+            for (const auto& pair : pairsBelow(kIcon)) {
+                IgnoringFailures([&] { SetIcon(ColumnNamed(lvw, pair.first), pair.second); });
+            }
+        },
+        [&] {
+            return Concat({sSubSection, "/", lvw.Name()});
+        });
+}
+
+}  // namespace swiftroll::modCommon

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "app/application.h"
+
+namespace swiftroll::modCommon {
+
+/// Writes the places, widths and icons of the columns of a table below a section; false after a failure,
+/// which is reported.
+bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection);
+
+/// Reads them back. A column that the section does not name stays as it is, as does one whose value means
+/// nothing.
+void GetColumsSettings(Application& app, Table& lvw, TextView sSection);
+
+}  // namespace swiftroll::modCommon

@@ -1,0 +1,51 @@
+#include "shell/list_commands.h"
+
+#include "text/literal.h"
+
+namespace swiftroll {
+namespace {
+
+/// Nothing can be added or removed before a cell was clicked.
+Command OfClickedCell(Window& window, const ControlTexts& texts) { return {window, texts, {}, false}; }
+
+std::array<Command, 3> OfValues(Window& window, TextView name) {
+    return {OfClickedCell(window, {name, "Valeur <=", {}, 0}),
+            OfClickedCell(window, {name, "Valeur =", {}, 1}),
+            OfClickedCell(window, {name, "Valeur >=", {}, 2})};
+}
+
+}  // namespace
+
+ListCommands::ListCommands(Window& window)
+    : mnuContextTitle(window, {"mnuContext", "Menu Contextuel"}),
+      mnuAddFavorite(window, {"mnuAddFavorite", "Ajouter aux Favoris"}, "Ctrl+J"),
+      mnuCol(window, {"mnuCol", "Colonnes de la liste"}),
+      mnuColSelect(window, {"mnuColSelect", "Sélectionner toutes"_t}),
+      mnuColUnselect(window, {"mnuColUnselect", "Désélectionner toutes"_t}),
+      mnuResetCol(window, {"mnuResetCol", "RAZ des largeurs"}),
+      mnuSpe2(window, {"mnuSpe2", "--------------- Sélection ---------------"_t}),
+      mnuNextSelected(window, {"mnuNextSelected", "Afficher Sélectionné Suivant"_t}, "Ctrl+N"),
+      mnuDeselectCurrent(window, {"mnuDeselectCurrent", "Désélectionner Courant"_t}, "Ctrl+W"),
+      mnuDeselectAll(window, {"mnuDeselectAll", "Désélectionner Tout"_t}, "Ctrl+D"),
+      mnuSelectAll(window, {"mnuSelectAll", "Sélectionner Tout"_t}, "Ctrl+A"),
+      mnuInvertSelection(window, {"mnuInvertSelection", "Inverser la Sélection"_t}, "Ctrl+X"),
+      mnuCopy(window, {"mnuCopy", "Copier dans le presse-papier"}, "Ctrl+C"),
+      mnuFind(window, {"mnuFind", "Rechercher..."}, "Ctrl+F"),
+      mnuFindNext(window, {"mnuFindNext", "Rechercher suivant"}, "Ctrl+S"),
+      mnuSelect(window, {"mnuSelect", "---------- Sélection en Entrée ----------"_t}),
+      mnuDeselectIn(window, {"mnuDeselectIn", "Désélectionner tout dans liste Entrée"_t}, "Ctrl+E"),
+      mnuAdd(window, {"mnuAdd", "Ajouter dans la liste Entrée"_t}),
+      mnuAddIndi(OfClickedCell(window, {"mnuAddIndi", "Individus"})),
+      mnuAddParents(OfClickedCell(window, {"mnuAddParents", "Parents"})),
+      mnuAddSpouses(OfClickedCell(window, {"mnuAddSpouses", "Conjoints"})),
+      mnuAddChildren(OfClickedCell(window, {"mnuAddChildren", "Enfants"})),
+      mnuAddValue(OfValues(window, "mnuAddValue")),
+      mnuRemove(window, {"mnuRemove", "Enlever de la liste Entrée"_t}),
+      mnuRemoveIndi(OfClickedCell(window, {"mnuRemoveIndi", "Individus"})),
+      mnuRemoveParents(OfClickedCell(window, {"mnuRemoveParents", "P&arents"})),
+      mnuRemoveSpouses(OfClickedCell(window, {"mnuRemoveSpouses", "C&onjoints"})),
+      mnuRemoveChildren(OfClickedCell(window, {"mnuRemoveChildren", "En&fants"})),
+      mnuRemoveValue(OfValues(window, "mnuRemoveValue")),
+      mnuKinship(window, {"mnuKinship", "---------- Liens de Parenté ----------"_t}) {}
+
+}  // namespace swiftroll

@@ -1,0 +1,106 @@
+#include "shell/parameter_set.h"
+
+#include "shell/history.h"
+#include "shell/sorted_settings.h"
+#include "text/edit.h"
+#include "text/numbers.h"
+
+namespace swiftroll::modCommon {
+namespace {
+
+constexpr TextView kNameKey = "Name";
+
+}  // namespace
+
+ParameterSet::ParameterSet(Application& app, ComboBox& combo, Command& save, Parts parts)
+    : app_(app), combo_(combo), parts_(std::move(parts)) {
+    combo.OnClick = [this] {
+        bComboClick_ = true;
+        Load();
+        bComboClick_ = false;
+    };
+    combo.OnLostFocus = [this] { Load(); };
+    save.Operation = [this] { Save(); };
+}
+
+/// A "\" would begin a sub-section.
+Text ParameterSet::SetKey(TextView name) const { return Concat({"\\", ReplaceAll(name, "\\", "*")}); }
+
+Text ParameterSet::SectionOf(TextView name) const { return Concat({parts_.section, SetKey(name)}); }
+
+void ParameterSet::Load() {
+    app_.trail.Guard(
+        parts_.loadName,
+        [&] {
+            if (combo_.Get().empty()) return;
+            // This picks the name, which loads the set a first time.
+            if (!bComboClick_) cboAdd(combo_);
+            LoadFields();
+        },
+        [&] { return combo_.Get(); });
+}
+
+void ParameterSet::LoadFields() {
+    SettingsStore& store = app_.ports.settings;
+    const Text typed = combo_.Get(), section = SectionOf(typed);
+    const Text name = store.GetSetting(section, kNameKey, typed);
+    if (name != typed) combo_.SetText(name);
+    for (const Field& field : parts_.fields) {
+        const Text present = field.get();
+        const Text stored = store.GetSetting(section, field.key, present);
+        if (stored != present) field.set(stored);
+    }
+    if (parts_.loadMore) parts_.loadMore(section);
+}
+
+void ParameterSet::Save() {
+    app_.trail.Guard(
+        parts_.saveName,
+        [&] {
+            app_.ports.settings.Together([&] {
+                for (const Text& item : combo_.Items()) {
+                    if (parts_.tidy) parts_.tidy(SectionOf(item));
+                    if (item == combo_.Get()) SaveFields(item);
+                }
+            });
+        },
+        [&] { return combo_.Get(); });
+}
+
+void ParameterSet::SaveFields(TextView name) {
+    SettingsStore& store = app_.ports.settings;
+    const Text section = SectionOf(name);
+    store.SaveSetting(parts_.section, SetKey(name), name);
+    store.SaveSetting(section, kNameKey, name);
+    for (const Field& field : parts_.fields) store.SaveSetting(section, field.key, field.get());
+    if (parts_.saveMore) parts_.saveMore(section);
+}
+
+ParameterSet::Field TextField(TextView key, TextBox& box) {
+    return {key, [&] { return box.Get(); }, [&](TextView text) { box.SetText(text); }};
+}
+
+ParameterSet::Field NumberField(TextView key, TextBox& box) {
+    return {key, [&] { return box.Get(); }, [&](TextView text) { box.SetText(Decimal(ToLong(text))); }};
+}
+
+ParameterSet::Field FlagField(TextView key, CheckBox& box) {
+    return {key, [&] { return Text(box.Checked() ? "1" : "0"); },
+            [&](TextView text) { box.SetChecked(ToBoolean(text)); }};
+}
+
+ParameterSet::Field OptionField(TextView key, OptionGroup& group, int member) {
+    return {key, [&group, member] { return Text(BooleanText(group.Index() == member)); },
+            [&group, member](TextView text) { group.SetMember(member, ToBoolean(text)); }};
+}
+
+ParameterSet::Field ColourField(TextView key, ColourButton& button) {
+    return {key, [&] { return Decimal(button.Colour()); },
+            [&](TextView text) { button.SetColour(static_cast<std::uint32_t>(ToLong(text))); }};
+}
+
+ParameterSet::Field CaptionField(TextView key, Label& label) {
+    return {key, [&] { return label.Caption; }, [&](TextView text) { label.Caption = text; }};
+}
+
+}  // namespace swiftroll::modCommon

@@ -1,0 +1,125 @@
+// The walk that restores the settings.
+#include <algorithm>
+
+#include "app/french_date.h"
+#include "shell/column_settings.h"
+#include "shell/ignoring_failures.h"
+#include "shell/list_order.h"
+#include "shell/settings_sections.h"
+#include "shell/settings_walk.h"
+#include "shell/sorted_settings.h"
+
+namespace swiftroll::modCommon {
+namespace {
+
+constexpr std::int32_t kSmallestRestored = 1000;  // twips
+
+void RestorePlace(SettingsStore& store, Window& window) {
+    WindowPlace& place = window.Place;
+    const auto pixelsOf = [](const Text& value, std::int32_t smallest) {
+        return std::max(ToLong(value), smallest) / kTwipsPerPixel;
+    };
+    for (const auto& [key, value] : store.GetAllSettings(WindowSection(window))) {
+        const bool isSize = key == kWidthKey || key == kHeightKey;
+        const bool isPlace = key == kTopKey || key == kLeftKey;
+        if (!isPlace && !(isSize && place.resizable)) continue;
+        int& field = key == kTopKey     ? place.top
+                     : key == kLeftKey  ? place.left
+                     : key == kWidthKey ? place.width
+                                        : place.height;
+        field = pixelsOf(value, isSize ? kSmallestRestored : 0);
+        place.known = true;
+    }
+}
+
+void RestoreCombo(Application& app, ComboBox& combo, TextView section) {
+    const auto pairs = app.ports.settings.GetAllSettings(section);
+    if (pairs.empty()) return;
+    const std::vector<Text> saved = SortMySettings0(app, pairs);
+    if (Trim(saved.front()).empty()) return;
+    std::vector<Text> items = combo.Items();
+    for (const Text& item : saved) {
+        if (!Trim(item).empty()) items.push_back(item);
+    }
+    combo.SetItems(std::move(items));
+    combo.SetListIndex(0);
+}
+
+void RestoreList(Application& app, OrderedList& list, TextView section) {
+    SettingsStore& store = app.ports.settings;
+    // The next save writes a fresh section.
+    if (SetListOrder(app, list, store.GetAllSettings(section))) return;
+    IgnoringFailures([&] { store.DeleteSetting(section); });
+}
+
+void RestoreControl(Application& app, Control& control, TextView section) {
+    SettingsStore& store = app.ports.settings;
+    const auto withFirstValue = [&](TextView from, const auto& use) {
+        const auto pairs = store.GetAllSettings(from);
+        if (!pairs.empty()) use(pairs.front().second);
+    };
+    switch (control.Kind()) {
+        case ControlKind::ComboBox:
+            RestoreCombo(app, dynamic_cast<ComboBox&>(control), section);
+            break;
+        case ControlKind::OrderedList:
+            RestoreList(app, dynamic_cast<OrderedList&>(control), section);
+            break;
+        case ControlKind::CheckBox:
+            withFirstValue(section, [&](const Text& value) {
+                dynamic_cast<CheckBox&>(control).SetChecked(ToBoolean(value));
+            });
+            break;
+        case ControlKind::OptionButton:
+            withFirstValue(section, [&](const Text& value) {
+                dynamic_cast<OptionButton&>(control).SetValue(ToBoolean(value));
+            });
+            break;
+        case ControlKind::OptionGroup: {
+            auto& group = dynamic_cast<OptionGroup&>(control);
+            for (int i = 0; i < static_cast<int>(group.Captions().size()); ++i) {
+                withFirstValue(MemberSection(section, i),
+                               [&](const Text& value) { group.SetMember(i, ToBoolean(value)); });
+            }
+            break;
+        }
+        case ControlKind::TextBox:
+            withFirstValue(section,
+                           [&](const Text& value) { dynamic_cast<TextBox&>(control).SetText(value); });
+            break;
+        case ControlKind::Colour:
+        case ControlKind::Label:
+        case ControlKind::Command:
+            break;
+    }
+}
+
+}  // namespace
+
+void GetAllControls(Application& app, const std::vector<SavedWindow>& windows) {
+    Text sName;
+    app.trail.Guard(
+        "GetAllControls",
+        [&] {
+            app.bFormLoading = true;
+            const Moment now = app.ports.clock.Now();
+            app.sRunStart = Concat({ShortDate(now), " ", LongTime(now)});
+            for (const SavedWindow& saved : windows) {
+                RestorePlace(app.ports.settings, saved.window);
+                for (Control* control : saved.window.Controls()) {
+                    sName = ControlSection(saved.window, control->Name());
+                    RestoreControl(app, *control, sName);
+                }
+                for (Table* table : saved.tables) {
+                    sName = ControlSection(saved.window, table->Name());
+                    GetColumsSettings(app, *table, sName);
+                }
+            }
+        },
+        [&] {
+            return Concat({"Load/", sName});
+        });
+    app.bFormLoading = false;
+}
+
+}  // namespace swiftroll::modCommon

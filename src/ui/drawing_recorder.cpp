@@ -1,0 +1,91 @@
+#include "drawing_recorder.h"
+
+#include <QFontMetricsF>
+#include <QLocale>
+
+#include "colours.h"
+#include "qt_text.h"
+
+namespace swiftroll::ui {
+namespace {
+
+constexpr qreal kTwipsPerPoint = 20;
+constexpr qreal kLineWidth = 15;    // a pixel of the screen
+constexpr qreal kTextMargin = 45;   // between the edge of a box and its text
+constexpr qreal kSmallestSize = 1;  // points
+
+}  // namespace
+
+void DrawingRecorder::Open(TextView title, std::int64_t width, std::int64_t height) {
+    title_ = ToQt(title);
+    sheet_ = QSizeF(static_cast<qreal>(width), static_cast<qreal>(height));
+    extent_ = {};
+    drawn_.clear();
+    if (OnOpen) OnOpen();
+}
+
+void DrawingRecorder::Reach(qreal right, qreal bottom) {
+    extent_ = extent_.expandedTo(QSizeF(right, bottom));
+}
+
+void DrawingRecorder::FillRectangle(std::int64_t left, std::int64_t top, std::int64_t width,
+                                    std::int64_t height, std::uint32_t colour) {
+    const QRectF place(static_cast<qreal>(left), static_cast<qreal>(top), static_cast<qreal>(width),
+                       static_cast<qreal>(height));
+    drawn_.push_back(Fill{place, ColourOf(colour)});
+    Reach(place.right(), place.bottom());
+}
+
+void DrawingRecorder::DrawLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2,
+                               std::uint32_t colour) {
+    const QLineF place(static_cast<qreal>(x1), static_cast<qreal>(y1), static_cast<qreal>(x2),
+                       static_cast<qreal>(y2));
+    drawn_.push_back(Line{place, ColourOf(colour)});
+    Reach(std::max(place.x1(), place.x2()), std::max(place.y1(), place.y2()));
+}
+
+std::int64_t DrawingRecorder::PrintLine(std::int64_t x, std::int64_t y, std::int64_t width, TextView text,
+                                        const CellFont& font) {
+    QFont shown(ToQt(font.name));
+    // A pixel of the painter is a twip.
+    const qreal points = std::max(kSmallestSize, QLocale(QLocale::French).toDouble(ToQt(font.size)));
+    shown.setPixelSize(static_cast<int>(points * kTwipsPerPoint));
+    shown.setBold(font.bold);
+    shown.setItalic(font.italic);
+    shown.setUnderline(font.underline);
+    shown.setStrikeOut(font.strikethrough);
+    const QFontMetricsF metrics(shown);
+    const qreal room = static_cast<qreal>(width) - 2 * kTextMargin;
+    const QRectF place(static_cast<qreal>(x) + kTextMargin, static_cast<qreal>(y), room, metrics.height());
+    drawn_.push_back(
+        Words{place, metrics.elidedText(ToQt(text), Qt::ElideRight, room), shown, ColourOf(font.colour)});
+    return static_cast<std::int64_t>(metrics.height());
+}
+
+void DrawingRecorder::EndDrawing(std::int64_t) {}
+
+void DrawingRecorder::Close() {
+    if (OnClose) OnClose();
+}
+
+void DrawingRecorder::Paint(QPainter& painter, const QRectF& area) const {
+    const QRectF wider = area.adjusted(-kLineWidth, -kLineWidth, kLineWidth, kLineWidth);
+    const auto paint = [&](const auto& item) {
+        using Item = std::decay_t<decltype(item)>;
+        if constexpr (std::is_same_v<Item, Fill>) {
+            if (wider.intersects(item.place)) painter.fillRect(item.place, item.colour);
+        } else if constexpr (std::is_same_v<Item, Line>) {
+            const QRectF box = QRectF(item.place.p1(), item.place.p2()).normalized().adjusted(-1, -1, 1, 1);
+            if (!wider.intersects(box)) return;
+            painter.setPen(QPen(item.colour, kLineWidth));
+            painter.drawLine(item.place);
+        } else if (wider.intersects(item.place)) {
+            painter.setPen(item.colour);
+            painter.setFont(item.font);
+            painter.drawText(item.place, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, item.text);
+        }
+    };
+    for (const auto& item : drawn_) std::visit(paint, item);
+}
+
+}  // namespace swiftroll::ui

@@ -1,0 +1,69 @@
+#include <QHBoxLayout>
+
+#include "dialogs.h"
+#include "help_topics.h"
+#include "layout.h"
+#include "qt_text.h"
+
+namespace swiftroll::ui {
+namespace {
+
+/// One condition: the text, its column, and how they are compared.
+QWidget* ConditionFrame(Binder& binder, frmFind& form, std::size_t condition) {
+    constexpr std::size_t kWays = 3;
+    ComboBox& text = form.cboTextToFind[condition];
+    Frame frame(ToQt(text.Caption));
+    auto* edit = new QComboBox;
+    binder.Bind(*edit, text);
+    edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    edit->setMinimumWidth(260);
+    SelectAllOnFocus(*edit->lineEdit());
+    auto* columns = new QComboBox;
+    binder.Bind(*columns, form.cboColumns[condition], QStringLiteral("Colonne"));
+    columns->setMinimumWidth(150);
+    frame.grid->addWidget(edit, 0, 0);
+    frame.grid->addWidget(NewLabel(ToQt(form.cboColumns[condition].Caption), columns), 0, 1);
+    frame.grid->addWidget(columns, 0, 2);
+    auto* ways = new QHBoxLayout;
+    ways->setSpacing(2 * kSpacing);
+    for (std::size_t way = 0; way < kWays; ++way) {
+        auto* button = new QRadioButton;
+        binder.Bind(*button, form.optSearch[condition * kWays + way]);
+        ways->addWidget(button);
+    }
+    ways->addStretch(1);
+    frame.grid->addLayout(ways, 1, 0, 1, 3);
+    frame.grid->setColumnStretch(0, 1);
+    return frame.box;
+}
+
+}  // namespace
+
+SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
+    frmFind& form = presenter.Main().frmFind;
+    auto* dialog = new SecondaryDialog(presenter, form, owner);
+    dialog->setObjectName(QStringLiteral("frmFind"));
+    dialog->helpTopic = Topic::Find;
+    Binder binder(presenter, form);
+    auto* column = new QVBoxLayout(dialog);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kSpacing);
+    column->addWidget(ConditionFrame(binder, form, 0));
+    column->addWidget(ConditionFrame(binder, form, 1));
+    auto* options = new QLabel;
+    binder.Bind(*options, form.lblFind);
+    column->addWidget(options);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(NewButton(binder, form.cmdDeselectAll));
+    buttons->addStretch(1);
+    auto* find = NewButton(binder, form.cmdFind);
+    find->setDefault(true);
+    buttons->addWidget(find);
+    buttons->addWidget(NewButton(binder, form.cmdFindNext));
+    column->addLayout(buttons);
+    column->addStretch(1);
+    dialog->onActivate = [&form] { form.Activate(); };
+    return dialog;
+}
+
+}  // namespace swiftroll::ui

@@ -1,0 +1,91 @@
+#include "layout.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QTimer>
+
+#include "themed_icon.h"
+
+namespace swiftroll::ui {
+namespace {
+
+class FocusSelector : public QObject {
+  public:
+    explicit FocusSelector(QLineEdit& edit) : QObject(&edit) { edit.installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        // After the press of the mouse, which would put the cursor in the text.
+        if (event->type() == QEvent::FocusIn) {
+            auto* edit = static_cast<QLineEdit*>(object);
+            QTimer::singleShot(0, edit, [edit] { edit->selectAll(); });
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+Frame::Frame(const QString& caption, const QString& name)
+    : box(new QGroupBox(caption)), grid(new QGridLayout(box)) {
+    box->setObjectName(name);
+    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    grid->setSpacing(kSpacing);
+}
+
+QCheckBox* NewCheckBox(Binder& binder, CheckBox& control) {
+    auto* widget = new QCheckBox;
+    binder.Bind(*widget, control);
+    return widget;
+}
+
+QLineEdit* NewTextBox(Binder& binder, TextBox& control, int characters, const QString& description) {
+    auto* widget = new QLineEdit;
+    binder.Bind(*widget, control, description);
+    widget->setFixedWidth(widget->fontMetrics().horizontalAdvance(QString(characters, QLatin1Char('0'))) +
+                          16);
+    SelectAllOnFocus(*widget);
+    return widget;
+}
+
+QPushButton* NewButton(Binder& binder, Command& control) {
+    auto* widget = new QPushButton;
+    widget->setAutoDefault(false);
+    binder.Bind(*widget, control);
+    return widget;
+}
+
+QToolButton* NewToolButton(Binder& binder, Command& control, const QString& description,
+                           const QString& picture) {
+    auto* widget = new QToolButton;
+    widget->setFocusPolicy(Qt::StrongFocus);
+    if (!picture.isEmpty()) widget->setIcon(ThemedIcon(picture));
+    binder.Bind(*widget, control, description);
+    return widget;
+}
+
+QWidget* NewParameterSet(Binder& binder, ComboBox& names, Command& save, const QString& description) {
+    auto* widget = new QWidget;
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kSpacing);
+    auto* combo = new QComboBox;
+    binder.Bind(*combo, names, description);
+    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    SelectAllOnFocus(*combo->lineEdit());
+    row->addWidget(NewLabel(QStringLiteral("Jeu de paramètres"), combo));
+    row->addWidget(combo, 1);
+    row->addWidget(
+        NewToolButton(binder, save, QStringLiteral("Sauver : ") + description, QStringLiteral("save")));
+    return widget;
+}
+
+QLabel* NewLabel(const QString& caption, QWidget* buddy) {
+    auto* label = new QLabel(caption);
+    label->setBuddy(buddy);
+    return label;
+}
+
+void SelectAllOnFocus(QLineEdit& edit) {
+    new FocusSelector(edit);  // owned by the box
+}
+
+}  // namespace swiftroll::ui

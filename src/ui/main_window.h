@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QTabWidget>
+#include <array>
+
+#include "binder.h"
+#include "table_view.h"
+
+namespace swiftroll::ui {
+
+/// The main window: layout and pictures over the controls of `frmMain`.
+class MainWindow : public QMainWindow {
+  public:
+    explicit MainWindow(Presenter& presenter);
+
+    TableView& ViewOf(const Table& table) const { return *views_.at(&table); }
+    QTabWidget& Tabs() const { return *tabs_; }
+    /// Gives the window the size below which it never falls: to be called once its controls have their texts.
+    void TakeDesignSize();
+    /// Brings status panels, progress and wait cursor up to date.
+    void ShowStatus();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    void BuildMenuBar();
+    QWidget* BuildTabs();
+    QWidget* BuildFavorites();
+    QWidget* TablePage(std::initializer_list<Table*> tables);
+    void BuildStatusBar();
+    void Refresh();
+    void RefreshTab();
+    void OnTabChosen(int index);
+
+    Presenter& presenter_;
+    frmMain& main_;
+    Binder binder_;
+    QTabWidget* tabs_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    std::array<QLabel*, 4> panels_{};
+    std::unordered_map<const Table*, TableView*> views_;
+    std::vector<std::pair<QAction*, Command*>> menuActions_;
+    bool hasWaitCursor_ = false;
+};
+
+}  // namespace swiftroll::ui

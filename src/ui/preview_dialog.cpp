@@ -1,0 +1,205 @@
+#include "preview_dialog.h"
+
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QSvgGenerator>
+#include <QVBoxLayout>
+
+#include "help_topics.h"
+#include "layout.h"
+#include "preview_canvas.h"
+#include "qt_text.h"
+
+namespace swiftroll::ui {
+namespace {
+
+constexpr qreal kTwipsPerInch = 1440;
+constexpr QMarginsF kMargins(8, 8, 8, 8);  // millimetres
+
+}  // namespace
+
+PreviewDialog::PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWidget* owner)
+    : SecondaryDialog(presenter, presenter.Main().frmPreview, owner),
+      presenter_(presenter),
+      form_(presenter.Main().frmPreview),
+      drawing_(drawing),
+      binder_(presenter, form_),
+      layout_(QPageSize(QPageSize::A4), QPageLayout::Landscape, kMargins, QPageLayout::Millimeter) {
+    setObjectName(QStringLiteral("frmPreview"));
+    setSizeGripEnabled(true);
+    helpTopic = Topic::Preview;
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kSpacing);
+    column->addWidget(BuildTools());
+    canvas_ = new PreviewCanvas;
+    canvas_->OnZoom = [this](int direction) {
+        presenter_.Act([&] { (direction > 0 ? form_.Command1 : form_.cmdZoomMinus).Click(); });
+    };
+    column->addWidget(canvas_, 1);
+    BindCommands();
+    form_.Place.resizable = true;
+    resize(900, 640);
+    setMinimumSize(640, 420);
+    sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, false);
+    presenter_.OnRefresh([this] { Refresh(); });
+}
+
+QWidget* PreviewDialog::BuildTools() {
+    auto* widget = new QWidget;
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kSpacing);
+    auto* zoom = new QComboBox;
+    binder_.Bind(*zoom, form_.cboZoom, QStringLiteral("Zoom"));
+    row->addWidget(NewToolButton(binder_, form_.cmdZoomMinus, QStringLiteral("Zoom arrière"),
+                                 QStringLiteral("zoom-out")));
+    row->addWidget(zoom);
+    row->addWidget(
+        NewToolButton(binder_, form_.Command1, QStringLiteral("Zoom avant"), QStringLiteral("zoom-in")));
+    row->addSpacing(2 * kSpacing);
+    row->addWidget(NewToolButton(binder_, form_.cmdPreviousPage, QStringLiteral("Page précédente"),
+                                 QStringLiteral("previous")));
+    auto* label = new QLabel;
+    binder_.Bind(*label, form_.Label1);
+    row->addWidget(label);
+    row->addWidget(NewTextBox(binder_, form_.txtPageNr, 4, QStringLiteral("Numéro de la page")));
+    auto* count = new QLabel;
+    binder_.Bind(*count, form_.lblPageOn);
+    row->addWidget(count);
+    row->addWidget(
+        NewToolButton(binder_, form_.cmdNextPage, QStringLiteral("Page suivante"), QStringLiteral("next")));
+    row->addSpacing(2 * kSpacing);
+    row->addWidget(NewCheckBox(binder_, form_.chkFitToPage));
+    row->addStretch(1);
+    for (Command* command : {&form_.cmdSetup, &form_.cmdExport, &form_.cmdPrint, &form_.cmdClose}) {
+        row->addWidget(NewButton(binder_, *command));
+    }
+    return widget;
+}
+
+void PreviewDialog::BindCommands() {
+    drawing_.OnOpen = [this] {
+        const bool landscape = drawing_.Sheet().width() > drawing_.Sheet().height();
+        layout_.setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        form_.Show();
+    };
+    drawing_.OnClose = [this] { LayOut(); };
+    form_.chkFitToPage.OnClick = [this] { LayOut(); };
+    form_.cmdPrint.Operation = [this] { Print(); };
+    form_.cmdSetup.Operation = [this] { SetUp(); };
+    form_.cmdExport.Operation = [this] { Export(); };
+    form_.cmdHelp.Operation = [this] { presenter_.Main().LaunchHTMLHelp(helpTopic); };
+}
+
+void PreviewDialog::LayOut() {
+    sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, form_.chkFitToPage.Checked());
+    form_.SetPageCount(sheets_->Count());
+}
+
+void PreviewDialog::Refresh() {
+    if (isVisible()) canvas_->Show(*sheets_, form_.Page() - 1, form_.Zoom());
+}
+
+void PreviewDialog::resizeEvent(QResizeEvent* event) {
+    SecondaryDialog::resizeEvent(event);
+    Refresh();
+}
+
+/// Prints the sheets from `first` to `last`, numbered from 1.
+void PreviewDialog::PrintOn(QPagedPaintDevice& device, int first, int last) {
+    QPainter painter(&device);
+    const qreal scale = painter.device()->logicalDpiX() / kTwipsPerInch;
+    for (int sheet = first; sheet <= last && painter.isActive(); ++sheet) {
+        if (sheet != first) device.newPage();
+        painter.save();
+        painter.scale(scale, scale);
+        sheets_->Paint(painter, sheet - 1);
+        painter.restore();
+    }
+}
+
+void PreviewDialog::Print() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageLayout(layout_);
+    printer.setFullPage(true);
+    printer.setDocName(drawing_.Title());
+    QPrintDialog dialog(&printer, this);
+    dialog.setMinMax(1, sheets_->Count());
+    if (dialog.exec() != QDialog::Accepted) return;
+    const bool all = printer.fromPage() == 0;
+    PrintOn(printer, all ? 1 : printer.fromPage(),
+            all ? sheets_->Count() : std::min(printer.toPage(), sheets_->Count()));
+}
+
+void PreviewDialog::SetUp() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageLayout(layout_);
+    QPageSetupDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    layout_ = printer.pageLayout();
+    LayOut();
+}
+
+void PreviewDialog::Export() {
+    const QString pdf = QStringLiteral("PDF (*.pdf)"), svg = QStringLiteral("SVG (*.svg)");
+    QString filter = pdf;
+    QString name = drawing_.Title();
+    for (const char c : {'"', '/', '\\', ':', '*', '?', '|', '<', '>'})
+        name.replace(QLatin1Char(c), QLatin1Char(' '));
+    const QString folder = EditableToQt(presenter_.Main().sUserMyDocuments);
+    QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Exporter le dessin"),
+                                                folder + QLatin1Char('/') + name + QStringLiteral(".pdf"),
+                                                pdf + QStringLiteral(";;") + svg, &filter);
+    if (file.isEmpty()) return;
+    const bool isSvg = file.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
+    if (isSvg ? WriteSvg(file) : WritePdf(file)) {
+        presenter_.Main().pnlMessage.Set(FromQt(file + QStringLiteral(" : Terminé")));
+    } else {
+        presenter_.Main().Box(
+            " - Export",
+            FromQt(QStringLiteral("Le fichier n'a pas pu être écrit : vérifiez le dossier, vos "
+                                  "droits et la place libre.\r\n") +
+                   file),
+            BoxButtons::Ok, BoxIcon::Exclamation);
+    }
+}
+
+bool PreviewDialog::WritePdf(const QString& file) {
+    QFile target(file);
+    if (!target.open(QIODevice::WriteOnly)) return false;
+    {
+        QPdfWriter writer(&target);
+        QPageLayout layout = layout_;
+        layout.setMode(QPageLayout::FullPageMode);
+        writer.setPageLayout(layout);
+        writer.setTitle(drawing_.Title());
+        writer.setCreator(ToQt(presenter_.Main().MainCaption()));
+        PrintOn(writer, 1, sheets_->Count());
+    }
+    return target.flush() && target.error() == QFileDevice::NoError;
+}
+
+bool PreviewDialog::WriteSvg(const QString& file) {
+    QFile target(file);
+    if (!target.open(QIODevice::WriteOnly)) return false;
+    {
+        QSvgGenerator generator;
+        generator.setOutputDevice(&target);
+        generator.setTitle(drawing_.Title());
+        generator.setResolution(static_cast<int>(kTwipsPerInch));
+        const QSizeF extent = drawing_.Extent() + QSizeF(150, 150);
+        generator.setSize(extent.toSize());
+        generator.setViewBox(QRectF(QPointF(), extent));
+        QPainter painter(&generator);
+        drawing_.Paint(painter, QRectF(QPointF(), extent));
+    }
+    return target.flush() && target.error() == QFileDevice::NoError;
+}
+
+}  // namespace swiftroll::ui

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPrinter>
+#include <memory>
+
+#include "binder.h"
+#include "drawing_recorder.h"
+#include "preview_sheets.h"
+#include "secondary_dialog.h"
+
+namespace swiftroll::ui {
+
+class PreviewCanvas;
+class QtDialogs;
+
+/// The drawings as they will be printed.
+class PreviewDialog : public SecondaryDialog {
+  public:
+    PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWidget* owner);
+
+    /// Writes all sheets into a PDF file, or the whole drawing into an SVG file; false when it fails.
+    bool WritePdf(const QString& file);
+    bool WriteSvg(const QString& file);
+    const PreviewSheets& Sheets() const { return *sheets_; }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    QWidget* BuildTools();
+    void BindCommands();
+    void LayOut();
+    void Refresh();
+    void PrintOn(QPagedPaintDevice& device, int first, int last);
+    void Print();
+    void SetUp();
+    void Export();
+
+    Presenter& presenter_;
+    frmPreview& form_;
+    DrawingRecorder& drawing_;
+    Binder binder_;
+    QPageLayout layout_;
+    std::unique_ptr<PreviewSheets> sheets_;
+    PreviewCanvas* canvas_ = nullptr;
+    bool isFitted_ = false;
+};
+
+}  // namespace swiftroll::ui

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPageLayout>
+
+#include "drawing_recorder.h"
+
+namespace swiftroll::ui {
+
+/// The sheets that a drawing takes: beside and below each other on as many as it needs, or made smaller to
+/// fit one.
+class PreviewSheets {
+  public:
+    /// Lays the drawing out on sheets of this layout.
+    PreviewSheets(const DrawingRecorder& drawing, const QPageLayout& layout, bool fitToOne);
+
+    int Count() const { return static_cast<int>(parts_.size()); }
+    /// Size of a sheet in twips.
+    QSizeF Sheet() const { return sheet_; }
+    /// Paints the sheet `index` from 0; the painter counts in twips of paper.
+    void Paint(QPainter& painter, int index) const;
+
+  private:
+    const DrawingRecorder& drawing_;
+    QSizeF sheet_;
+    QRectF printable_;
+    qreal scale_ = 1;
+    std::vector<QRectF> parts_;  // of the drawing, by sheet
+};
+
+}  // namespace swiftroll::ui

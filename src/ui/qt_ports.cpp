@@ -1,0 +1,240 @@
+#include "qt_ports.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QCursor>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QLocale>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+#include "colours.h"
+#include "help_topics.h"
+#include "qt_text.h"
+#include "text/numbers.h"
+
+namespace swiftroll::ui {
+namespace {
+
+constexpr int kPumpMilliseconds = 16;
+/// The clock is only looked at every so many calls: a unit of work takes about a microsecond.
+constexpr int kCallsPerLook = 64;
+constexpr int kShowMilliseconds = 50;
+
+QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
+    switch (buttons) {
+        case BoxButtons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case BoxButtons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case BoxButtons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::Exclamation:
+            return QMessageBox::Warning;
+        case BoxIcon::Question:
+            return QMessageBox::Question;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+/// What a box answers when it cannot be shown, or was closed.
+BoxAnswer CancelOf(BoxButtons buttons) {
+    switch (buttons) {
+        case BoxButtons::Ok:
+            return BoxAnswer::Ok;
+        case BoxButtons::YesNo:
+            return BoxAnswer::No;
+        default:
+            return BoxAnswer::Cancel;
+    }
+}
+
+/// "Gedcom (*.ged)|*.ged|Tous (*.*)|*.*" as the toolkit writes filters.
+QStringList FiltersOf(TextView filter) {
+    const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts[i].left(parts[i].indexOf(QStringLiteral(" (")));
+        const QString pattern = parts[i + 1] == QStringLiteral("*.*") ? QStringLiteral("*") : parts[i + 1];
+        filters << name + QStringLiteral(" (") + pattern + QLatin1Char(')');
+    }
+    return filters;
+}
+
+}  // namespace
+
+void QtDialogs::Attach(Presenter& presenter, QWidget& owner) {
+    presenter_ = &presenter;
+    owner_ = &owner;
+}
+
+QWidget* QtDialogs::Owner() const {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : owner_;
+}
+
+BoxAnswer QtDialogs::Show(const MessageBox& box) {
+    if (IsEnding()) return CancelOf(box.buttons);
+    presenter_->Refresh();
+    QMessageBox dialog(IconOf(box.icon), ToQt(box.title), ToQt(box.text), ButtonsOf(box.buttons), Owner());
+    dialog.setObjectName(QStringLiteral("box"));
+    dialog.setTextFormat(Qt::PlainText);
+    dialog.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int answer = dialog.exec();
+    QApplication::restoreOverrideCursor();
+    switch (answer) {
+        case QMessageBox::Yes:
+            return BoxAnswer::Yes;
+        case QMessageBox::No:
+            return BoxAnswer::No;
+        case QMessageBox::Ok:
+            return BoxAnswer::Ok;
+        default:
+            return CancelOf(box.buttons);
+    }
+}
+
+void QtDialogs::ShowModal(Window& window) {
+    const auto show = dialogs_.find(&window);
+    if (IsEnding() || show == dialogs_.end()) return window.Hide();
+    presenter_->Refresh();
+    show->second();
+}
+
+bool QtDialogs::AskFile(const FileRequest& request, Text& chosen) {
+    if (IsEnding()) return false;
+    presenter_->Refresh();
+    QFileDialog dialog(Owner(), ToQt(request.title));
+    dialog.setObjectName(QStringLiteral("fileDialog"));
+    dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    // The question of the overwriting is asked by the program.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix(ToQt(request.extension));
+    dialog.setNameFilters(FiltersOf(request.filter));
+    const QString name = EditableToQt(request.fileName);
+    const QFileInfo file(name);
+    if (!file.path().isEmpty()) dialog.setDirectory(file.path());
+    if (!file.fileName().contains(QLatin1Char('*'))) dialog.selectFile(file.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+    chosen = FromQt(dialog.selectedFiles().first());
+    return true;
+}
+
+bool QtDialogs::AskColour(std::uint32_t& colour) {
+    if (IsEnding()) return false;
+    const QColor chosen = QColorDialog::getColor(ColourOf(colour), Owner());
+    if (chosen.isValid()) colour = ColourFrom(chosen);
+    return chosen.isValid();
+}
+
+bool QtDialogs::AskFont(CellFont& font) {
+    if (IsEnding()) return false;
+    const QLocale french(QLocale::French);
+    QFont present(ToQt(font.name));
+    const double size = french.toDouble(ToQt(font.size));
+    if (size > 0) present.setPointSizeF(size);
+    present.setBold(font.bold);
+    present.setItalic(font.italic);
+    present.setStrikeOut(font.strikethrough);
+    present.setUnderline(font.underline);
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, present, Owner());
+    if (!accepted) return false;
+    font.name = FromQt(chosen.family());
+    font.size = FromQt(french.toString(chosen.pointSizeF(), 'g', 4));
+    font.bold = chosen.bold();
+    font.italic = chosen.italic();
+    font.strikethrough = chosen.strikeOut();
+    font.underline = chosen.underline();
+    return true;
+}
+
+void QtDialogs::PopUp(const Menu& menu) {
+    if (IsEnding()) return;
+    presenter_->Refresh();
+    QMenu popup(Owner());
+    popup.setObjectName(QStringLiteral("contextMenu"));
+    // The command runs after the menu is gone and before the core goes on.
+    Command* chosen = nullptr;
+    FillMenu(popup, menu, [&](Command& command) { chosen = &command; });
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    popup.exec(QCursor::pos());
+    QApplication::restoreOverrideCursor();
+    if (chosen != nullptr && !IsEnding()) chosen->Click();
+}
+
+void QtPump::Yield() {
+    if (presenter_ == nullptr) return;
+    if (presenter_->Main().bEnded) throw ProgramEnd{};
+    if (++calls_ % kCallsPerLook != 0) return;
+    if (sincePump_.isValid() && sincePump_.elapsed() < kPumpMilliseconds) return;
+    presenter_->Refresh();
+    QApplication::processEvents();
+    sincePump_.start();
+    if (presenter_->Main().bEnded) throw ProgramEnd{};
+}
+
+void QtPump::YieldFor(int milliseconds, const bool& stop) {
+    if (presenter_ == nullptr) return;
+    constexpr int kGlanceMilliseconds = 10;
+    QElapsedTimer watch;
+    watch.start();
+    do {
+        presenter_->Refresh();
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, kGlanceMilliseconds);
+        if (presenter_->Main().bEnded) throw ProgramEnd{};
+    } while (!stop && watch.elapsed() < milliseconds);
+}
+
+void QtStatus::StatusChanged() {
+    if (!show_ || (sinceShow_.isValid() && sinceShow_.elapsed() < kShowMilliseconds)) return;
+    show_();
+    presenter_->Breathe();
+    sinceShow_.start();
+}
+
+void QtDesktop::SetText(TextView text) { QApplication::clipboard()->setText(ToQt(text)); }
+
+bool QtDesktop::IsShiftDown() { return (QApplication::keyboardModifiers() & Qt::ShiftModifier) != 0; }
+
+Desktop::OpenResult QtDesktop::Open(TextView file, int&) {
+    const QFileInfo info(EditableToQt(file));
+    if (!info.exists()) return OpenResult::FileNotFound;
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(info.absoluteFilePath())) ? OpenResult::Opened
+                                                                                   : OpenResult::NoProgram;
+}
+
+/// Desktops let the user choose a program in the file manager.
+void QtDesktop::ChooseProgram(TextView file) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(EditableToQt(file)).absolutePath()));
+}
+
+void QtDesktop::OpenHelp(TextView file, int topic) {
+    const QString manual = EditableToQt(file);
+    const QString folder = QFileInfo(manual).absolutePath();
+    const QString page = topic > 0 ? PageOfTopic(folder, topic) : QString();
+    QUrl url = QUrl::fromLocalFile(
+        page.isEmpty() ? manual : folder + QLatin1Char('/') + page.section(QLatin1Char('#'), 0, 0));
+    if (page.contains(QLatin1Char('#'))) url.setFragment(page.section(QLatin1Char('#'), 1));
+    QDesktopServices::openUrl(url);
+}
+
+void QtDesktop::OpenAddress(TextView address) { QDesktopServices::openUrl(QUrl(ToQt(address))); }
+
+}  // namespace swiftroll::ui

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QAbstractItemView>
+#include <QHeaderView>
+
+#include "presenter.h"
+#include "table_model.h"
+
+namespace swiftroll::ui {
+
+/// Shows a table: rows of one height with a tick, highlighted when they are selected. Both marks stand in the
+/// table itself, so a million rows cost no memory here and any number of them may be marked.
+class TableView : public QAbstractItemView {
+  public:
+    TableView(Presenter& presenter, Table& table, QWidget* parent = nullptr);
+
+    Table& Data() const { return model_.Data(); }
+    QHeaderView& Header() const { return *header_; }
+    /// What is told in place of the rows while there are none.
+    void SetHint(const QString& hint) { hint_ = hint; }
+    /// Height of a row in pixels.
+    int RowHeight() const;
+    /// The row at a point of the viewport, -1 for none.
+    int RowAt(const QPoint& point) const;
+    /// Tells the core which cell stands at a point of the viewport.
+    void HitTest(const QPoint& point);
+
+    QRect visualRect(const QModelIndex& index) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    QModelIndex indexAt(const QPoint& point) const override;
+
+  protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    int horizontalOffset() const override;
+    int verticalOffset() const override;
+    bool isIndexHidden(const QModelIndex& index) const override;
+    void setSelection(const QRect&, QItemSelectionModel::SelectionFlags) override {}
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&, const QEvent*) const override {
+        return QItemSelectionModel::NoUpdate;
+    }
+    QRegion visualRegionForSelection(const QItemSelection&) const override { return {}; }
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+  private:
+    void BindHeader();
+    void Refresh();
+    void PlaceHeader();
+    void PaintRow(QPainter& painter, const Row& row, int y, bool isAlternate, bool isCurrent) const;
+    void PaintHint(QPainter& painter) const;
+    QRect TickRect(int row) const;
+    int LastRowInView() const;
+
+    void SetCurrent(int row);
+    int CurrentRow() const;
+    void Select(int row, Qt::KeyboardModifiers modifiers);
+    void SelectOnly(int first, int last);
+    void ToggleTick(int row);
+    void MoveTo(int row, Qt::KeyboardModifiers modifiers);
+    bool OnListKey(const QKeyEvent& event);
+    void StartDrag();
+
+    Presenter& presenter_;
+    TableModel model_;
+    QHeaderView* header_;
+    QString hint_;
+    QPoint pressedAt_;
+    int pressedRow_ = -1;  // of a left press that may become a drag
+    bool selectsOnRelease_ = false;
+    int anchor_ = 0;
+    bool isShowingColumns_ = false;
+};
+
+}  // namespace swiftroll::ui

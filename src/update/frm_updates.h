@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/application.h"
+#include "update/ini_file.h"
+#include "update/update_tree.h"
+
+namespace swiftroll {
+
+/// A label that opens an address.
+struct DownloadLabel : Command {
+    using Command::Command;
+    /// The address; empty when there is nothing to download.
+    Text Tag;
+};
+
+/// The window of the versions, without a screen: fetches the list of them and tells what is new.
+class frmUpdates : public Window {
+  public:
+    explicit frmUpdates(Application& app);
+
+    UpdateTree tvwUpdates;
+    DownloadLabel lblDownloadBeta, lblDownloadLastFull, lblDownloadLastUpd;
+    /// Whether the wait pointer stands over this window.
+    bool bWaitCursor = false;
+    /// Ends the waits of the blinking: any key or a press of the mouse sets it.
+    bool bStopBlink = false;
+    /// For the presentation, which draws the title of the window in the other state.
+    std::function<void(bool inverted)> OnInvertCaption;
+
+    /// Looks whether there is a newer version. With `bSilent` nothing is shown unless there is one.
+    /// @throws Failure for a list with a version that is none, or with a section named twice
+    void GetUpdates(bool bSilent);
+
+  private:
+    bool DownloadFile(TextView sUrl, TextView sLocal);
+    std::vector<Text> GetKeyValues(TextView sSection, TextView sKey);
+    void ShowVersions(const std::vector<Text>& asVers);
+    void AddVersion(TextView sSection);
+    void AddComments(UpdateNode& node, TextView sSection, bool bold);
+    void FillLabels();
+    static void Fill(DownloadLabel& label, TextView sTag, TextView sCaption, TextView sNothing);
+    void BlinkWindow(int iCount, int iMilliseconds);
+
+    Application& app_;
+    cIniFile ini_;
+    // The highest version of the check that runs.
+    Text sBestVers, sBestFile, sBestSize, sBestFileUpd, sBestSizeUpd;
+};
+
+}  // namespace swiftroll

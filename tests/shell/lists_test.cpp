@@ -1,0 +1,199 @@
+// The commands on the marks of a table, copies and drags, jumps, and the tabs.
+#include "shell/lists_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+TEST_F(Lists, TheNextMarkedRowIsShownAndTheSortEnds) {
+    std::vector<std::int32_t> seen;
+    main.lvwIn.OnEnsureVisible = [&](const Row& row) { seen.push_back(row.Index()); };
+    Mark(main.lvwIn, "c.cs.");
+    Point(main.lvwIn, -1, -1);
+    main.lvwIn.SortBy(0, 0);
+    for (int i = 0; i < 5; ++i) main.mnuNextSelected.Click();
+    EXPECT_EQ(seen, (std::vector<std::int32_t>{1, 3, 4}));
+    EXPECT_EQ(Marks(main.lvwIn), "b.bs.");
+    EXPECT_EQ(main.lHitRow, 3);
+    EXPECT_FALSE(main.lvwIn.Sorted());
+}
+
+TEST_F(Lists, CopiesTheMarkedRows) {
+    for (Column& column : main.lvwIn.Columns()) {
+        if (column.Index > In::BirthPlace || column.Index == In::ID) column.Icon = "OfNo";
+    }
+    main.lvwIn.MoveColumn(In::FirstName, 1);
+    Point(main.lvwIn, 0, 0);
+    main.mnuCopy.Click();
+    EXPECT_EQ(desktop.clipboard, "Prénom\tNom\tNaiss.Lieu\r\n"_t) << "nothing is marked";
+    Mark(main.lvwIn, "s..c.");
+    main.mnuCopy.Click();
+    EXPECT_EQ(desktop.clipboard,
+              "Prénom\tNom\tNaiss.Lieu\r\nJean-Pierre\tDupont\tParis\r\nAnne\tDupont\tPARIS\r\n"_t);
+    main.optTabSpace.SetIndex(1);
+    main.chkIncludeHeaders.SetChecked(false);
+    main.mnuCopy.Click();
+    EXPECT_EQ(desktop.clipboard, "Jean-Pierre Dupont  Paris      \r\nAnne        Dupont  PARIS      \r\n");
+    EXPECT_EQ(main.DragText(), ReplaceAll(desktop.clipboard, "\r\n", "\r"));
+    // A table that has no lines, and none at all.
+    desktop.clipboard = "before";
+    Point(main.lvwXref1, 0, 0);
+    main.mnuSelectAll.Click();
+    main.mnuCopy.Click();
+    ASSERT_EQ(dialogs.boxes.size(), 1u);
+    EXPECT_TRUE(dialogs.boxes[0].text.starts_with("'Y a comme un problème (lvwXref1)"_t));
+    main.lvwActiveListView = nullptr;
+    main.mnuCopy.Click();
+    EXPECT_EQ(main.DragText(), "");
+    EXPECT_EQ(desktop.clipboard, "before");
+}
+
+TEST_F(Lists, ColumnsAreSwitchedAndResetTogether) {
+    const auto icons = [](const Table& table) {
+        Text letters;
+        for (const Column& column : table.Columns()) letters += column.Icon.substr(0, 2);
+        return letters;
+    };
+    Table& family = main.lvwFamilyXref;
+    Point(family, 0, 0);
+    family.ColumnAt(2).Width = 1;
+    main.mnuResetCol.Click();
+    EXPECT_EQ(family.ColumnAt(2).Width, 2540);
+    main.mnuColUnselect.Click();
+    EXPECT_EQ(icons(family), "OfOfOfOfOfOf");
+    ASSERT_EQ(dialogs.boxes.size(), 1u);
+    EXPECT_EQ(dialogs.boxes[0].title, "SwiftRoll (v3.4.0) - Sélection Colonnes"_t);
+    // Shift and a click switches one.
+    desktop.shiftIsDown = true;
+    main.lvw_ColumnClick(family, family.ColumnAt(3));
+    EXPECT_EQ(icons(family), "OfOfOnOfOfOf");
+    main.mnuColSelect.Click();
+    EXPECT_EQ(icons(family), "OnOnOnOnOnOn");
+    EXPECT_EQ(dialogs.boxes.size(), 1u);
+    desktop.shiftIsDown = false;
+    family.SetSorted(false);
+    main.lvw_ColumnClick(family, family.ColumnAt(3));
+    EXPECT_EQ(family.ColumnAt(3).Icon, "OnDw");
+    Point(main.lvwOut, 0, 0);
+    const Text before = icons(main.lvwOut);
+    main.mnuColUnselect.Click();
+    EXPECT_EQ(icons(main.lvwOut), before);
+}
+
+TEST_F(Lists, AJumpGoesToWhatTheCellNames) {
+    const struct {
+        Table& table;
+        TextView targets;  // a character a column: the digit of an individual, "F" the family, "." none
+    } cases[] = {{main.lvwFamily, ".12.....12."}, {main.lvwFamilyXref, "F.1.F1"},
+                 {main.lvwXref, "1.212FF"},       {main.lvwXref1, "....."},
+                 {main.lvwKinship, ".333FF.."},   {main.lvwIn, "................."}};
+    for (const auto& c : cases) {
+        for (std::size_t column = 0; column < c.targets.size(); ++column) {
+            for (Table* table : main.Shown())
+                Mark(*table, Text(static_cast<std::size_t>(table->Count()), '.'));
+            main.SSTab1 = Tab::Options;
+            Point(c.table, 0, static_cast<std::int32_t>(column));
+            const char target = c.targets[column];
+            // Links are sorted or not; the first one that leads from the father to the mother is meant.
+            if (&c.table == &main.lvwXref)
+                main.HitTest(main.lvwXref.Item("@I1@@I2@").Index() - 1, main.lHitCol);
+            main.lvw_DblClick(c.table);
+            Text marked = Marks(main.lvwIn) + Marks(main.lvwFamily);
+            Text expected(6, '.');
+            if (target != '.') expected[target == 'F' ? 5u : static_cast<std::size_t>(target - '1')] = 'b';
+            EXPECT_EQ(marked, expected) << c.table.Name() << column;
+            EXPECT_EQ(main.SSTab1, target == '.' ? Tab::Options : target == 'F' ? Tab::Family : Tab::In);
+            EXPECT_EQ(main.lvwActiveListView, target == '.'   ? &c.table
+                                              : target == 'F' ? &main.lvwFamily
+                                                              : &main.lvwIn);
+        }
+    }
+    // A cell that names nobody changes only the mark of the row that was current.
+    Mark(main.lvwIn, "b..b.");
+    main.lvwIn.SetCurrent(main.lvwIn.Item(4));
+    main.SSTab1 = Tab::Family;
+    main.lvwFamily.Item(1).SetCell(Family::IDHusb, TextView());
+    Point(main.lvwFamily, 0, Family::IDHusb - 1);
+    main.lvw_DblClick(main.lvwFamily);
+    EXPECT_EQ(Marks(main.lvwIn), "b..c.");
+    EXPECT_EQ(main.SSTab1, Tab::Family);
+    main.bFamiliesRead = false;
+    main.HitTest(0, Family::IDWife - 1);
+    main.lvw_DblClick(main.lvwFamily);
+    main.HitTest(99, Family::IDWife - 1);
+    main.bFamiliesRead = true;
+    main.lvw_DblClick(main.lvwFamily);
+    EXPECT_EQ(Marks(main.lvwIn), "b..c.");
+    EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(Lists, ADoubleClickInTheListMarksTheGroups) {
+    ASSERT_EQ(RowsOf(main.lvwOut).size(), 3u);
+    Mark(main.lvwOut, "c.s");
+    Point(main.lvwOut, 1, 0);
+    main.lvw_DblClick(main.lvwOut);
+    EXPECT_EQ(Marks(main.lvwIn), "bbbb.");
+    EXPECT_EQ(main.lvwActiveListView, &main.lvwOut);
+    Mark(main.lvwIn, ".....");
+    Point(main.lvwOut, 1, -1);
+    main.lvw_DblClick(main.lvwOut);
+    EXPECT_EQ(Marks(main.lvwIn), ".....");
+}
+
+TEST_F(Lists, ADoubleClickOnATabGathersItsMarkedRows) {
+    CellLook look;
+    look.Icon = "icon";
+    main.lvwIn.SortBy(0, 0);
+    main.lvwIn.Item(3).SetLook(2, look);
+    const Text tag(main.lvwIn.Item("@I3@").Tag());
+    Mark(main.lvwIn, "..c.s");
+    std::vector<Text> seen;
+    main.lvwIn.OnEnsureVisible = [&](const Row& row) { seen.push_back(row.Key()); };
+    main.SSTab1 = Tab::In;
+    main.SSTab1_DblClick();
+    EXPECT_EQ(Keys(main.lvwIn), "@I3@@I5@@I1@@I2@@I4@");
+    EXPECT_EQ(Marks(main.lvwIn), "cs...");
+    const Row moved = main.lvwIn.Item("@I3@");
+    EXPECT_EQ(moved.Index(), 1);
+    EXPECT_EQ(moved.Tag(), tag);
+    EXPECT_EQ(moved.Look(2), look);
+    EXPECT_EQ(seen.back(), "@I5@");
+    EXPECT_EQ(main.lvwIn.ColumnAt(1).Icon, "OnNo");
+    EXPECT_EQ(main.pnlMessage.Get(), "2 \"Entrée(s)\" sélectionnée(s) sur 5"_t);
+    // Tabs of options have no rows.
+    main.ShowTab(Tab::Options);
+    main.lvwIn.Item(4).SetChecked(true);
+    main.SSTab1_DblClick();
+    EXPECT_EQ(Keys(main.lvwIn), "@I3@@I5@@I1@@I2@@I4@");
+    EXPECT_EQ(main.pnlMessage.Get(), "2 \"Entrée(s)\" sélectionnée(s) sur 5"_t);
+    dialogs.onMenu = [](const Menu&) { FAIL() << "no table is there"; };
+    main.SSTab1_RightClick();
+}
+
+TEST_F(Lists, ATabGivesTheFocusToWhatItIsFor) {
+    const std::pair<Tab, Table*> tables[] = {
+        {Tab::In, &main.lvwIn},     {Tab::Out, &main.lvwOut},       {Tab::FamilyXref, &main.lvwFamilyXref},
+        {Tab::Xref, &main.lvwXref}, {Tab::Family, &main.lvwFamily}, {Tab::Kinship, &main.lvwKinship}};
+    const std::pair<Tab, Control*> options[] = {{Tab::FormatOptions, &main.lbOuputPlacesOrder},
+                                                {Tab::LinkOptions, &main.txtKinHeight},
+                                                {Tab::Options, &main.chkIgnoreCase}};
+    for (const auto& [tab, table] : tables) {
+        main.ShowTab(tab);
+        EXPECT_EQ(main.lvwActiveListView, table);
+        EXPECT_TRUE(main.mnuCopy.Enabled && main.ActiveControl() == nullptr);
+        for (const auto& [optionTab, control] : options) {
+            main.ShowTab(optionTab);
+            EXPECT_EQ(main.SSTab1, optionTab);
+            EXPECT_EQ(main.ActiveControl(), control);
+            EXPECT_EQ(main.lvwActiveListView, table);
+            EXPECT_FALSE(main.mnuCopy.Enabled);
+        }
+        main.SetFocus(main.txtMaxLinks);
+        main.txtMaxLinks.SetText("0");
+    }
+    EXPECT_EQ(main.txtMaxLinks.Get(), "0");
+    main.TableGotFocus(main.lvwXref1);
+    EXPECT_EQ(main.txtMaxLinks.Get(), "1") << "it lost the focus";
+}
+
+}  // namespace
+}  // namespace swiftroll::test

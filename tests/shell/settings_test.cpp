@@ -1,0 +1,271 @@
+// What outlives a run: all options, histories, columns and places of windows.
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <filesystem>
+
+#include "platform/settings_store.h"
+#include "support/test_ports.h"
+#include "text/literal.h"
+
+namespace swiftroll::test {
+namespace {
+
+using Texts = std::vector<Text>;
+using Values = std::map<Text, Text, std::less<>>;
+
+/// Runs of the application, one after the other, on the same settings.
+struct OneRun : TestPorts {
+    explicit OneRun(SettingsStore& store)
+        : main({dialogs, clock, events, files, folders, status, machine, desktop, desktop, desktop, store,
+                preview, desktop, desktop}) {}
+    void Start() {
+        // What a check at the start finds, where it is switched on.
+        files.contents["/data/SwiftRoll/Updates.ini"] = "[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=3.4.0\n";
+        main.Form_Load({});
+    }
+    frmMain main;
+};
+
+struct SavedSettings : testing::Test {
+    MemorySettings store;
+    Values& Section(TextView name) { return store.sections[Text(name)]; }
+    /// A run that starts with the settings, for what it holds then.
+    void Start(const std::function<void(OneRun&)>& look) {
+        OneRun run(store);
+        run.Start();
+        look(run);
+    }
+};
+
+/// Gives every control a value that depends on its name, other than its default.
+void ChangeEverything(frmMain& main) {
+    for (Control* control : main.Controls()) {
+        if (auto* box = dynamic_cast<CheckBox*>(control)) box->SetChecked(!box->Checked());
+        if (auto* box = dynamic_cast<TextBox*>(control)) box->SetText(box->Name() + Text("\\é"_t));
+        if (auto* group = dynamic_cast<OptionGroup*>(control)) group->SetIndex(group->Index() == 0 ? 1 : 0);
+        auto* combo = dynamic_cast<ComboBox*>(control);
+        if (combo != nullptr && !combo->IsSelector()) {
+            combo->SetItems({combo->Name() + " 1", combo->Name() + " 2"});
+            combo->SetListIndex(0);
+        }
+    }
+    main.cboLoad.SetListIndex(1);
+    main.txtFont.SetText("Times|12|1|0|0|0|255");
+    main.lbOuputPlacesOrder.Move(2, 0);
+    std::int16_t width = 0;
+    for (Table* table : main.All()) {
+        table->MoveColumn(table->ColumnCount(), 1);
+        for (Column& column : table->Columns()) column.Width = ++width;
+        table->ColumnAt(2).Icon = "OfUp";
+    }
+    main.Place = {30, 40, 1200, 900, true, true};
+}
+
+Text Described(const frmMain& main, const Control& control) {
+    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return box->Checked() ? "1" : "0";
+    if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Get();
+    if (const auto* group = dynamic_cast<const OptionGroup*>(&control)) return std::to_string(group->Index());
+    if (const auto* list = dynamic_cast<const OrderedList*>(&control)) {
+        Text items;
+        for (const auto& item : list->Items()) items += std::to_string(item.value) + item.text;
+        return items;
+    }
+    const auto* combo = dynamic_cast<const ComboBox*>(&control);
+    // A start chooses the widest drawing, whatever was chosen before.
+    if (combo == nullptr || combo == &main.cboDrawKinship) return {};
+    Text items = combo->Get();
+    for (const Text& item : combo->Items()) items += "|" + item;
+    return items;
+}
+
+Values Everything(frmMain& main) {
+    Values values;
+    for (const Control* control : main.Controls()) values[control->Name()] = Described(main, *control);
+    for (Table* table : main.All()) {
+        for (const Column& column : table->Columns()) {
+            values[table->Name() + "/" + column.Key] =
+                std::to_string(column.Position) + "/" + std::to_string(column.Width) + "/" + column.Icon;
+        }
+    }
+    const WindowPlace& place = main.Place;
+    for (const int side : {place.top, place.left, place.width, place.height}) {
+        values["place"] += std::to_string(side) + " ";
+    }
+    values["captions"] = main.cmdLoad.Caption + main.cmdSaveSwift.Caption + main.lblFont.Caption;
+    return values;
+}
+
+void SaveAndCompare(const std::function<std::shared_ptr<SettingsStore>()>& open) {
+    Values before;
+    for (int generation = 0; generation < 3; ++generation) {
+        const auto store = open();
+        OneRun run(*store);
+        run.Start();
+        if (generation == 0) {
+            ChangeEverything(run.main);
+            before = Everything(run.main);
+        } else {
+            for (const auto& [name, value] : Everything(run.main)) EXPECT_EQ(value, before[name]) << name;
+        }
+        run.main.SaveAllControls();
+        EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
+        EXPECT_EQ(store->GetSetting("Product", run.main.sVersion, ""), std::to_string(generation + 1));
+        EXPECT_EQ(store->GetSetting("Product", "LastRun", ""), "22/11/2026 14:05:09");
+    }
+}
+
+TEST_F(SavedSettings, EverythingComesBack) {
+    SaveAndCompare([&] { return std::shared_ptr<SettingsStore>(&store, [](SettingsStore*) {}); });
+}
+
+TEST_F(SavedSettings, EverythingComesBackFromTheDisk) {
+    char name[] = "/tmp/settings-XXXXXX";
+    const std::filesystem::path folder = mkdtemp(name);
+    SaveAndCompare([&] { return std::make_shared<platform::SettingsFile>(folder.string()); });
+    std::filesystem::remove_all(folder);
+}
+
+TEST_F(SavedSettings, StandUnderTheNamesOfTheirControls) {
+    Start([&](OneRun& run) {
+        run.main.chkTips.SetChecked(false);
+        run.main.txtOutExtension[2].SetText("x");
+        run.main.cboGedIn.SetItems({"a", "  ", "b"});
+        run.main.cboFavorites[5].SetItems({"k^"});
+        run.main.lvwOut.ColumnAt(3).Key.clear();
+        run.main.frmKinshipSelect.chkInverted.SetChecked(true);
+        run.main.Place = {-32000, 7, 0, 800, true, true};
+        Section("Settings\\frmMain\\cboGedIn") = {{"002", "old"}, {"004", "old"}, {"010", "unknown"}};
+        run.main.SaveAllControls();
+    });
+    const TextView array = "°"_t;
+    EXPECT_EQ(Section("Settings\\frmMain\\chkTips"), (Values{{"CheckOrOptionBox", "0"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\txtOutExtension" + Text(array) + "2"), (Values{{"TextBox", "x"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\optTabSpace" + Text(array) + "0"),
+              (Values{{"CheckOrOptionBox", "True"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\optTabSpace" + Text(array) + "1"),
+              (Values{{"CheckOrOptionBox", "False"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\cboFavorites" + Text(array) + "5"), (Values{{"000", "k^"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\cboGedIn"),
+              (Values{{"000", "a"}, {"001", "b"}, {"010", "unknown"}}));
+    EXPECT_EQ(
+        Section("Settings\\frmMain\\lbOuputPlacesOrder"),
+        (Values{{"001 Naissance", "1"}, {Text("002 Décès"_t), "2"}, {"003 Mariage, Divorce,...", "3"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\lvwOut\\Position")["*3"], "3");
+    EXPECT_EQ(Section("Settings\\frmMain\\lvwXref1\\Icon").size(), 5u);
+    EXPECT_EQ(Section("Settings\\frmKinshipSelect\\chkInverted"), (Values{{"CheckOrOptionBox", "1"}}));
+    // In twips; what a minimised window tells is not kept.
+    EXPECT_EQ(Section("Settings\\frmMain"),
+              (Values{{"WinTop", "0"}, {"WinLeft", "105"}, {"WinWidth", "200"}, {"WinHeight", "12000"}}));
+    for (const TextView none : {"cmdColorMale", "lblFont", "cmdLoad"}) {
+        EXPECT_EQ(store.sections.count("Settings\\frmMain\\" + Text(none)), 0u) << none;
+    }
+}
+
+TEST_F(SavedSettings, PlacesOfWindowsAreMadeUsable) {
+    Section("Settings\\frmMain") = {
+        {"WinTop", "-450"}, {"WinLeft", "300"}, {"WinWidth", "900"}, {"Other", "x"}};
+    Section("Settings\\frmKinshipSelect") = {{"WinWidth", "9000"}};
+    OneRun run(store);
+    run.main.frmKinshipSelect.Place.resizable = false;
+    run.main.frmKinshipSelect.Place.width = 500;
+    run.Start();
+    EXPECT_EQ(run.main.Place.top, 0);
+    EXPECT_EQ(run.main.Place.left, 20);
+    EXPECT_EQ(run.main.Place.width, 1000 / 15);
+    EXPECT_TRUE(run.main.Place.known);
+    EXPECT_EQ(run.main.frmKinshipSelect.Place.width, 500);
+    EXPECT_FALSE(run.main.frmKinshipSelect.Place.known);
+}
+
+TEST_F(SavedSettings, HistoriesWithoutAFirstItemAreLeftOut) {
+    Section("Settings\\frmMain\\cboGedIn") = {{"000", " "}, {"001", "a"}};
+    // A gap, a number beyond the list, and a key that is no number.
+    Section("Settings\\frmMain\\cboGedOut") = {{"000", "a"}, {"002", "c"}, {"009", "x"}, {"b", "y"}};
+    Start([](OneRun& run) {
+        EXPECT_EQ(run.main.cboGedIn.Get(), "/docs/.ged");
+        EXPECT_EQ(run.main.cboGedOut.Items(), (Texts{"a", "c"}));
+        EXPECT_EQ(run.main.cboGedOut.ListIndex(), 0);
+        EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
+    });
+}
+
+TEST_F(SavedSettings, AnOrderOfOtherItemsIsDropped) {
+    const Text section = "Settings\\frmMain\\lbOuputPlacesOrder";
+    const Values orders[] = {
+        {{"001 Naissance", "2"}, {Text("002 Décès"_t), "1"}},
+        {{"001 Naissance", "1"}, {Text("002 Décès"_t), "2"}, {"003 Mariage", "3"}},
+        {{"001 Naissance", "1"}, {Text("002 Décès"_t), "1"}, {"003 Mariage, Divorce,...", "3"}},
+        {{"001 Naissance", "1"}, {Text("002 Décès"_t), "3"}, {"009 Mariage, Divorce,...", "2"}},
+        {{"001 Naissance", "1"}, {Text("002 Décès"_t), "2"}, {"003 Mariage, Divorce,...", "4"}},
+    };
+    for (const Values& order : orders) {
+        Section(section) = order;
+        Section(section + "s") = order;
+        Start([&](OneRun& run) {
+            const auto& items = run.main.lbOuputPlacesOrder.Items();
+            ASSERT_EQ(items.size(), 3u);
+            EXPECT_EQ(items[0].text, "Naissance");
+            EXPECT_EQ(items[1].value, 2);
+            EXPECT_EQ(store.sections.count(section), 0u);
+            EXPECT_EQ(store.sections.count(section + "s"), 1u);
+            // Only a place that the list does not have is a failure.
+            EXPECT_EQ(run.dialogs.boxes.size(), &order == &orders[4] ? 1u : 0u);
+        });
+    }
+}
+
+TEST_F(SavedSettings, ColumnsThatAreNotKnownAreSkipped) {
+    const Text section = "Settings\\frmMain\\lvwXref1";
+    Section(section + "\\Position") = {{"Family", "1"}, {"Gone", "2"}, {"*1", "3"}, {"*99", "4"}};
+    Section(section + "\\Width") = {{"Type", "wide"}, {"*3", "77"}, {"Gone", "5"}, {"Indi1", "-4"}};
+    Section(section + "\\Icon") = {{"Type", "OfDw"}, {"Indi2", "x"}};
+    Start([](OneRun& run) {
+        Text columns;
+        for (const Column& column : run.main.lvwXref1.Columns()) {
+            columns += column.Key + std::to_string(column.Position) + "/" + std::to_string(column.Width) +
+                       column.Icon + " ";
+        }
+        EXPECT_EQ(columns,
+                  "Indi13/2540OnNo Type2/2540OfDw Indi24/77OnNo IDFamily5/2540OnNo Family1/2540OnNo ");
+        EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
+    });
+}
+
+TEST_F(SavedSettings, AValueThatMeansNothingEndsTheRestoreAndNotTheStart) {
+    Section("Settings\\frmMain\\chkTips") = {{"CheckOrOptionBox", "perhaps"}};
+    Section("Settings\\frmMain\\chkInvertNames") = {{"CheckOrOptionBox", "1"}};
+    store.notice = "Le fichier des paramètres était endommagé."_t;
+    Start([&](OneRun& run) {
+        ASSERT_EQ(run.dialogs.boxes.size(), 1u);
+        EXPECT_TRUE(run.dialogs.boxes[0].text.ends_with("|Load/Settings\\frmMain\\chkTips|"));
+        EXPECT_TRUE(run.main.chkInvertNames.Checked());
+        EXPECT_FALSE(run.main.bFormLoading);
+        EXPECT_EQ(run.main.cboGedIn.Get(), "/docs/.ged");
+        EXPECT_EQ(run.main.pnlMessage.Get(), store.notice);
+    });
+}
+
+TEST_F(SavedSettings, ASaveThatFailsLeavesTheFormerOnesWhole) {
+    Start([](OneRun& run) { run.main.SaveAllControls(); });
+    const auto before = store.sections;
+    Start([&](OneRun& run) {
+        ChangeEverything(run.main);
+        // In the count of the saves, in a control, and in the columns of a table.
+        for (const int room : {1, 40, 200}) {
+            run.dialogs.boxes.clear();
+            store.room = room;
+            run.main.SaveAllControls();
+            EXPECT_EQ(store.sections, before) << room;
+            ASSERT_FALSE(run.dialogs.boxes.empty());
+            EXPECT_NE(run.dialogs.boxes.back().text.find("|Forms=frmMain/sName="), Text::npos);
+            EXPECT_LE(run.dialogs.boxes.size(), 2u);
+        }
+        store.room = -1;
+        run.main.SaveAllControls();
+        EXPECT_NE(store.sections, before);
+    });
+}
+
+}  // namespace
+}  // namespace swiftroll::test

@@ -1,0 +1,79 @@
+// The list of versions over a real connection.
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTreeWidget>
+
+#include "window_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+/// Answers every request with the same bytes, and then closes the connection or leaves it waiting.
+class Server : public QTcpServer {
+  public:
+    Server(QByteArray answer, bool closes) {
+        listen(QHostAddress::LocalHost);
+        QObject::connect(this, &QTcpServer::newConnection, [this, answer, closes] {
+            QTcpSocket* socket = nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::readyRead, [socket, answer, closes] {
+                socket->readAll();
+                socket->write(answer);
+                if (closes) socket->disconnectFromHost();
+            });
+        });
+    }
+    Text Address() const { return "http://127.0.0.1:" + std::to_string(serverPort()) + "/Updates.ini"; }
+};
+
+QByteArray Answer(const QByteArray& content, const QByteArray& status = "200 OK", qsizetype length = -1) {
+    return "HTTP/1.1 " + status + "\r\nConnection: close\r\nContent-Length: " +
+           QByteArray::number(length < 0 ? content.size() : length) + "\r\n\r\n" + content;
+}
+
+class Download : public WindowTest {
+  protected:
+    void Fetch(const Server& server) {
+        program_->ThePresenter().Act(
+            [&] { Main().ports.network.Download(server.Address(), ui::FromQt(Local())); });
+    }
+    QString Local() const { return Path(QStringLiteral("Updates.ini")); }
+    QByteArray Content() const {
+        QFile file(Local());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    }
+};
+
+TEST_F(Download, OnlyAWholeAnswerTakesThePlaceOfTheFormerCopy) {
+    Start();
+    const QByteArray list = "[-SwiftRoll]\r\nVERS_00=a\r\n";
+    Fetch(Server(Answer(list), true));
+    EXPECT_EQ(Content(), list);
+    Fetch(Server(Answer("not found", "404 Not Found"), true));
+    EXPECT_EQ(Content(), list) << "missing";
+    Fetch(Server(Answer("[cut", "200 OK", 1000), true));
+    EXPECT_EQ(Content(), list) << "cut off";
+    Fetch(Server(Answer(QByteArray(20 << 20, 'x')), true));
+    EXPECT_EQ(Content(), list) << "huge";
+    Fetch(Server("no HTTP at all\r\n\r\n", true));
+    EXPECT_EQ(Content(), list) << "garbage";
+}
+
+TEST_F(Download, EscapeEndsTheWaitForASlowServer) {
+    Start();
+    QTimer::singleShot(100, &Window(), [this] { QTest::keyClick(&Window(), Qt::Key_Escape); });
+    QElapsedTimer watch;
+    watch.start();
+    Fetch(Server("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nslow", false));
+    EXPECT_LT(watch.elapsed(), 5000);
+    EXPECT_EQ(Content(), "none");
+}
+
+TEST_F(Download, TheEndOfTheProgramEndsTheWait) {
+    Start();
+    QTimer::singleShot(100, &Window(), [this] { Click("cmdExit"); });
+    Fetch(Server("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nslow", false));
+    EXPECT_TRUE(Main().bEnded);
+}
+
+}  // namespace
+}  // namespace swiftroll::test

@@ -1,0 +1,117 @@
+// What users do from the first start to the files that they wanted.
+#include <QClipboard>
+#include <QFile>
+#include <QFileDialog>
+#include <QMenu>
+#include <QPushButton>
+
+#include "support/test_ports.h"
+#include "tables/column_numbers.h"
+#include "window_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+class Journey : public WindowTest {};
+
+QByteArray Content(const QString& file) {
+    QFile content(file);
+    return content.open(QIODevice::ReadOnly) ? content.readAll() : QByteArray();
+}
+
+/// Chooses a file in the file dialog that stands there.
+void ChooseFile(QWidget& dialog, const QString& file) {
+    auto* chooser = qobject_cast<QFileDialog*>(&dialog);
+    ASSERT_NE(chooser, nullptr) << dialog.metaObject()->className() << dialog.windowTitle().toStdString();
+    chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
+    QMetaObject::invokeMethod(chooser, "accept");
+}
+
+TEST_F(Journey, ANewcomerReadsAFileMovesAColumnAndWritesTheList) {
+    Start();
+    const QString file = Write(QStringLiteral("arbre.ged"), kFamily);
+    OnDialog([&](QWidget& dialog) { ChooseFile(dialog, file); });
+    Click("cmdSelectDirGedIn");
+    EXPECT_EQ(Find<QComboBox>("cboGedIn").currentText(), file);
+    OnBox(QMessageBox::Yes);  // the list is computed with it
+    Click("cmdLoad");
+    EXPECT_EQ(Window().Tabs().currentIndex(), 1);
+    EXPECT_EQ(Main().lvwOut.Count(), 5) << "one group for each identifier";
+    EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QString());
+
+    // Two columns to the left of the count give surnames and places alone.
+    QHeaderView& header = View(Main().lvwOut).Header();
+    header.moveSection(header.visualIndex(Out::ID - 1), header.count() - 1);
+    EXPECT_EQ(Main().lvwOut.ColumnAt(Out::ID).Position, Main().lvwOut.ColumnCount());
+    header.moveSection(header.visualIndex(Out::Place - 1), 0);
+    Click("cmdCalcOutput");
+    EXPECT_EQ(RowsOf(Main().lvwOut).size(), 3u);
+
+    // HTML, where the program begins with text.
+    ShowTab(6);
+    QTest::mouseClick(&Find<QRadioButton>("optOutExtension(0)"), Qt::LeftButton);
+    EXPECT_EQ(Find<QPushButton>("cmdSaveSwift").text(), QStringLiteral("Ecrire en HTML"));
+    const QString list = Path(QStringLiteral("releve.html"));
+    OnBox(QMessageBox::Yes);  // all rows
+    OnDialog([&](QWidget& dialog) { ChooseFile(dialog, list); });
+    Click("cmdSaveSwift");
+    EXPECT_TRUE(Content(list).contains("Dupont")) << Content(list).left(300).toStdString();
+
+    // Once more over the same file: the question comes, and No leads back to the dialog.
+    OnBox(QMessageBox::Yes);
+    OnDialog([&](QWidget& dialog) { ChooseFile(dialog, list); });
+    OnBox(QMessageBox::No);
+    OnDialog([&](QWidget& dialog) { qobject_cast<QFileDialog*>(&dialog)->reject(); });
+    Click("cmdSaveSwift");
+    EXPECT_TRUE(boxes.last().contains(QStringLiteral("Voulez-vous l'écraser ?")))
+        << boxes.last().toStdString();
+}
+
+TEST_F(Journey, TwoMarkedRowsLeadToADrawing) {
+    Start();
+    Read(kFamily);
+    ShowTab(0);
+    QTest::mouseClick(View(Main().lvwIn).viewport(), Qt::LeftButton, {}, CellAt(Main().lvwIn, 0, 1));
+    QTest::mouseClick(View(Main().lvwIn).viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      CellAt(Main().lvwIn, 4, 1));
+    OnDialog([](QWidget& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("frmKinshipSelect"));
+        auto* first = dialog.findChild<QLineEdit*>(QStringLiteral("txtKinshipSelection(2)"));
+        EXPECT_TRUE(first->text().startsWith(QStringLiteral("@I1@"))) << first->text().toStdString();
+        QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("cmdOK")), Qt::LeftButton);
+    });
+    Click("cmdFindPath");
+    EXPECT_EQ(Window().Tabs().currentIndex(), 5);
+    EXPECT_GT(Main().lvwKinship.Count(), 2);
+    EXPECT_EQ(View(Main().lvwKinship).model()->rowCount(), Main().lvwKinship.Count());
+    const QString page = Path(QStringLiteral("parente.html"));
+    OnBox(QMessageBox::Yes);  // sizes that differ from the gaps
+    OnDialog([&](QWidget& dialog) { ChooseFile(dialog, page); });
+    Click("cmdDrawKinship");
+    EXPECT_TRUE(Content(page).contains("DUPONT"));
+}
+
+TEST_F(Journey, AFileOfTheCommandLineIsNotReadYet) {
+    const QString file = Write(QStringLiteral("arbre.ged"), kFamily);
+    Start(QLatin1Char('"') + file + QLatin1Char('"'));
+    EXPECT_EQ(Find<QComboBox>("cboGedIn").currentText(), file);
+    EXPECT_EQ(Main().lvwIn.Count(), 0);
+}
+
+TEST_F(Journey, TheSameNameForTwoFilesIsRefusedOnLeavingIt) {
+    Start();
+    auto& input = Find<QComboBox>("cboGedIn");
+    auto& output = Find<QComboBox>("cboGedOut");
+    output.setFocus();
+    const QString former = output.currentText();
+    output.lineEdit()->selectAll();
+    QTest::keyClicks(output.lineEdit(), input.currentText());
+    OnBox(QMessageBox::Ok);
+    ShowTab(6);
+    Click("chkIncludeHeaders");
+    EXPECT_TRUE(boxes.value(0).contains(QStringLiteral("Vous allez écraser le fichier"))) << boxes.size();
+    EXPECT_EQ(output.currentText(), former);
+}
+
+}  // namespace
+}  // namespace swiftroll::test

@@ -1,0 +1,192 @@
+// The lists: context menu, marks, keys, columns and the search.
+#include <QClipboard>
+#include <QMenu>
+#include <QScrollBar>
+
+#include "support/test_ports.h"
+#include "tables/column_numbers.h"
+#include "window_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+class Lists : public WindowTest {
+  protected:
+    void StartWithFamily() {
+        Start();
+        Read(kFamily);
+    }
+    QWidget* Viewport(Table& table) { return View(table).viewport(); }
+
+    /// Opens the context menu over a cell; `inspect` gets it, and what it gives is chosen.
+    void RightClick(Table& table, int row, int column, std::function<QString(QMenu&)> inspect) {
+        OnDialog([inspect](QWidget& popup) {
+            auto* menu = qobject_cast<QMenu*>(&popup);
+            ASSERT_NE(menu, nullptr);
+            const QString chosen = inspect(*menu);
+            auto* action = menu->findChild<QAction*>(chosen);
+            menu->close();
+            if (action != nullptr) action->trigger();
+        });
+        QTest::mouseClick(Viewport(table), Qt::RightButton, {}, CellAt(table, row, column));
+        QTest::qWait(50);
+    }
+    static QStringList EnabledEntries(QMenu& menu) {
+        QStringList names;
+        for (const QAction* action : menu.findChildren<QAction*>()) {
+            const QString name = action->objectName();
+            const bool depends = name.startsWith(QStringLiteral("mnuAdd")) ||
+                                 name == QStringLiteral("mnuFindPath") ||
+                                 name == QStringLiteral("mnuColSelect");
+            if (depends && action->isEnabled()) names << name;
+        }
+        names.removeAll(QStringLiteral("mnuAdd"));
+        names.sort();
+        return names;
+    }
+};
+
+TEST_F(Lists, TheContextMenuOffersWhatTheCellOfEachTableCanDo) {
+    StartWithFamily();
+    Click("cmdCalcOutput");
+    const QString values = QStringLiteral("mnuAddValue(0),mnuAddValue(1),mnuAddValue(2)");
+    const QString person =
+        QStringLiteral("mnuAddChildren,mnuAddFavorite,mnuAddIndi,mnuAddParents,mnuAddSpouses,") + values;
+    const QString family = QStringLiteral("mnuAddChildren,mnuAddFavorite,mnuAddSpouses,") + values;
+    const struct {
+        Table& table;
+        int tab, column;
+        QString entries;
+    } cases[] = {{Main().lvwIn, 0, In::LastName - 1, person + QStringLiteral(",mnuColSelect,mnuFindPath")},
+                 {Main().lvwOut, 1, Out::ID - 1, QStringLiteral("mnuAddFavorite,") + values},
+                 {Main().lvwFamilyXref, 2, FamilyXref::IDFam - 1, family + QStringLiteral(",mnuColSelect")},
+                 {Main().lvwFamilyXref, 2, FamilyXref::Indi - 1, person + QStringLiteral(",mnuColSelect")},
+                 {Main().lvwXref, 3, Xref::Indi2 - 1, person + QStringLiteral(",mnuColSelect")},
+                 {Main().lvwXref, 3, Xref::Family - 1, family + QStringLiteral(",mnuColSelect")},
+                 {Main().lvwFamily, 4, Family::Wife - 1, person + QStringLiteral(",mnuColSelect")}};
+    for (const auto& c : cases) {
+        ShowTab(c.tab);
+        View(c.table).horizontalScrollBar()->setValue(View(c.table).Header().sectionPosition(c.column));
+        RightClick(c.table, 0, c.column, [&](QMenu& menu) {
+            EXPECT_EQ(EnabledEntries(menu).join(QLatin1Char(',')).toStdString(), c.entries.toStdString())
+                << c.table.Name() << " column " << c.column;
+            EXPECT_TRUE(c.table.Item(1).Selected()) << "marked for the time of the menu";
+            return QString();
+        });
+        EXPECT_FALSE(c.table.Item(1).Selected()) << "dismissed, in " << c.table.Name();
+    }
+}
+
+TEST_F(Lists, AChosenEntryWorksOnTheClickedCell) {
+    StartWithFamily();
+    ShowTab(0);
+    const auto row = Main().lvwIn.Item("@I5@").Index() - 1;
+    RightClick(Main().lvwIn, row, In::LastName - 1, [](QMenu&) { return QStringLiteral("mnuAddParents"); });
+    EXPECT_TRUE(Main().lvwIn.Item("@I3@").Checked());
+    EXPECT_TRUE(Main().lvwIn.Item("@I4@").Checked());
+    EXPECT_FALSE(Main().lvwIn.Item("@I1@").Checked());
+}
+
+TEST_F(Lists, MouseAndKeysMarkRowsAsListsDo) {
+    StartWithFamily();
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    const auto selected = [&] {
+        QString rows;
+        for (int i = 1; i <= table.Count(); ++i) rows += QLatin1Char(table.Item(i).Selected() ? 'x' : '.');
+        return rows.toStdString();
+    };
+    const auto click = [&](int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::mouseClick(Viewport(table), Qt::LeftButton, modifiers, CellAt(table, row, In::FirstName - 1));
+    };
+    click(1);
+    EXPECT_EQ(selected(), ".x...");
+    click(3, Qt::ShiftModifier);
+    EXPECT_EQ(selected(), ".xxx.");
+    click(4, Qt::ControlModifier);
+    EXPECT_EQ(selected(), ".xxxx");
+    QTest::keyClick(&View(table), Qt::Key_Home);
+    EXPECT_EQ(selected(), "x....");
+    QTest::keyClick(&View(table), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(selected(), "xx...");
+    QTest::keyClick(&View(table), Qt::Key_Space);
+    EXPECT_TRUE(table.Item(2).Checked());
+    EXPECT_FALSE(table.Item(1).Checked());
+    // The tick stands at the left of the first column.
+    QTest::mouseClick(Viewport(table), Qt::LeftButton, {}, QPoint(8, CellAt(table, 4, 0).y()));
+    EXPECT_TRUE(table.Item(5).Checked());
+    EXPECT_EQ(selected(), "xx...") << "a tick leaves the highlight";
+    QTest::keyClick(&View(table), Qt::Key_A, Qt::ControlModifier);
+    QTest::qWait(20);
+    EXPECT_EQ(selected(), "xxxxx");
+    QTest::keyClick(&View(table), Qt::Key_C, Qt::ControlModifier);
+    QTest::qWait(20);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith(QStringLiteral("ID\tNom\tPrénom\t")))
+        << QApplication::clipboard()->text().left(80).toStdString();
+    EXPECT_EQ(QApplication::clipboard()->text().count(QLatin1Char('\n')), 6);
+}
+
+TEST_F(Lists, AHeaderSortsAndItsBorderIsTheWidth) {
+    StartWithFamily();
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    QHeaderView& header = View(table).Header();
+    const auto clickHeader = [&](int column) {
+        const QPoint point(header.sectionViewportPosition(column) + header.sectionSize(column) / 2,
+                           header.height() / 2);
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, point);
+    };
+    clickHeader(In::FirstName - 1);
+    EXPECT_EQ(table.Item(1).Cell(In::FirstName), "Anne");
+    EXPECT_EQ(table.ColumnAt(In::FirstName).Icon, "OnDw");
+    clickHeader(In::FirstName - 1);
+    EXPECT_EQ(table.Item(1).Cell(In::FirstName), "Paul");
+    header.resizeSection(In::FirstName - 1, 192);
+    EXPECT_EQ(table.ColumnAt(In::FirstName).Width, 5080);
+}
+
+TEST_F(Lists, ADoubleClickJumpsAndTheTabGathersTheMarkedRows) {
+    StartWithFamily();
+    ShowTab(4);
+    QTest::mouseDClick(Viewport(Main().lvwFamily), Qt::LeftButton, {},
+                       CellAt(Main().lvwFamily, 1, Family::IDWife - 1));
+    EXPECT_EQ(Window().Tabs().currentIndex(), 0);
+    EXPECT_TRUE(Main().lvwIn.Item("@I4@").Checked());
+    const QPoint tab = Window().Tabs().tabBar()->tabRect(0).center();
+    QTest::mouseDClick(Window().Tabs().tabBar(), Qt::LeftButton, {}, tab);
+    EXPECT_EQ(Main().lvwIn.Item(1).Text(), "@I4@");
+    EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QStringLiteral("1 \"Entrée(s)\" sélectionnée(s) sur 5"));
+}
+
+TEST_F(Lists, TheSearchGoesFromMatchToMatch) {
+    StartWithFamily();
+    ShowTab(0);
+    QTest::mouseClick(Viewport(Main().lvwIn), Qt::LeftButton, {}, CellAt(Main().lvwIn, 0, In::LastName - 1));
+    Main().HitTest(0, In::LastName - 1);
+    program_->ThePresenter().Act([this] { Main().mnuFind.Click(); });
+    auto* dialog = Window().findChild<QDialog*>(QStringLiteral("frmFind"));
+    ASSERT_TRUE(dialog->isVisible());
+    auto* text = dialog->findChild<QComboBox*>(QStringLiteral("cboTextToFind(0)"));
+    EXPECT_EQ(text->currentText(), QStringLiteral("Dupont"));
+    dialog->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    QTest::qWait(20);
+    auto* column = dialog->findChild<QComboBox*>(QStringLiteral("cboColumns(0)"));
+    column->setCurrentIndex(In::LastName - 1);
+    Q_EMIT column->activated(In::LastName - 1);
+    text->lineEdit()->selectAll();
+    QTest::keyClicks(text->lineEdit(), QStringLiteral("dup"));
+    auto* find = dialog->findChild<QWidget*>(QStringLiteral("cmdFind"));
+    auto* next = dialog->findChild<QWidget*>(QStringLiteral("cmdFindNext"));
+    QTest::mouseClick(find, Qt::LeftButton);
+    QTest::mouseClick(next, Qt::LeftButton);
+    EXPECT_TRUE(Main().lvwIn.Item("@I3@").Selected());
+    QTest::mouseClick(next, Qt::LeftButton);
+    QTest::mouseClick(next, Qt::LeftButton);
+    EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QStringLiteral("Non trouvé !"));
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+}  // namespace
+}  // namespace swiftroll::test
