@@ -54,6 +54,7 @@ TEST(Startup, AFailureEndsTheApplicationAfterItsReport) {
         Text Models() override { throw Failure(FailureKind::FileAccess); }
     } folders;
     TestPorts t;
+    t.files.contents["/program/help/index.html"] = "";
     frmMain main({t.dialogs, t.clock, t.events, t.files, folders, t.status, t.machine, t.desktop, t.desktop,
                   t.desktop, t.settings, t.preview, t.desktop, t.desktop});
     EXPECT_THROW(main.Form_Load({}), ProgramEnd);
