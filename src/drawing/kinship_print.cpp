@@ -58,20 +58,26 @@ void KinshipPrint::DrawEdges(const Frame& frame, Edges edges) {
 
 void KinshipPrint::WriteBox(const Frame& frame, std::uint32_t colour, TextView sText) {
     DrawingDevice& device = app_.ports.preview;
-    const std::int64_t width = frame.right - frame.left;
-    device.FillRectangle(frame.left, frame.top, width, frame.bottom - frame.top, colour);
+    const std::int64_t width = frame.right - frame.left, height = frame.bottom - frame.top;
+    device.FillRectangle(frame.left, frame.top, width, height, colour);
     DrawEdges(frame, {true, true, true, true});
     const Text text =
         ReplaceAll(ReplaceAll(sText, "<p class=Right style=\"text-align: right\">", "<RIGHT>"), "</p>", "");
-    CellFont font = font_;
-    std::int64_t y = frame.top;
+    const std::int64_t lineBreak = ParseDecimal(font_.size).value_or(0);
+    std::vector<PrintedText> texts(1);
     for (const modPreview::TextPiece& piece : modPreview::SplitTags(text)) {
-        font.bold = piece.bold;
-        font.underline = piece.underline;
-        font.italic = piece.italic;
-        if (piece.afterBreak) y += ParseDecimal(font.size).value_or(0);
-        if (!piece.text.empty()) y += device.PrintLine(frame.left, y, width, piece.text, font);
+        PrintedText& next = texts.back();
+        if (piece.afterBreak) next.gap += lineBreak;
+        if (piece.text.empty()) continue;
+        next.text = piece.text;
+        next.font = font_;
+        next.font.bold = piece.bold;
+        next.font.underline = piece.underline;
+        next.font.italic = piece.italic;
+        texts.emplace_back();
     }
+    texts.pop_back();
+    device.PrintTexts(frame.left, frame.top, width, height, texts);
 }
 
 void KinshipPrint::EndDrawing(std::int64_t lTop, std::int64_t) {

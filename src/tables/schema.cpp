@@ -9,7 +9,12 @@ struct ColumnText {
     TextView key;
     TextView caption;
     Alignment align = Alignment::Left;
+    std::int32_t width = Column().Width;
 };
+
+/// Widths, in hundredths of a millimetre, that show most texts of a kind whole at the first start.
+constexpr std::int32_t kSequenceWidth = 3200, kNameWidth = 3200, kPlaceWidth = 4200, kPersonWidth = 4200,
+                       kFamilyWidth = 6400;
 
 std::vector<Column> MakeColumns(std::initializer_list<ColumnText> texts) {
     std::vector<Column> columns;
@@ -19,6 +24,7 @@ std::vector<Column> MakeColumns(std::initializer_list<ColumnText> texts) {
         column.Key = text.key;
         column.Caption = text.caption;
         column.Align = text.align;
+        column.Width = text.width;
         columns.push_back(std::move(column));
     }
     return columns;
@@ -26,19 +32,19 @@ std::vector<Column> MakeColumns(std::initializer_list<ColumnText> texts) {
 
 std::vector<Column> InColumns() {
     return MakeColumns({{"ID", "ID"_t},
-                        {"LastName", "Nom"_t},
-                        {"FirstName", "Prénom"_t},
-                        {"BirthPlace", "Naiss.Lieu"_t},
+                        {"LastName", "Nom"_t, Alignment::Left, kNameWidth},
+                        {"FirstName", "Prénom"_t, Alignment::Left, kNameWidth},
+                        {"BirthPlace", "Naiss.Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"BirthMin", "Naiss.Min"_t},
                         {"BirthMax", "Naiss.Max"_t},
-                        {"DeathPlace", "Décès.Lieu"_t},
+                        {"DeathPlace", "Décès.Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"DeathMin", "Décès.Min"_t},
                         {"DeathMax", "Décès.Max"_t},
-                        {"Place", "Lieu"_t},
+                        {"Place", "Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"DateMin", "Date Min"_t},
                         {"DateMax", "Date Max"_t},
                         {"Sex", "Sexe"_t},
-                        {"MarrPlace", "Mar.Lieu"_t},
+                        {"MarrPlace", "Mar.Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"MarrMin", "Mar.Min"_t},
                         {"MarrMax", "Mar.Max"_t},
                         {"IslandNr", "N° d'îlot"_t}});
@@ -46,19 +52,19 @@ std::vector<Column> InColumns() {
 
 std::vector<Column> OutColumns() {
     return MakeColumns({{"ID", "ID"_t},
-                        {"LastName", "Nom"_t},
+                        {"LastName", "Nom"_t, Alignment::Left, kNameWidth},
                         {"Number", "Nbre"_t, Alignment::Right},
-                        {"Place", "Lieu"_t},
+                        {"Place", "Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"DateMin", "Date Min"_t},
                         {"DateMax", "Date Max"_t},
-                        {"FirstName", "Prénom"_t},
-                        {"BirthPlace", "Naiss.Lieu"_t},
+                        {"FirstName", "Prénom"_t, Alignment::Left, kNameWidth},
+                        {"BirthPlace", "Naiss.Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"BirthMin", "Naiss.Min"_t},
                         {"BirthMax", "Naiss.Max"_t},
-                        {"DeathPlace", "Décès.Lieu"_t},
+                        {"DeathPlace", "Décès.Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"DeathMin", "Décès.Min"_t},
                         {"DeathMax", "Décès.Max"_t},
-                        {"MarrPlace", "Mar. Lieu"_t},
+                        {"MarrPlace", "Mar. Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"MarrMin", "Mar.Min"_t},
                         {"MarrMax", "Mar.Max"_t},
                         {"Sex", "Sexe"_t},
@@ -69,10 +75,10 @@ std::vector<Column> XrefColumns() {
     return MakeColumns({{"IDIndi1", "ID Individu 1"_t},
                         {"Type", "Type"_t},
                         {"IDIndi2", "ID Individu 2"_t},
-                        {"Indi1", "Individu 1"_t},
-                        {"Indi2", "Individu 2"_t},
+                        {"Indi1", "Individu 1"_t, Alignment::Left, kPersonWidth},
+                        {"Indi2", "Individu 2"_t, Alignment::Left, kPersonWidth},
                         {"IDFamily", "ID Famille"_t},
-                        {"Family", "Famille"_t}});
+                        {"Family", "Famille"_t, Alignment::Left, kFamilyWidth}});
 }
 
 std::vector<Column> Xref1Columns() {
@@ -80,7 +86,7 @@ std::vector<Column> Xref1Columns() {
                         {"Type", "Type"_t},
                         {"Indi2", "Individu 2"_t},
                         {"IDFamily", "ID Famille"_t},
-                        {"Family", "Famille"_t}});
+                        {"Family", "Famille"_t, Alignment::Left, kFamilyWidth}});
 }
 
 std::vector<Column> FamilyColumns() {
@@ -88,12 +94,12 @@ std::vector<Column> FamilyColumns() {
                         {"IDHusb", "ID Epoux"_t},
                         {"IDWife", "ID Epouse"_t},
                         {"IDFams", "ID Conjoint"_t},
-                        {"MarrPlace", "Marr.Lieu"_t},
+                        {"MarrPlace", "Marr.Lieu"_t, Alignment::Left, kPlaceWidth},
                         {"MarrMin", "Marr.Min"_t},
                         {"MarrMax", "Marr.Max"_t},
-                        {"Fam", "Famille"_t},
-                        {"Husb", "Epoux"_t},
-                        {"Wife", "Epouse"_t},
+                        {"Fam", "Famille"_t, Alignment::Left, kFamilyWidth},
+                        {"Husb", "Epoux"_t, Alignment::Left, kPersonWidth},
+                        {"Wife", "Epouse"_t, Alignment::Left, kPersonWidth},
                         {"Fams", "Conjoint"_t}});
 }
 
@@ -102,17 +108,17 @@ std::vector<Column> FamilyXrefColumns() {
                         {"Type", "Type"_t},
                         {"IDIndi", "ID Individu"_t},
                         {"Sex", "Sexe"_t},
-                        {"Family", "Famille"_t},
-                        {"Indi", "Individu"_t}});
+                        {"Family", "Famille"_t, Alignment::Left, kFamilyWidth},
+                        {"Indi", "Individu"_t, Alignment::Left, kPersonWidth}});
 }
 
 std::vector<Column> KinshipColumns() {
-    return MakeColumns({{"SeqNr", "N° Séq"_t},
+    return MakeColumns({{"SeqNr", "N° Séq"_t, Alignment::Left, kSequenceWidth},
                         {"IDIndi", "ID Individu"_t},
-                        {"Indi", "Individu"_t},
+                        {"Indi", "Individu"_t, Alignment::Left, kPersonWidth},
                         {"Type", "Type"_t, Alignment::Centre},
                         {"IDFamily", "ID Famille"_t},
-                        {"Family", "Famille"_t},
+                        {"Family", "Famille"_t, Alignment::Left, kFamilyWidth},
                         {"NrSpouses", "Conjoints"_t, Alignment::Centre},
                         {"NrLink", "Liaisons"_t, Alignment::Centre}});
 }

@@ -13,6 +13,19 @@ constexpr qreal kTwipsPerPoint = 20;
 constexpr qreal kLineWidth = 15;    // a pixel of the screen
 constexpr qreal kTextMargin = 45;   // between the edge of a box and its text
 constexpr qreal kSmallestSize = 1;  // points
+constexpr qreal kSmallestScale = 0.5, kScaleStep = 0.1;
+
+/// The font at `scale` of its size, for a painter whose pixel is a twip.
+QFont FontOf(const CellFont& font, qreal scale) {
+    QFont shown(ToQt(font.name));
+    const qreal points = std::max(kSmallestSize, QLocale(QLocale::French).toDouble(ToQt(font.size)));
+    shown.setPixelSize(static_cast<int>(points * scale * kTwipsPerPoint));
+    shown.setBold(font.bold);
+    shown.setItalic(font.italic);
+    shown.setUnderline(font.underline);
+    shown.setStrikeOut(font.strikethrough);
+    return shown;
+}
 
 }  // namespace
 
@@ -44,22 +57,35 @@ void DrawingRecorder::DrawLine(std::int64_t x1, std::int64_t y1, std::int64_t x2
     Reach(std::max(place.x1(), place.x2()), std::max(place.y1(), place.y2()));
 }
 
-std::int64_t DrawingRecorder::PrintLine(std::int64_t x, std::int64_t y, std::int64_t width, TextView text,
-                                        const CellFont& font) {
-    QFont shown(ToQt(font.name));
-    // A pixel of the painter is a twip.
-    const qreal points = std::max(kSmallestSize, QLocale(QLocale::French).toDouble(ToQt(font.size)));
-    shown.setPixelSize(static_cast<int>(points * kTwipsPerPoint));
-    shown.setBold(font.bold);
-    shown.setItalic(font.italic);
-    shown.setUnderline(font.underline);
-    shown.setStrikeOut(font.strikethrough);
-    const QFontMetricsF metrics(shown);
-    const qreal room = static_cast<qreal>(width) - 2 * kTextMargin;
-    const QRectF place(static_cast<qreal>(x) + kTextMargin, static_cast<qreal>(y), room, metrics.height());
-    drawn_.push_back(
-        Words{place, metrics.elidedText(ToQt(text), Qt::ElideRight, room), shown, ColourOf(font.colour)});
-    return static_cast<std::int64_t>(metrics.height());
+void DrawingRecorder::PrintTexts(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height,
+                                 const std::vector<PrintedText>& texts) {
+    const QRectF room(static_cast<qreal>(left) + kTextMargin, static_cast<qreal>(top),
+                      static_cast<qreal>(width) - 2 * kTextMargin, static_cast<qreal>(height));
+    std::optional<std::vector<Words>> words;
+    for (qreal scale = 1; !words && scale > kSmallestScale; scale -= kScaleStep) {
+        words = Place(room, texts, scale, false);
+    }
+    if (!words) words = Place(room, texts, kSmallestScale, true);
+    drawn_.insert(drawn_.end(), words->begin(), words->end());
+}
+
+std::optional<std::vector<DrawingRecorder::Words>> DrawingRecorder::Place(
+    const QRectF& room, const std::vector<PrintedText>& texts, qreal scale, bool must) {
+    const int flags = Qt::AlignLeft | Qt::AlignTop | (must ? Qt::TextWrapAnywhere : Qt::TextWordWrap);
+    std::vector<Words> words;
+    qreal y = room.top();
+    for (const PrintedText& text : texts) {
+        y += static_cast<qreal>(text.gap);
+        const QFont font = FontOf(text.font, scale);
+        const QString shown = ToQt(text.text);
+        const QRectF below(room.left(), y, room.width(), room.bottom() - y);
+        const QRectF needed = QFontMetricsF(font).boundingRect(below, flags, shown);
+        if (!must && (needed.width() > below.width() || needed.bottom() > below.bottom())) return {};
+        if (below.height() <= 0) break;
+        words.push_back({below, shown, font, ColourOf(text.font.colour), flags});
+        y += needed.height();
+    }
+    return words;
 }
 
 void DrawingRecorder::EndDrawing(std::int64_t) {}
@@ -82,7 +108,7 @@ void DrawingRecorder::Paint(QPainter& painter, const QRectF& area) const {
         } else if (wider.intersects(item.place)) {
             painter.setPen(item.colour);
             painter.setFont(item.font);
-            painter.drawText(item.place, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, item.text);
+            painter.drawText(item.place, item.flags, item.text);
         }
     };
     for (const auto& item : drawn_) std::visit(paint, item);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <functional>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -17,8 +18,8 @@ class DrawingRecorder : public DrawingDevice {
                        std::uint32_t colour) override;
     void DrawLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2,
                   std::uint32_t colour) override;
-    std::int64_t PrintLine(std::int64_t x, std::int64_t y, std::int64_t width, TextView text,
-                           const CellFont& font) override;
+    void PrintTexts(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height,
+                    const std::vector<PrintedText>& texts) override;
     void EndDrawing(std::int64_t bottom) override;
     void Close() override;
 
@@ -46,7 +47,12 @@ class DrawingRecorder : public DrawingDevice {
         QString text;
         QFont font;
         QColor colour;
+        int flags;
     };
+    /// The texts as they stand in `room` at `scale` of their size; nothing when they go beyond it, unless
+    /// they `must` fit: long words are broken then, and what is below is cut.
+    static std::optional<std::vector<Words>> Place(const QRectF& room, const std::vector<PrintedText>& texts,
+                                                   qreal scale, bool must);
     void Reach(qreal right, qreal bottom);
 
     QString title_;

@@ -23,7 +23,6 @@ namespace {
 
 constexpr int kTableMargin = 8;
 constexpr int kFavoritesWidth = 170;
-constexpr int kPanelWidths[] = {180, 110, 100};
 constexpr QSize kDesignSize(960, 680);
 constexpr const char* kTabCaptions[] = {"Entrée",  "Sortie",      "Famille Xref", "Xref",   "Famille",
                                         "Parenté", "Opt. Format", "Opt. Liens",   "Options"};
@@ -140,6 +139,8 @@ QWidget* MainWindow::BuildTabs() {
         .SetHint(QStringLiteral("Sélectionnez ou cochez deux individus dans l'onglet « Entrée »,\n"
                                 "puis appuyez sur « Rech. Parenté »."));
     tabs_->setCornerWidget(BuildFavorites());
+    // All tabs are seen: where the letters are larger, the window is too.
+    tabs_->setUsesScrollButtons(false);
     connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::OnTabChosen);
     connect(tabs_, &QTabWidget::tabBarDoubleClicked, this,
             [this](int) { presenter_.Act([this] { main_.SSTab1_DblClick(); }); });
@@ -174,13 +175,10 @@ void MainWindow::BuildStatusBar() {
         panels_[i]->setTextFormat(Qt::PlainText);
         panels_[i]->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         const bool isMessage = i + 1 == panels_.size();
-        if (isMessage) {
-            // A long message is cut, it does not widen the window.
-            panels_[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        } else {
-            panels_[i]->setFixedWidth(kPanelWidths[i]);
-        }
+        // A long message is cut, it does not widen the window.
+        if (isMessage) panels_[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         statusBar()->addWidget(panels_[i], isMessage ? 1 : 0);
+        panels_[i]->setVisible(isMessage);
     }
     panels_.back()->setObjectName(QStringLiteral("pnlMessage"));
     panels_.back()->installEventFilter(this);
@@ -242,6 +240,10 @@ void MainWindow::ShowStatus() {
         if (panels_[i]->text() == text) continue;
         panels_[i]->setText(text);
         panels_[i]->setToolTip(text);
+        panels_[i]->show();
+        // A count that grows may widen its panel; one that shrinks does not make its neighbours jump.
+        if (panels_[i] != panels_.back())
+            panels_[i]->setMinimumWidth(std::max(panels_[i]->minimumWidth(), panels_[i]->sizeHint().width()));
     }
     progress_->setValue(static_cast<int>(main_.ProgressBar1.Value() * 10));
     if (hasWaitCursor_ == main_.bWaitCursor) return;

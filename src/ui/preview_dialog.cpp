@@ -44,8 +44,8 @@ PreviewDialog::PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWi
     column->addWidget(canvas_, 1);
     BindCommands();
     form_.Place.resizable = true;
-    resize(900, 640);
-    setMinimumSize(640, 420);
+    setMinimumSize(QSize(900, 640).expandedTo(minimumSizeHint()));
+    resize(minimumSize());
     sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, false);
     presenter_.OnRefresh([this] { Refresh(); });
 }

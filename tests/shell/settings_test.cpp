@@ -227,7 +227,7 @@ TEST_F(SavedSettings, ColumnsThatAreNotKnownAreSkipped) {
                        column.Icon + " ";
         }
         EXPECT_EQ(columns,
-                  "Indi13/2540OnNo Type2/2540OfDw Indi24/77OnNo IDFamily5/2540OnNo Family1/2540OnNo ");
+                  "Indi13/2540OnNo Type2/2540OfDw Indi24/77OnNo IDFamily5/2540OnNo Family1/6400OnNo ");
         EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
     });
 }
