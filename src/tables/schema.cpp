@@ -13,7 +13,7 @@ struct ColumnText {
 };
 
 /// Widths, in hundredths of a millimetre, that show most texts of a kind whole at the first start.
-constexpr std::int32_t kSequenceWidth = 3200, kNameWidth = 3200, kPlaceWidth = 4200, kPersonWidth = 4200,
+constexpr std::int32_t kSequenceWidth = 3700, kNameWidth = 3200, kPlaceWidth = 4200, kPersonWidth = 4200,
                        kFamilyWidth = 6400;
 
 std::vector<Column> MakeColumns(std::initializer_list<ColumnText> texts) {

@@ -14,5 +14,9 @@ inline std::uint32_t ColourFrom(const QColor& colour) {
     return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << 8 |
            static_cast<std::uint32_t>(colour.blue()) << 16;
 }
+/// The colour, lighter where the ground is dark.
+inline QColor LegibleOn(const QColor& ground, const QColor& colour) {
+    return ground.lightness() < 128 ? colour.lighter(150) : colour;
+}
 
 }  // namespace swiftroll::ui

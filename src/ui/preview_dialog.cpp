@@ -18,6 +18,7 @@ namespace swiftroll::ui {
 namespace {
 
 constexpr qreal kTwipsPerInch = 1440;
+constexpr int kZoomLength = 12;           // "Page entière"
 constexpr QMarginsF kMargins(8, 8, 8, 8);  // millimetres
 
 }  // namespace
@@ -44,6 +45,7 @@ PreviewDialog::PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWi
     column->addWidget(canvas_, 1);
     BindCommands();
     form_.Place.resizable = true;
+    presenter_.Refresh();  // the captions count
     setMinimumSize(QSize(900, 640).expandedTo(minimumSizeHint()));
     resize(minimumSize());
     sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, false);
@@ -56,6 +58,8 @@ QWidget* PreviewDialog::BuildTools() {
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kSpacing);
     auto* zoom = new QComboBox;
+    zoom->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    zoom->setMinimumContentsLength(kZoomLength);
     binder_.Bind(*zoom, form_.cboZoom, QStringLiteral("Zoom"));
     row->addWidget(NewToolButton(binder_, form_.cmdZoomMinus, QStringLiteral("Zoom arrière"),
                                  QStringLiteral("zoom-out")));

@@ -1,6 +1,8 @@
 #include "table_model.h"
 
+#include <QApplication>
 #include <QFont>
+#include <QPalette>
 
 #include "colours.h"
 #include "column_marks.h"
@@ -72,7 +74,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
             }
             const std::uint32_t colour = look.ForeColor != 0 ? look.ForeColor : whole.ForeColor;
             if (colour == 0) return {};
-            return ColourOf(colour);
+            return LegibleOn(QApplication::palette().color(QPalette::Base), ColourOf(colour));
         }
         default:
             return {};
