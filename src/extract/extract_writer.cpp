@@ -14,6 +14,14 @@ namespace {
 constexpr std::size_t kBufferSize = std::size_t{1} << 18;
 constexpr std::int64_t kLongestRun = std::int64_t{1} << 20;
 
+/// The tag of a member's line by the type of the membership; a type that only the individual told is a tag.
+TextView RoleOf(TextView type) {
+    if (type == "Fils" || type == "Fille" || type == "Enfant") return "CHIL";
+    if (type == "Epoux") return "HUSB";
+    if (type == "Epouse") return "WIFE";
+    return type;
+}
+
 }  // namespace
 
 ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& lines,
@@ -105,9 +113,10 @@ void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextVie
     ++families_;
     if (family.bFull) {
         const auto isMember = [&](TextView sId) {
-            return std::any_of(family.sIndis.begin(), family.sIndis.end(), [&](FamiliesToSave::Rank member) {
-                return store.Get(colFamToSave_.Individual(member)) == sId;
-            });
+            return std::any_of(family.sIndis.begin(), family.sIndis.end(),
+                               [&](const FamiliesToSave::Member& member) {
+                                   return store.Get(colFamToSave_.Individual(member.rank)) == sId;
+                               });
         };
         const TextView whole = records.substr(0, LengthOf(family.range));
         records.remove_prefix(whole.size());
@@ -117,20 +126,10 @@ void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextVie
         return;
     }
     Out(Concat({"0 ", store.Get(family.sFam), " FAM", kLineEnd}));
-    for (const FamiliesToSave::Rank member : family.sIndis) {
-        const TextRef sIndi = colFamToSave_.Individual(member);
-        Out(Concat({"1 ", RoleOf(family.sFam, sIndi), " ", store.Get(sIndi), kLineEnd}));
+    for (const auto& [rank, type] : family.sIndis) {
+        Out(Concat(
+            {"1 ", RoleOf(store.Get(type)), " ", store.Get(colFamToSave_.Individual(rank)), kLineEnd}));
     }
-}
-
-TextView ExtractWriter::RoleOf(TextRef sFam, TextRef sIndi) {
-    const auto member = app_.lvwFamilyXref.Find(RowKey(sFam, sIndi));
-    if (!member) throw Failure(FailureKind::KeyNotFound, app_.lvwFamily.Store().Get(sIndi));
-    const TextView type = member->Cell(FamilyXref::Type);
-    if (type == "Fils" || type == "Fille" || type == "Enfant") return "CHIL";
-    if (type == "Epoux") return "HUSB";
-    if (type == "Epouse") return "WIFE";
-    return type;
 }
 
 void ExtractWriter::OutReferencedRecords() {

@@ -48,7 +48,6 @@ class ExtractWriter {
     void OutRecord(TextView sRecord);
     void Out(TextView bytes);
     void Write(TextView bytes);
-    TextView RoleOf(TextRef sFam, TextRef sIndi);
 
     Application& app_;
     const modReadGedcom::LineReader& lines_;

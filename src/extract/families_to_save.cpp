@@ -64,7 +64,7 @@ std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const st
         ++family.added;
         family.spouses +=
             static_cast<std::uint32_t>(std::count(spouses[number].begin(), spouses[number].end(), sIndi));
-        memberships.push_back({number, rank});
+        memberships.push_back({number, {rank, member.Ref(FamilyXref::Type)}});
     }
     return memberships;
 }
@@ -77,26 +77,28 @@ void FamiliesToSave::Arrange() {
         family.firstMember = first;
         first += std::exchange(family.added, 0);
     }
-    for (const auto& [number, rank] : memberships) {
+    for (const auto& [number, member] : memberships) {
         FamilyRow& family = families_[number];
-        members_[family.firstMember + family.added++] = rank;
+        members_[family.firstMember + family.added++] = member;
     }
     for (const FamilyRow& family : families_) {
         const auto begin = members_.begin() + family.firstMember;
-        std::sort(begin, begin + family.added);
+        std::sort(begin, begin + family.added,
+                  [](const Member& a, const Member& b) { return a.rank < b.rank; });
     }
 
     // A family stands where its last member was added, behind the families of that one before in the table.
     const auto isLast = [&](const FamilyRow& family, Rank rank) {
-        return members_[family.firstMember + family.added - 1] == rank;
+        return members_[family.firstMember + family.added - 1].rank == rank;
     };
     std::vector<std::uint32_t> place(added_.size() + 2);
-    for (const auto& [number, rank] : memberships) place[rank + 1] += isLast(families_[number], rank) ? 1 : 0;
+    for (const auto& [number, member] : memberships)
+        place[member.rank + 1] += isLast(families_[number], member.rank) ? 1 : 0;
     std::partial_sum(place.begin(), place.end(), place.begin());
     ordered_.resize(place.back());
-    for (const auto& [number, rank] : memberships) {
+    for (const auto& [number, member] : memberships) {
         const FamilyRow& family = families_[number];
-        if (isLast(family, rank)) ordered_[place[rank]++] = family;
+        if (isLast(family, member.rank)) ordered_[place[member.rank]++] = family;
     }
 }
 

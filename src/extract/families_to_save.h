@@ -22,12 +22,16 @@ class FamiliesToSave {
     void Arrange();
 
     using Rank = std::uint32_t;
+    struct Member {
+        Rank rank;
+        TextRef type;  // what the individual is in the family, as its row tells
+    };
     struct Entry {
         TextRef sFam;
-        RecordRange range;             // of its record; empty when there is none
-        std::span<const Rank> sIndis;  // members in the order in which they were added
-        bool isComplete;               // nobody of the family is missing
-        bool bFull;                    // at least two of the spouses were added
+        RecordRange range;               // of its record; empty when there is none
+        std::span<const Member> sIndis;  // in the order in which they were added
+        bool isComplete;                 // nobody of the family is missing
+        bool bFull;                      // at least two of the spouses were added
     };
     std::size_t Count() const { return ordered_.size(); }
     /// A family by its place from 0.
@@ -50,7 +54,7 @@ class FamiliesToSave {
     };
     struct Membership {
         std::uint32_t family;  // number of its row from 0
-        Rank rank;
+        Member member;
     };
     using Spouses = std::array<TextRef, 3>;
     std::vector<Spouses> ReadFamilies();
@@ -61,7 +65,7 @@ class FamiliesToSave {
     std::vector<TextRef> added_;  // the individuals in their order: the first one has the rank 1
     std::vector<Rank> rankOf_;    // by the number of the identifier, 0 for others
     std::vector<FamilyRow> families_, ordered_;  // in the order of the table, and in that of the extract
-    std::vector<Rank> members_;
+    std::vector<Member> members_;
 };
 
 }  // namespace swiftroll::modSaveGed
