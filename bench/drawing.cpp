@@ -8,13 +8,7 @@
 #include <fstream>
 #include <string>
 
-#include "platform/machine.h"
-#include "platform/std_files.h"
-#include "platform/system_clock.h"
-#include "platform/user_folders.h"
-#include "quiet_ports.h"
-#include "shell/frm_main.h"
-#include "text/code_page.h"
+#include "quiet_main.h"
 
 namespace {
 
@@ -39,28 +33,17 @@ std::string CousinFile() {
 /// Stops the search after a number of paths.
 class PathLimit : public bench::QuietPump {
   public:
-    explicit PathLimit(std::int64_t most) : most_(most) {}
-    void Watch(swiftroll::frmMain& main) { main_ = &main; }
+    void Watch(swiftroll::frmMain& main, std::int64_t most) {
+        main_ = &main;
+        most_ = most;
+    }
     void Yield() override {
         if (main_ != nullptr && main_->modKinship.lNrLinks >= most_) main_->bAbort = true;
     }
 
   private:
-    std::int64_t most_;
+    std::int64_t most_ = 0;
     swiftroll::frmMain* main_ = nullptr;
-};
-
-/// Gives the drawing its file.
-class OneFile : public bench::QuietDialogs {
-  public:
-    explicit OneFile(std::string name) : name_(std::move(name)) {}
-    bool AskFile(const FileRequest&, swiftroll::Text& chosen) override {
-        chosen = swiftroll::FileNameToText(name_);
-        return true;
-    }
-
-  private:
-    std::string name_;
 };
 
 std::size_t CountCells(const std::filesystem::path& page) {
@@ -80,23 +63,12 @@ int main(int argumentCount, char** arguments) {
     std::filesystem::remove(page);
     std::ofstream(gedcom, std::ios::binary) << CousinFile();
 
-    OneFile dialogs(page.string());
-    swiftroll::platform::SystemClock clock;
-    PathLimit pump(paths);
-    swiftroll::platform::StdFiles files;
-    swiftroll::platform::UserFolders folders;
-    bench::QuietStatus status;
-    swiftroll::platform::ThisMachine machine;
-    swiftroll::NoDesktop desktop;
-    swiftroll::NoSettings settings;
-    swiftroll::NoDrawingDevice preview;
-    swiftroll::frmMain main({dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop,
-                             settings, preview, desktop, desktop});
-    main.Form_Load({});
-    main.cboGedIn.SetText(swiftroll::FileNameToText(gedcom.string()));
-    main.cmdLoad.Click();
+    bench::QuietMain<PathLimit> app;
+    swiftroll::frmMain& main = app.main;
+    app.dialogs.file = page.string();
+    app.Read(gedcom.string());
     main.txtKinH.SetText(main.txtKinWidth.Get());
-    pump.Watch(main);
+    app.pump.Watch(main, paths);
     main.FindPathBetween("@M0@", "@F" + std::to_string(kGenerations) + "@");
 
     const auto start = std::chrono::steady_clock::now();

@@ -9,32 +9,13 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/machine.h"
-#include "platform/std_files.h"
-#include "platform/system_clock.h"
-#include "platform/user_folders.h"
-#include "quiet_ports.h"
-#include "shell/frm_main.h"
-#include "text/code_page.h"
+#include "quiet_main.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr int kRounds = 5;
-
-/// Gives the extract its file.
-class OneFile : public bench::QuietDialogs {
-  public:
-    explicit OneFile(std::string name) : name_(std::move(name)) {}
-    bool AskFile(const FileRequest&, swiftroll::Text& chosen) override {
-        chosen = swiftroll::FileNameToText(name_);
-        return true;
-    }
-
-  private:
-    std::string name_;
-};
 
 template <class Work>
 double Seconds(Work work) {
@@ -62,21 +43,10 @@ int main(int argumentCount, char** arguments) {
         return 2;
     }
     const fs::path file = arguments[1], extract = file.string() + ".extract", copy = file.string() + ".copy";
-    OneFile dialogs(extract.string());
-    swiftroll::platform::SystemClock clock;
-    bench::QuietPump pump;
-    swiftroll::platform::StdFiles files;
-    swiftroll::platform::UserFolders folders;
-    bench::QuietStatus status;
-    swiftroll::platform::ThisMachine machine;
-    swiftroll::NoDesktop desktop;
-    swiftroll::NoSettings settings;
-    swiftroll::NoDrawingDevice preview;
-    swiftroll::frmMain main({dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop,
-                             settings, preview, desktop, desktop});
-    main.Form_Load({});
-    main.cboGedIn.SetText(swiftroll::FileNameToText(file.string()));
-    main.cmdLoad.Click();
+    bench::QuietMain app;
+    swiftroll::frmMain& main = app.main;
+    app.dialogs.file = extract.string();
+    app.Read(file.string());
     for (const int step : {1, 2, 100}) {
         for (std::int32_t i = 1; i <= main.lvwIn.Count(); ++i) main.lvwIn.Item(i).SetChecked(i % step == 0);
         double best = 1e9, bestCopy = 1e9;

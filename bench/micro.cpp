@@ -5,7 +5,7 @@
 #include "app/positions.h"
 #include "gedcom/line_scanner.h"
 #include "list/sort_keys.h"
-#include "quiet_ports.h"
+#include "quiet_main.h"
 #include "tables/column_numbers.h"
 #include "tables/schema.h"
 #include "text/fold.h"

@@ -4,13 +4,7 @@
 #include <cstdio>
 
 #include "list/calc_output.h"
-#include "platform/machine.h"
-#include "platform/std_files.h"
-#include "platform/system_clock.h"
-#include "platform/user_folders.h"
-#include "quiet_ports.h"
-#include "shell/frm_main.h"
-#include "text/code_page.h"
+#include "quiet_main.h"
 
 namespace {
 
@@ -21,9 +15,7 @@ constexpr int kShares[] = {1, 50, 100};  // marked rows, in percent
 class SelectionBench {
   public:
     void Read(const char* file) {
-        main_.Form_Load({});
-        main_.cboGedIn.SetText(swiftroll::FileNameToText(file));
-        main_.cmdLoad.Click();
+        app_.Read(file);
         swiftroll::modCalcOut::CalcOuptut(main_);
         main_.lvwIn.SortBy(0, 0);
         std::printf("%s: %d people, %d groups, %d links\n", file, main_.lvwIn.Count(), main_.lvwOut.Count(),
@@ -85,18 +77,8 @@ class SelectionBench {
         }
     }
 
-    bench::QuietDialogs dialogs_;
-    swiftroll::platform::SystemClock clock_;
-    bench::QuietPump pump_;
-    swiftroll::platform::StdFiles files_;
-    swiftroll::platform::UserFolders folders_;
-    bench::QuietStatus status_;
-    swiftroll::platform::ThisMachine machine_;
-    swiftroll::NoDesktop desktop_;
-    swiftroll::NoSettings settings_;
-    swiftroll::NoDrawingDevice preview_;
-    swiftroll::frmMain main_{{dialogs_, clock_, pump_, files_, folders_, status_, machine_, desktop_,
-                              desktop_, desktop_, settings_, preview_, desktop_, desktop_}};
+    bench::QuietMain<> app_;
+    swiftroll::frmMain& main_ = app_.main;
     double slowest_ = 0;
 };
 

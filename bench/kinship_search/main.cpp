@@ -9,33 +9,12 @@
 
 #include "cases.h"
 #include "measure_search.h"
-#include "platform/machine.h"
-#include "platform/std_files.h"
-#include "platform/system_clock.h"
-#include "platform/user_folders.h"
-#include "quiet_ports.h"
-#include "text/code_page.h"
+#include "quiet_main.h"
 
 namespace {
 
 using bench::SearchFigures;
 using bench::WalkFigures;
-
-/// An application that nobody looks at.
-struct Bench {
-    bench::QuietDialogs dialogs;
-    swiftroll::platform::SystemClock clock;
-    bench::QuietPump pump;
-    swiftroll::platform::StdFiles files;
-    swiftroll::platform::UserFolders folders;
-    bench::QuietStatus status;
-    swiftroll::platform::ThisMachine machine;
-    swiftroll::NoDesktop desktop;
-    swiftroll::NoSettings settings;
-    swiftroll::NoDrawingDevice preview;
-    swiftroll::frmMain main{{dialogs, clock, pump, files, folders, status, machine, desktop, desktop, desktop,
-                             settings, preview, desktop, desktop}};
-};
 
 /// The worst figures of all cases, for the targets.
 struct Worst {
@@ -102,17 +81,15 @@ void MeasureFile(const std::string& argument, const bench::Limits& limits, Worst
     if (sign != std::string::npos) {
         std::from_chars(argument.data() + sign + 1, argument.data() + argument.size(), pairs);
     }
-    Bench bench;
-    bench.main.Form_Load({});
-    bench.main.cboGedIn.SetText(swiftroll::FileNameToText(file));
+    bench::QuietMain app;
     const auto start = std::chrono::steady_clock::now();
-    bench.main.cmdLoad.Click();
+    app.Read(file);
     const double reading = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     std::printf("%s: %d people, read in %.1f ms\n", file.substr(file.rfind('/') + 1).c_str(),
-                bench.main.lvwIn.Count(), reading * 1e3);
-    if (bench.main.lvwIn.Count() == 0) return;
-    for (const auto& [from, to] : bench::FarPairs(bench.main, pairs)) {
-        const SearchFigures figures = bench::MeasureSearch(bench.main, from, to, limits);
+                app.main.lvwIn.Count(), reading * 1e3);
+    if (app.main.lvwIn.Count() == 0) return;
+    for (const auto& [from, to] : bench::FarPairs(app.main, pairs)) {
+        const SearchFigures figures = bench::MeasureSearch(app.main, from, to, limits);
         Print(from + " " + to, figures, worst);
         worst.firstPathOfFiles = std::max(worst.firstPathOfFiles, figures.written.firstPath);
         worst.preparationOfReading = std::max(worst.preparationOfReading, figures.Preparation() / reading);
@@ -121,11 +98,10 @@ void MeasureFile(const std::string& argument, const bench::Limits& limits, Worst
 
 SearchFigures MeasureGraph(const char* name, const bench::Graph& graph, const bench::Limits& limits,
                            Worst& worst) {
-    Bench bench;
-    bench.main.Form_Load({});
-    bench::Fill(bench.main, graph);
+    bench::QuietMain app;
+    bench::Fill(app.main, graph);
     const std::string last = "@I" + std::to_string(graph.to) + "@";
-    const SearchFigures figures = bench::MeasureSearch(bench.main, "@I0@", last, limits);
+    const SearchFigures figures = bench::MeasureSearch(app.main, "@I0@", last, limits);
     Print(name, figures, worst);
     return figures;
 }
