@@ -15,10 +15,6 @@
 #include "text/edit.h"
 #include "text/failure.h"
 
-#ifndef _WIN32
-extern char** environ;
-#endif
-
 namespace swiftroll::platform {
 namespace {
 
@@ -63,6 +59,7 @@ bool OpenMailProgram(const MailMessage& message) {
     }
     arguments.push_back(ToUtf8(message.address));
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) argv.push_back(argument.data());
     argv.push_back(nullptr);
     pid_t process = 0;

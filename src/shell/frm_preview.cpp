@@ -17,6 +17,7 @@ constexpr std::array kZooms = {kWholePage, kPageWidth, 25, 50, 75, 100, 125, 150
 
 std::vector<Text> ZoomTexts() {
     std::vector<Text> texts;
+    texts.reserve(kZooms.size());
     for (const int zoom : kZooms) {
         texts.emplace_back(zoom == kWholePage   ? Text("Page entière"_t)
                            : zoom == kPageWidth ? Text("Largeur de page"_t)

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QLocale>
+#include <algorithm>
 
 #include "colours.h"
 #include "qt_text.h"
@@ -33,6 +34,7 @@ void DrawingRecorder::Open(TextView title, std::int64_t width, std::int64_t heig
     title_ = ToQt(title);
     sheet_ = QSizeF(static_cast<qreal>(width), static_cast<qreal>(height));
     extent_ = {};
+    seams_.clear();
     drawn_.clear();
     if (OnOpen) OnOpen();
 }
@@ -63,15 +65,17 @@ void DrawingRecorder::PrintTexts(std::int64_t left, std::int64_t top, std::int64
                       static_cast<qreal>(width) - 2 * kTextMargin, static_cast<qreal>(height));
     std::optional<std::vector<Words>> words;
     for (qreal scale = 1; !words && scale > kSmallestScale; scale -= kScaleStep) {
-        words = Place(room, texts, scale, false);
+        words = Fit(room, texts, scale, false);
     }
-    if (!words) words = Place(room, texts, kSmallestScale, true);
+    if (!words) words = Fit(room, texts, kSmallestScale, true);
     drawn_.insert(drawn_.end(), words->begin(), words->end());
 }
 
-std::optional<std::vector<DrawingRecorder::Words>> DrawingRecorder::Place(
-    const QRectF& room, const std::vector<PrintedText>& texts, qreal scale, bool must) {
-    const int flags = Qt::AlignLeft | Qt::AlignTop | (must ? Qt::TextWrapAnywhere : Qt::TextWordWrap);
+std::optional<std::vector<DrawingRecorder::Words>> DrawingRecorder::Fit(const QRectF& room,
+                                                                        const std::vector<PrintedText>& texts,
+                                                                        qreal scale, bool must) {
+    const auto wrap = must ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
+    const int flags = static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | wrap;
     std::vector<Words> words;
     qreal y = room.top();
     for (const PrintedText& text : texts) {
@@ -88,10 +92,24 @@ std::optional<std::vector<DrawingRecorder::Words>> DrawingRecorder::Place(
     return words;
 }
 
-void DrawingRecorder::EndDrawing(std::int64_t) {}
+void DrawingRecorder::EndDrawing(std::int64_t bottom) { seams_.push_back(static_cast<qreal>(bottom)); }
 
 void DrawingRecorder::Close() {
     if (OnClose) OnClose();
+}
+
+std::vector<DrawingRecorder::Place> DrawingRecorder::Places() const {
+    std::vector<Place> places;
+    for (const auto& item : drawn_) {
+        if (const auto* fill = std::get_if<Fill>(&item)) {
+            places.push_back({fill->place, true});
+        } else if (const auto* line = std::get_if<Line>(&item)) {
+            places.push_back({QRectF(line->place.p1(), line->place.p2()).normalized(), false});
+        }
+    }
+    std::sort(places.begin(), places.end(),
+              [](const Place& a, const Place& b) { return a.rectangle.top() < b.rectangle.top(); });
+    return places;
 }
 
 void DrawingRecorder::Paint(QPainter& painter, const QRectF& area) const {

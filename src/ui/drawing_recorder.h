@@ -30,6 +30,14 @@ class DrawingRecorder : public DrawingDevice {
     /// The sheet that the document asks for, and what the drawings take of it and beyond, from its corner.
     QSizeF Sheet() const { return sheet_; }
     QSizeF Extent() const { return extent_; }
+    /// Where one drawing ends and the next one begins, from the top.
+    const std::vector<qreal>& Seams() const { return seams_; }
+    /// The place of everything that was drawn, from the top down; the boxes are the ground of the texts.
+    struct Place {
+        QRectF rectangle;
+        bool isBox;
+    };
+    std::vector<Place> Places() const;
     /// Paints what touches `area`; both the painter and the area count in twips.
     void Paint(QPainter& painter, const QRectF& area) const;
 
@@ -51,12 +59,13 @@ class DrawingRecorder : public DrawingDevice {
     };
     /// The texts as they stand in `room` at `scale` of their size; nothing when they go beyond it, unless
     /// they `must` fit: long words are broken then, and what is below is cut.
-    static std::optional<std::vector<Words>> Place(const QRectF& room, const std::vector<PrintedText>& texts,
-                                                   qreal scale, bool must);
+    static std::optional<std::vector<Words>> Fit(const QRectF& room, const std::vector<PrintedText>& texts,
+                                                 qreal scale, bool must);
     void Reach(qreal right, qreal bottom);
 
     QString title_;
     QSizeF sheet_, extent_;
+    std::vector<qreal> seams_;
     std::vector<std::variant<Fill, Line, Words>> drawn_;
 };
 

@@ -18,7 +18,7 @@ namespace swiftroll::ui {
 namespace {
 
 constexpr qreal kTwipsPerInch = 1440;
-constexpr int kZoomLength = 12;           // "Page entière"
+constexpr int kZoomLength = 12;            // "Page entière"
 constexpr QMarginsF kMargins(8, 8, 8, 8);  // millimetres
 
 }  // namespace

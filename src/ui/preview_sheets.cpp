@@ -1,11 +1,15 @@
 #include "preview_sheets.h"
 
-#include <cmath>
+#include <algorithm>
+
+#include "sheet_starts.h"
 
 namespace swiftroll::ui {
 namespace {
 
 constexpr qreal kTwipsPerPoint = 20;
+/// What a line at the edge of a sheet may reach beyond it.
+constexpr qreal kEdge = 15;
 /// A drawing that would take more sheets than this is cut there: nobody prints them.
 constexpr int kMostSheets = 10000;
 
@@ -23,13 +27,42 @@ PreviewSheets::PreviewSheets(const DrawingRecorder& drawing, const QPageLayout& 
         parts_.emplace_back(QPointF(), extent);
         return;
     }
-    const int columns = static_cast<int>(std::ceil(extent.width() / printable_.width()));
-    const int rows = static_cast<int>(std::ceil(extent.height() / printable_.height()));
-    for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) {
+    Divide();
+    if (parts_.empty()) parts_.emplace_back(QPointF(), printable_.size());
+}
+
+void PreviewSheets::Divide() {
+    using Place = DrawingRecorder::Place;
+    const std::vector<Place> places = drawing_.Places();
+    std::vector<Span> boxes;
+    for (const Place& place : places) {
+        if (place.isBox) boxes.push_back({place.rectangle.top(), place.rectangle.bottom()});
+    }
+    const QSizeF extent = drawing_.Extent();
+    std::vector<qreal> rows = SheetStarts(boxes, drawing_.Seams(), extent.height(), printable_.height());
+    rows.push_back(extent.height());
+    auto first = places.begin();
+    for (std::size_t row = 0; row + 1 < rows.size(); ++row) {
+        const qreal top = rows[row], bottom = rows[row + 1];
+        while (first != places.end() && first->rectangle.bottom() < top) ++first;
+        std::vector<QRectF> inRow;
+        boxes.clear();
+        for (auto place = first; place != places.end() && place->rectangle.top() < bottom; ++place) {
+            const QRectF& rectangle = place->rectangle;
+            if (rectangle.bottom() <= top && rectangle.top() < top) continue;
+            inRow.push_back(rectangle);
+            if (place->isBox) boxes.push_back({rectangle.left(), rectangle.right()});
+        }
+        std::vector<qreal> columns = SheetStarts(boxes, {}, extent.width(), printable_.width());
+        columns.push_back(extent.width());
+        for (std::size_t column = 0; column + 1 < columns.size(); ++column) {
+            const qreal left = columns[column], right = columns[column + 1];
+            const bool isUsed = std::any_of(inRow.begin(), inRow.end(), [&](const QRectF& rectangle) {
+                return rectangle.left() < right && (rectangle.right() > left || rectangle.left() >= left);
+            });
+            if (!isUsed) continue;
             if (Count() == kMostSheets) return;
-            parts_.emplace_back(column * printable_.width(), row * printable_.height(), printable_.width(),
-                                printable_.height());
+            parts_.emplace_back(left, top, right - left, bottom - top);
         }
     }
 }
@@ -37,9 +70,10 @@ PreviewSheets::PreviewSheets(const DrawingRecorder& drawing, const QPageLayout& 
 void PreviewSheets::Paint(QPainter& painter, int index) const {
     const QRectF part = parts_.at(static_cast<std::size_t>(index));
     painter.save();
-    painter.setClipRect(printable_, Qt::IntersectClip);
     painter.translate(printable_.topLeft());
     painter.scale(scale_, scale_);
+    painter.setClipRect(QRectF(QPointF(), part.size()).adjusted(-kEdge, -kEdge, kEdge, kEdge),
+                        Qt::IntersectClip);
     painter.translate(-part.topLeft());
     drawing_.Paint(painter, part);
     painter.restore();

@@ -6,8 +6,9 @@
 
 namespace swiftroll::ui {
 
-/// The sheets that a drawing takes: beside and below each other on as many as it needs, or made smaller to
-/// fit one.
+/// The sheets that the drawings take: beside and below each other on as many as they need, cut between
+/// drawings and boxes where that can be, or made smaller to fit one. Sheets without anything on them are left
+/// out.
 class PreviewSheets {
   public:
     /// Lays the drawing out on sheets of this layout.
@@ -20,6 +21,8 @@ class PreviewSheets {
     void Paint(QPainter& painter, int index) const;
 
   private:
+    void Divide();
+
     const DrawingRecorder& drawing_;
     QSizeF sheet_;
     QRectF printable_;

@@ -13,8 +13,11 @@ class PlaceKeeper : public QObject {
         widget.installEventFilter(this);
     }
     bool eventFilter(QObject*, QEvent* event) override {
-        const bool changes =
-            event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show;
+        // The frame around a window that was just shown is known only after its first move: what is noted
+        // then is mended when it is painted or closed.
+        const QEvent::Type type = event->type();
+        const bool changes = type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show ||
+                             type == QEvent::Paint || type == QEvent::Close;
         // The place of a minimised or maximised window is that of its normal state.
         if (changes && widget_.isVisible()) {
             const bool isNormal = !(widget_.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized));

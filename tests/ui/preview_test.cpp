@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "preview_dialog.h"
+#include "sheet_starts.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -70,6 +71,20 @@ TEST_F(Preview, ALargeDrawingTakesSheetsOrFitsOne) {
     program_->ThePresenter().Act([this] { Main().frmPreview.chkFitToPage.SetChecked(true); });
     EXPECT_EQ(Dialog().Sheets().Count(), 1);
     EXPECT_EQ(Main().frmPreview.Page(), 1);
+}
+
+TEST(SheetStarts, LieBetweenDrawingsAndBoxesWhereTheyCan) {
+    using Starts = std::vector<qreal>;
+    EXPECT_EQ(ui::SheetStarts({{0, 900}}, {900}, 900, 1000), Starts({0})) << "all on one";
+    EXPECT_EQ(ui::SheetStarts({}, {400, 900, 1300, 3000}, 3000, 1000), Starts({0, 900, 1300, 2300}))
+        << "a new drawing, then a long one in pieces";
+    EXPECT_EQ(ui::SheetStarts({{0, 300}, {300, 600}, {950, 1250}, {1250, 1550}}, {}, 1550, 1000),
+              Starts({0, 950}))
+        << "before the box that would be cut";
+    EXPECT_EQ(ui::SheetStarts({{800, 1100}, {900, 1200}, {700, 950}}, {}, 1200, 1000), Starts({0, 700}))
+        << "before the one before, to cut none";
+    EXPECT_EQ(ui::SheetStarts({{0, 5000}}, {}, 2500, 1000), Starts({0, 1000, 2000}))
+        << "through what is larger";
 }
 
 }  // namespace
