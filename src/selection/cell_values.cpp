@@ -16,12 +16,16 @@ void CellValues::ReadColumn(const OptionRecord& options, Table& table, std::int1
     const auto formOf = [&](TextView text) {
         return store.Intern(modCalcOut::KeepAlphaNum(options, text, false));
     };
+    values.reserve(static_cast<std::size_t>(table.Count()));
+    const auto column = static_cast<std::int16_t>(iCol + 1);
+    TextRef previous;
     for (std::int32_t i = 1; i <= table.Count(); ++i) {
         const Row row = table.Item(i);
-        const auto column = static_cast<std::int16_t>(iCol + 1);
         const TextRef ref = row.Ref(column);
-        if (!ref.IsInterned()) {
-            values.push_back(formOf(row.Cell(column)));
+        // The name of somebody stands once, and the rows of his links follow each other.
+        const bool isRepeated = ref == std::exchange(previous, ref) && !values.empty();
+        if (isRepeated || !ref.IsInterned()) {
+            values.push_back(isRepeated ? values.back() : formOf(row.Cell(column)));
             continue;
         }
         auto& form = known[ListOf(ref)];

@@ -114,8 +114,11 @@ void Engine::CompareValues(Table& table, TextView sMode, bool bSelect) {
         }
         wanted.Add(cells.values[static_cast<std::size_t>(i - 1)]);
     });
+    bool matches = false;
     for (std::size_t i = 0; i < cells.values.size(); ++i) {
-        if (wanted.Match(cells.values[i])) targets.Take(table.Item(static_cast<std::int32_t>(i + 1)));
+        // Equal values often follow each other.
+        if (i == 0 || cells.values[i] != cells.values[i - 1]) matches = wanted.Match(cells.values[i]);
+        if (matches) targets.Take(table.Item(static_cast<std::int32_t>(i + 1)));
     }
     targets.Finish();
 }
