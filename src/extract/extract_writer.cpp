@@ -1,6 +1,7 @@
 #include "extract/extract_writer.h"
 
 #include <algorithm>
+#include <future>
 
 #include "tables/column_numbers.h"
 #include "text/edit.h"
@@ -11,7 +12,6 @@ namespace swiftroll::modSaveGed {
 
 namespace {
 
-constexpr std::size_t kBufferSize = std::size_t{1} << 18;
 constexpr std::int64_t kLongestRun = std::int64_t{1} << 20;
 
 /// The tag of a member's line by the type of the membership; a type that only the individual told is a tag.
@@ -30,26 +30,37 @@ ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& 
       lines_(lines),
       source_(std::move(in), app.cboGedIn.Get()),
       out_(out),
-      colFamToSave_(app.lvwFamily, app.lvwFamilyXref) {
-    buffer_.reserve(kBufferSize);
-}
+      colFamToSave_(app.lvwFamily, app.lvwFamilyXref) {}
 
 void ExtractWriter::Write() {
     if (lines_.head.end != 0) OutGedTag(lines_.head);
     if (lines_.subn.end != 0) OutGedTag(lines_.subn);
-    OutIndividuals();
+    const std::vector<RecordRange> marked = CollectMarked();
+    // The families are put in order while the individuals are copied: both only read the tables.
+    auto arranging = std::async(std::launch::async, [this] { colFamToSave_.Arrange(); });
+    OutIndividuals(marked);
+    arranging.get();
     OutFamilies();
     OutReferencedRecords();
-    Out(Concat({"0 TRLR", kLineEnd}));
-    Flush();
+    out_.Write(Concat({"0 TRLR", kLineEnd}));
+    out_.Finish();
 }
 
-void ExtractWriter::OutIndividuals() {
+/// Gives the ranges of the marked individuals, and adds them to their families.
+std::vector<RecordRange> ExtractWriter::CollectMarked() {
+    std::vector<RecordRange> ranges;
     for (std::int32_t i = 1; i <= app_.lvwIn.Count(); ++i) {
         const Row person = app_.lvwIn.Item(i);
         if (!person.Marked()) continue;
         colFamToSave_.AddFamToSave(person.Ref(In::ID));
-        OutWithNeighbours(RangeOfTag(person.Tag()));
+        ranges.push_back(RangeOfTag(person.Tag()));
+    }
+    return ranges;
+}
+
+void ExtractWriter::OutIndividuals(const std::vector<RecordRange>& marked) {
+    for (const RecordRange& range : marked) {
+        OutWithNeighbours(range);
         ++individuals_;
     }
     OutRun();
@@ -75,34 +86,43 @@ void ExtractWriter::OutRun() {
 }
 
 /// Families are written in an order that is not that of the file: some megabytes of them at a time are read
-/// in the order of the file before they are written.
+/// in the order of the file, while those before them are written.
 void ExtractWriter::OutFamilies() {
-    constexpr std::size_t kAtATime = std::size_t{1} << 24;
-    colFamToSave_.Arrange();
-    for (std::size_t first = 0; first < colFamToSave_.Count();) {
-        std::vector<Piece> pieces;
-        std::size_t total = 0, last = first;
-        for (; last < colFamToSave_.Count() && total < kAtATime; ++last) {
-            const FamiliesToSave::Entry family = colFamToSave_[last];
-            if (!family.bFull) continue;
-            pieces.push_back({family.range, total});
-            total += LengthOf(family.range);
-        }
-        ReadRecords(pieces, total);
-        TextView records = familyRecords_;
-        for (; first < last; ++first) OutGedFamilyTag(colFamToSave_[first], records);
+    const auto readAhead = [this](std::size_t first) {
+        return std::async(std::launch::async, [this, first] { return ReadFamilies(first); });
+    };
+    for (auto reading = readAhead(0); reading.valid();) {
+        const FamilyBatch batch = reading.get();
+        if (batch.last < colFamToSave_.Count()) reading = readAhead(batch.last);
+        TextView records = batch.records;
+        for (std::size_t i = batch.first; i < batch.last; ++i) OutGedFamilyTag(colFamToSave_[i], records);
     }
 }
 
-void ExtractWriter::ReadRecords(std::vector<Piece>& pieces, std::size_t total) {
+ExtractWriter::FamilyBatch ExtractWriter::ReadFamilies(std::size_t first) {
+    constexpr std::size_t kAtATime = std::size_t{1} << 24;
+    FamilyBatch batch{first, first, {}};
+    struct Piece {
+        RecordRange range;
+        std::size_t place;
+    };
+    std::vector<Piece> pieces;
+    std::size_t total = 0;
+    for (; batch.last < colFamToSave_.Count() && total < kAtATime; ++batch.last) {
+        const FamiliesToSave::Entry family = colFamToSave_[batch.last];
+        if (!family.bFull) continue;
+        pieces.push_back({family.range, total});
+        total += LengthOf(family.range);
+    }
     std::sort(pieces.begin(), pieces.end(),
               [](const Piece& a, const Piece& b) { return a.range.start < b.range.start; });
-    familyRecords_.resize(total);
+    batch.records.resize(total);
     for (const Piece& piece : pieces) {
         const TextView record = source_.Read(piece.range);
         std::copy(record.begin(), record.end(),
-                  familyRecords_.begin() + static_cast<std::ptrdiff_t>(piece.place));
+                  batch.records.begin() + static_cast<std::ptrdiff_t>(piece.place));
     }
+    return batch;
 }
 
 /// A family with both spouses keeps all that is told of it. Another one is reduced to its links: what was
@@ -125,9 +145,9 @@ void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextVie
         OutRecord(record);
         return;
     }
-    Out(Concat({"0 ", store.Get(family.sFam), " FAM", kLineEnd}));
+    out_.Write(Concat({"0 ", store.Get(family.sFam), " FAM", kLineEnd}));
     for (const auto& [rank, type] : family.sIndis) {
-        Out(Concat(
+        out_.Write(Concat(
             {"1 ", RoleOf(store.Get(type)), " ", store.Get(colFamToSave_.Individual(rank)), kLineEnd}));
     }
 }
@@ -151,7 +171,10 @@ void ExtractWriter::OutGedTag(const RecordRange& range) {
 
 void ExtractWriter::NoteReferences(TextView sRecord) {
     for (const Reference& reference : FindOutTags(sRecord)) {
-        if (!sTagsSeen_.Add(reference.key, true)) continue;
+        // Most references come again in the same letters, which costs less to see.
+        const std::size_t known = references_.InternedCount();
+        references_.Intern(reference.key);
+        if (references_.InternedCount() == known || !sTagsSeen_.Add(reference.key, true)) continue;
         // The submission stands behind the head already, whoever refers to it.
         if (lines_.subn.end != 0 && lines_.colRecords().Find(reference.key) == lines_.subn) continue;
         colTagsToSave_.emplace_back(reference.key);
@@ -160,28 +183,8 @@ void ExtractWriter::NoteReferences(TextView sRecord) {
 
 /// The last line of a file may have no line end; what follows it in the extract must be a line of its own.
 void ExtractWriter::OutRecord(TextView sRecord) {
-    Out(sRecord);
-    if (!sRecord.empty() && kLineEnd.find(sRecord.back()) == TextView::npos) Out(kLineEnd);
-}
-
-void ExtractWriter::Out(TextView bytes) {
-    if (buffer_.size() + bytes.size() > kBufferSize) Flush();
-    if (bytes.size() > kBufferSize)
-        Write(bytes);
-    else
-        buffer_ += bytes;
-}
-
-void ExtractWriter::Flush() {
-    Write(buffer_);
-    buffer_.clear();
-}
-
-void ExtractWriter::Write(TextView bytes) {
-    // What could not be written is not tried again.
-    if (std::exchange(isWriting_, true)) return;
-    out_.Write(bytes);
-    isWriting_ = false;
+    out_.Write(sRecord);
+    if (!sRecord.empty() && kLineEnd.find(sRecord.back()) == TextView::npos) out_.Write(kLineEnd);
 }
 
 }  // namespace swiftroll::modSaveGed

@@ -3,6 +3,7 @@
 #include <deque>
 
 #include "app/application.h"
+#include "extract/background_writer.h"
 #include "extract/families_to_save.h"
 #include "extract/record_lines.h"
 #include "extract/record_source.h"
@@ -23,7 +24,7 @@ class ExtractWriter {
     /// does not have; what was written until then stays
     void Write();
     /// Brings what was written so far into the file. @throws Failure FileAccess
-    void Flush();
+    void Finish() { out_.Finish(); }
 
     /// Number of individuals and families written.
     std::int32_t Individuals() const { return individuals_; }
@@ -31,36 +32,34 @@ class ExtractWriter {
 
   private:
     void OutGedTag(const RecordRange& range);
-    void OutIndividuals();
+    std::vector<RecordRange> CollectMarked();
+    void OutIndividuals(const std::vector<RecordRange>& marked);
     void OutWithNeighbours(const RecordRange& range);
     void OutRun();
     void OutFamilies();
-    /// A record of a family, and its place in `familyRecords_`.
-    struct Piece {
-        RecordRange range;
-        std::size_t place;
+    /// The families from `first` up to `last`, which is not one of them, and the records of those that are
+    /// written whole, one behind the other.
+    struct FamilyBatch {
+        std::size_t first, last;
+        Text records;
     };
-    void ReadRecords(std::vector<Piece>& pieces, std::size_t total);
+    FamilyBatch ReadFamilies(std::size_t first);
     /// `records` are those of the families that are written whole, from this one on.
     void OutGedFamilyTag(const FamiliesToSave::Entry& family, TextView& records);
     void OutReferencedRecords();
     void NoteReferences(TextView sRecord);
     void OutRecord(TextView sRecord);
-    void Out(TextView bytes);
-    void Write(TextView bytes);
 
     Application& app_;
     const modReadGedcom::LineReader& lines_;
     RecordSource source_;
-    File& out_;
-    Text buffer_;
+    BackgroundWriter out_;
     std::vector<RecordRange> run_;  // to be copied, each behind the one before
     FamiliesToSave colFamToSave_;
     std::deque<Text> colTagsToSave_;
+    TextStore references_;             // seen so far, as they were written
     KeyedCollection<bool> sTagsSeen_;  // records are found whatever the case, and so are these
-    Text familyRecords_;
-    Text reduced_;            // a family without some members, kept for its memory
-    bool isWriting_ = false;  // what is in the buffer is being written
+    Text reduced_;                     // a family without some members, kept for its memory
     std::int32_t individuals_ = 0, families_ = 0;
 };
 

@@ -50,7 +50,7 @@ void frmMain::cmdSaveGed_Click() {
             trail.ErrorLog(report);
             try {
                 // The output stays as far as it was written.
-                if (writer) writer->Flush();
+                if (writer) writer->Finish();
             } catch (const Failure&) {
                 // The failure that began it was told.
             }
