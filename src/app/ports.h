@@ -167,8 +167,8 @@ class Desktop {
     virtual OpenResult Open(TextView file, int& number) = 0;
     /// Lets the user choose a program for a file that none belongs to.
     virtual void ChooseProgram(TextView file) = 0;
-    /// Opens the help at the page of a topic, above 0, or at its beginning.
-    virtual void OpenHelp(TextView file, int topic) = 0;
+    /// Opens the help at the page of a topic, above 0, or at its beginning; false when no program takes it.
+    virtual bool OpenHelp(TextView file, int topic) = 0;
     /// Opens a web address, or a new mail for an address that begins with "mailto:".
     virtual void OpenAddress(TextView address) = 0;
 };
@@ -256,7 +256,7 @@ struct NoDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
     bool IsShiftDown() override { return false; }
     OpenResult Open(TextView, int&) override { return OpenResult::NoProgram; }
     void ChooseProgram(TextView) override {}
-    void OpenHelp(TextView, int) override {}
+    bool OpenHelp(TextView, int) override { return false; }
     void OpenAddress(TextView) override {}
     void Download(TextView, TextView) override {}
     bool Compose(const MailMessage&, TextView) override { return true; }

@@ -49,8 +49,9 @@ bool frmMain::LaunchHTMLHelp(int topic) {
         pnlMessage.Set(Concat({"Le manuel n'a pas été trouvé : "_t, sHelpFile}));
         return false;
     }
-    ports.desktop.OpenHelp(sHelpFile, topic);
-    return true;
+    const bool isOpen = ports.desktop.OpenHelp(sHelpFile, topic);
+    if (!isOpen) pnlMessage.Set(Concat({"Aucun programme n'a pu ouvrir le manuel : "_t, sHelpFile}));
+    return isOpen;
 }
 
 void frmMain::mnuContext2_Click() {

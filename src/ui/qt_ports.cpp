@@ -225,14 +225,14 @@ void QtDesktop::ChooseProgram(TextView file) {
     QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(EditableToQt(file)).absolutePath()));
 }
 
-void QtDesktop::OpenHelp(TextView file, int topic) {
+bool QtDesktop::OpenHelp(TextView file, int topic) {
     const QString manual = EditableToQt(file);
     const QString folder = QFileInfo(manual).absolutePath();
     const QString page = topic > 0 ? PageOfTopic(folder, topic) : QString();
     QUrl url = QUrl::fromLocalFile(
         page.isEmpty() ? manual : folder + QLatin1Char('/') + page.section(QLatin1Char('#'), 0, 0));
     if (page.contains(QLatin1Char('#'))) url.setFragment(page.section(QLatin1Char('#'), 1));
-    QDesktopServices::openUrl(url);
+    return QDesktopServices::openUrl(url);
 }
 
 void QtDesktop::OpenAddress(TextView address) { QDesktopServices::openUrl(QUrl(ToQt(address))); }

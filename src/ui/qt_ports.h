@@ -69,7 +69,7 @@ class QtDesktop : public Clipboard, public Keyboard, public Desktop {
     bool IsShiftDown() override;
     OpenResult Open(TextView file, int& number) override;
     void ChooseProgram(TextView file) override;
-    void OpenHelp(TextView file, int topic) override;
+    bool OpenHelp(TextView file, int topic) override;
     void OpenAddress(TextView address) override;
 };
 

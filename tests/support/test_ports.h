@@ -91,8 +91,9 @@ struct TestDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
         return openResult;
     }
     void ChooseProgram(TextView file) override { opened.emplace_back("with:" + Text(file)); }
-    void OpenHelp(TextView file, int topic) override {
+    bool OpenHelp(TextView file, int topic) override {
         opened.emplace_back(Text(file) + "#" + std::to_string(topic));
+        return openResult == OpenResult::Opened;
     }
     void OpenAddress(TextView address) override { opened.emplace_back(address); }
 
