@@ -52,6 +52,11 @@ void Window::LeaveFocus() {
     if (previous != nullptr) previous->LoseFocus();
 }
 
+void Window::Show() {
+    visible_ = true;
+    Fire(OnShow);
+}
+
 void Window::Hide() {
     visible_ = false;
     Fire(OnHide);

@@ -48,7 +48,9 @@ class Window {
     WindowPlace Place;
     Text Caption;
     bool Visible() const { return visible_; }
-    void Show() { visible_ = true; }
+    void Show();
+    /// For the presentation, which brings the window to the screen at once.
+    std::function<void()> OnShow;
     /// Ends the dialog that shows the window.
     void Hide();
     /// For the presentation, which takes the window from the screen.

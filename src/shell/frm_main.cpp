@@ -141,6 +141,8 @@ void frmMain::Form_Load(TextView sCommandLine) {
                 cboGedIn.SetText(file);
                 FileCombo_LostFocus(cboGedIn);
             }
+            // The check may have to wait for the network, and the user can end the wait.
+            Show();
             if (chkCheckUpdates.Checked()) frmUpdates.GetUpdates(true);
             bStarting = false;
         },

@@ -47,12 +47,13 @@ bool DesktopApplication::Start(const QString& file) {
         QApplication::quit();
     };
     QObject::connect(qApp, &QApplication::focusChanged, &presenter_, [this] { presenter_.FocusMoved(); });
+    main_.OnShow = [this] {
+        window_->TakeDesignSize();
+        RestorePlace(*window_, main_);
+        window_->show();
+    };
     presenter_.Act([&] { main_.Form_Load(FromQt(file)); });
-    if (main_.bEnded) return false;
-    window_->TakeDesignSize();
-    RestorePlace(*window_, main_);
-    window_->show();
-    return true;
+    return !main_.bEnded;
 }
 
 }  // namespace swiftroll::ui

@@ -40,6 +40,6 @@ int main(int argc, char** argv) {
     }
     swiftroll::ui::SetUpFrench();
     swiftroll::ui::DesktopApplication program;
-    if (!program.Start(arguments.value(1))) return 1;
+    if (!program.Start(arguments.value(1))) return program.Main().trail.Reports() > 0 ? 1 : 0;
     return QApplication::exec();
 }

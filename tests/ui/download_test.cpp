@@ -1,4 +1,5 @@
 // The list of versions over a real connection.
+#include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTreeWidget>
@@ -66,6 +67,30 @@ TEST_F(Download, EscapeEndsTheWaitForASlowServer) {
     Fetch(Server("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nslow", false));
     EXPECT_LT(watch.elapsed(), 5000);
     EXPECT_EQ(Content(), "none");
+}
+
+TEST_F(Download, AStartThatChecksShowsTheWindowWhileItWaits) {
+    Start();
+    ShowTab(8);
+    Click("chkCheckUpdates");
+    Click("cmdExit");
+    program_ = std::make_unique<ui::DesktopApplication>();
+    // Whatever address the program asks for, a server stands before it that never answers.
+    QTcpServer silent;
+    silent.listen(QHostAddress::LocalHost);
+    QNetworkProxy::setApplicationProxy(
+        QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), silent.serverPort()));
+    bool wasVisible = false;
+    QTimer::singleShot(300, qApp, [&] {
+        wasVisible = Window().isVisible();
+        QTest::keyClick(&Window(), Qt::Key_Escape);
+    });
+    OnBox(QMessageBox::Ok);
+    Start();
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    EXPECT_TRUE(wasVisible);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0].startsWith(QStringLiteral("Pas de version trouvée")));
 }
 
 TEST_F(Download, TheEndOfTheProgramEndsTheWait) {
