@@ -9,7 +9,6 @@
 #include <chrono>
 #include <fstream>
 #include <sstream>
-#include <thread>
 
 #include "text/code_page.h"
 #include "text/edit.h"
@@ -50,7 +49,7 @@ std::string BaseName(TextView file) { return FileNameFromText(file.substr(file.f
 
 #ifndef _WIN32
 /// Starts the mail program of the desktop; false when there is none, or when it says that it failed.
-bool OpenMailProgram(const MailMessage& message) {
+bool OpenMailProgram(const MailMessage& message, EventPump& events) {
     std::vector<std::string> arguments = {
         "xdg-email", "--utf8", "--subject", ToUtf8(message.subject), "--body", ToUtf8(message.body)};
     for (const Text& file : message.attachments) {
@@ -66,16 +65,17 @@ bool OpenMailProgram(const MailMessage& message) {
     if (posix_spawnp(&process, argv[0], nullptr, nullptr, argv.data(), environ) != 0) return false;
     // The command hands the message over and ends; a mail program that stays in front goes on by itself.
     constexpr auto kPatience = std::chrono::seconds(5);
+    constexpr int kGlanceMilliseconds = 20;
     const auto end = std::chrono::steady_clock::now() + kPatience;
     int status = 0;
     while (waitpid(process, &status, WNOHANG) == 0) {
         if (std::chrono::steady_clock::now() > end) return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        events.YieldFor(kGlanceMilliseconds, false);
     }
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 #else
-bool OpenMailProgram(const MailMessage&) { return false; }
+bool OpenMailProgram(const MailMessage&, EventPump&) { return false; }
 #endif
 
 }  // namespace
@@ -97,7 +97,7 @@ std::string DraftOf(const MailMessage& message) {
 }
 
 bool DesktopMail::Compose(const MailMessage& message, TextView draft) {
-    if (OpenMailProgram(message)) return false;
+    if (OpenMailProgram(message, events_)) return false;
     const std::string text = DraftOf(message);
     std::ofstream file(FileNameFromText(draft), std::ios::binary | std::ios::trunc);
     file.write(text.data(), static_cast<std::streamsize>(text.size()));

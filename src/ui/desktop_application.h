@@ -22,7 +22,7 @@ class DesktopApplication {
     ~DesktopApplication();
 
     /// Starts the core with the file of the command line, or none, and shows the main window.
-    /// False when the start failed, which was told.
+    /// False when the start failed, which was told, or when the user has already closed the window.
     bool Start(const QString& file);
 
     frmMain& Main() { return main_; }
@@ -41,7 +41,7 @@ class DesktopApplication {
     platform::SettingsFile settings_;
     DrawingRecorder preview_;
     QtNetwork network_;
-    platform::DesktopMail mail_;
+    platform::DesktopMail mail_{pump_};
     frmMain main_;
     Presenter presenter_;
     std::unique_ptr<MainWindow> window_;

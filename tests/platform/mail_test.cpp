@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <thread>
 
 #include "text/literal.h"
 
@@ -42,8 +43,14 @@ struct MailTest : testing::Test {
     }
     const std::string path = std::getenv("PATH");
     const fs::path folder = fs::temp_directory_path() / ("swiftroll-mail-" + std::to_string(::getpid()));
+    struct Wait : EventPump {
+        void Yield() override {}
+        void YieldFor(int milliseconds, const bool&) override {
+            std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+        }
+    } wait;
     MailMessage message;
-    DesktopMail mail;
+    DesktopMail mail{wait};
 };
 
 TEST_F(MailTest, TheMailProgramGetsEveryPartAsOneArgument) {
