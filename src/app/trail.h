@@ -47,6 +47,15 @@ class Trail {
         if constexpr (!std::is_void_v<std::invoke_result_t<Body>>) return {};
     }
 
+    /// Runs `body` under the name of a procedure without a handler: a failure in it travels to the caller's,
+    /// whose report then names both.
+    template <class Body>
+    void Through(const char* sProc, Body&& body) {
+        TracePush(sProc);
+        body();
+        TracePop();
+    }
+
     /// Shows the failure being handled in a box and appends it to the log.
     void ErrorLog(TextView sReport);
     /// The failure that the running handler was called for.
@@ -57,13 +66,17 @@ class Trail {
   private:
     class Entry {
       public:
-        Entry(Trail& trail, const char* sProc) : trail_(trail) { trail_.TracePush(sProc); }
-        ~Entry() { trail_.TracePop(); }
+        Entry(Trail& trail, const char* sProc) : trail_(trail), iDepthBefore_(trail.iTraceDepth) {
+            trail_.TracePush(sProc);
+        }
+        // The names of procedures that a failure left go with it.
+        ~Entry() { trail_.iTraceDepth = iDepthBefore_; }
         Entry(const Entry&) = delete;
         Entry& operator=(const Entry&) = delete;
 
       private:
         Trail& trail_;
+        std::int16_t iDepthBefore_;
     };
     void TracePush(const char* sProc) {
         const auto depth = static_cast<std::size_t>(iTraceDepth) + 1;

@@ -34,6 +34,10 @@ frmUpdates::frmUpdates(Application& app)
 }
 
 void frmUpdates::GetUpdates(bool bSilent) {
+    app_.trail.Through("GetUpdates", [&] { CheckVersions(bSilent); });
+}
+
+void frmUpdates::CheckVersions(bool bSilent) {
     const Text sLocal = app_.PathOf(app_.sUserAppData, kFile);
     const auto warn = [&](TextView first) {
         app_.Box(kTitle, Concat({first, kLineEnd, "ou pas de connection Internet..."}), BoxButtons::Ok,
@@ -164,7 +168,7 @@ void frmUpdates::BlinkWindow(int iCount, int iMilliseconds) {
     const auto invert = [this](bool inverted) {
         if (OnInvertCaption) OnInvertCaption(inverted);
     };
-    for (int i = 0; i <= iCount; ++i) {
+    for (int i = 0; i < iCount; ++i) {
         invert(i % 2 == 0);
         app_.ports.events.YieldFor(iMilliseconds, bStopBlink);
     }

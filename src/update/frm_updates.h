@@ -32,6 +32,7 @@ class frmUpdates : public Window {
     void GetUpdates(bool bSilent);
 
   private:
+    void CheckVersions(bool bSilent);
     bool DownloadFile(TextView sUrl, TextView sLocal);
     std::vector<Text> GetKeyValues(TextView sSection, TextView sKey);
     void ShowVersions(const std::vector<Text>& asVers);

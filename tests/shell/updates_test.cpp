@@ -90,6 +90,7 @@ TEST_F(Updates, HostileListsEndInAReport) {
         Check(manifest);
         ASSERT_EQ(t.dialogs.boxes.size(), 1u) << manifest;
         EXPECT_TRUE(t.dialogs.boxes[0].text.starts_with(number)) << t.dialogs.boxes[0].text;
+        EXPECT_TRUE(t.dialogs.boxes[0].title.ends_with("\"GetUpdates")) << t.dialogs.boxes[0].title;
     }
 }
 
