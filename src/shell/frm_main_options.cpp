@@ -1,4 +1,7 @@
 // Small rules of single options.
+#include <algorithm>
+#include <optional>
+
 #include "shell/frm_main.h"
 #include "text/edit.h"
 #include "text/numbers.h"
@@ -8,9 +11,18 @@ namespace {
 
 constexpr TextView kDefaultLimit = "50";
 
+/// The number without its fraction, which stands behind a comma or a point; nothing for another text.
+std::optional<std::int64_t> WholePart(TextView text) {
+    text = Trim(text);
+    const std::size_t end = std::min(text.find_first_of(",."), text.size());
+    const TextView fraction = text.substr(std::min(end + 1, text.size()));
+    if (fraction.find_first_not_of("0123456789") != TextView::npos) return std::nullopt;
+    return ParseDecimal(text.substr(0, end));
+}
+
 /// A limit is a number of at least 1; what is no number gives way to the default while the limit is in force.
 void CheckLimit(const CheckBox& check, TextBox& limit) {
-    const auto number = ParseDecimal(limit.Get());
+    const auto number = WholePart(limit.Get());
     if (number && *number < 1) limit.SetText("1");
     if (!number && check.Checked()) limit.SetText(kDefaultLimit);
     limit.SetText(Text(Trim(limit.Get())));

@@ -143,7 +143,8 @@ TEST_F(FileCombos, AnExistingFileIsAskedFor) {
 TEST(OptionRules, LimitsAreNumbersOfAtLeastOne) {
     const struct {
         TextView typed, whenChecked, whenNot;
-    } cases[] = {{" 12 ", "12", "12"}, {"0", "1", "1"}, {"-3", "1", "1"}, {" y ", "50", "y"}, {"", "50", ""}};
+    } cases[] = {{" 12 ", "12", "12"},  {"0", "1", "1"},          {"-3", "1", "1"},   {"0,5", "1", "1"},
+                 {"2.5", "2.5", "2.5"}, {"1.2.3", "50", "1.2.3"}, {" y ", "50", "y"}, {"", "50", ""}};
     for (const auto& c : cases) {
         TestMain t;
         for (const auto& [check, limit] : {std::pair{&t.main.chkMaxLinks, &t.main.txtMaxLinks},
