@@ -1,5 +1,7 @@
 #include "extract/background_writer.h"
 
+#include <algorithm>
+
 namespace swiftroll::modSaveGed {
 namespace {
 
@@ -10,16 +12,26 @@ constexpr std::size_t kPieceSize = std::size_t{1} << 21;
 BackgroundWriter::BackgroundWriter(File& out) : out_(out) {}
 
 void BackgroundWriter::Write(TextView bytes) {
-    if (gathered_.size() + bytes.size() > kPieceSize) HandOver();
-    gathered_ += bytes;
+    std::copy(bytes.begin(), bytes.end(), Room(bytes.size()));
+    Take(bytes.size());
+}
+
+char* BackgroundWriter::Room(std::size_t size) {
+    if (gathered_.size + size > kPieceSize) HandOver();
+    if (gathered_.size + size > gathered_.capacity) {  // and nothing is in it
+        gathered_.capacity = std::max(kPieceSize, size);
+        gathered_.bytes = std::make_unique_for_overwrite<char[]>(gathered_.capacity);
+    }
+    return gathered_.bytes.get() + gathered_.size;
 }
 
 void BackgroundWriter::HandOver() {
-    if (gathered_.empty()) return;
+    if (gathered_.size == 0) return;
     Wait();
-    written_.swap(gathered_);
-    gathered_.clear();
-    if (isWhole_) writing_ = std::async(std::launch::async, [this] { out_.Write(written_); });
+    std::swap(written_, gathered_);
+    gathered_.size = 0;
+    if (!isWhole_) return;
+    writing_ = std::async(std::launch::async, [this] { out_.Write({written_.bytes.get(), written_.size}); });
 }
 
 void BackgroundWriter::Wait() {

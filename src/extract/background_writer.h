@@ -1,6 +1,7 @@
 #pragma once
 
 #include <future>
+#include <memory>
 
 #include "app/ports.h"
 
@@ -14,6 +15,10 @@ class BackgroundWriter {
 
     /// @throws Failure FileAccess when this piece or one before could not be written
     void Write(TextView bytes);
+    /// Memory for `size` bytes behind those written last, for its user to fill; `Take` then counts them as
+    /// written. They stay there until the next call of `Room` or `Write`. @throws as `Write`
+    char* Room(std::size_t size);
+    void Take(std::size_t size) { gathered_.size += size; }
     /// Waits until everything is in the file, or as much as went before a failure, which is told once.
     /// @throws Failure FileAccess
     void Finish();
@@ -22,8 +27,12 @@ class BackgroundWriter {
     void HandOver();
     void Wait();
 
+    struct Piece {
+        std::unique_ptr<char[]> bytes;
+        std::size_t capacity = 0, size = 0;
+    };
     File& out_;
-    Text gathered_, written_;
+    Piece gathered_, written_;
     std::future<void> writing_;  // of written_
     bool isWhole_ = true;        // every piece so far could be written
 };

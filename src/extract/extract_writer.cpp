@@ -1,7 +1,6 @@
 #include "extract/extract_writer.h"
 
 #include <algorithm>
-#include <future>
 
 #include "tables/column_numbers.h"
 #include "text/edit.h"
@@ -24,43 +23,34 @@ TextView RoleOf(TextView type) {
 
 }  // namespace
 
-ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& lines,
-                             std::unique_ptr<File> in, File& out)
+ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& lines, Input in, File& out)
     : app_(app),
       lines_(lines),
-      source_(std::move(in), app.cboGedIn.Get()),
+      source_(std::move(in.records), app.cboGedIn.Get()),
+      familySource_(std::move(in.families), app.cboGedIn.Get()),
       out_(out),
-      colFamToSave_(app.lvwFamily, app.lvwFamilyXref) {}
+      colFamToSave_(app) {}
 
 void ExtractWriter::Write() {
     if (lines_.head.end != 0) OutGedTag(lines_.head);
     if (lines_.subn.end != 0) OutGedTag(lines_.subn);
-    const std::vector<RecordRange> marked = CollectMarked();
     // The families are put in order while the individuals are copied: both only read the tables.
-    auto arranging = std::async(std::launch::async, [this] { colFamToSave_.Arrange(); });
-    OutIndividuals(marked);
-    arranging.get();
-    OutFamilies();
+    auto families = std::async(std::launch::async, [this] {
+        colFamToSave_.Arrange();
+        return ReadFamilies(0);
+    });
+    OutIndividuals();
+    OutFamilies(std::move(families));
     OutReferencedRecords();
     out_.Write(Concat({"0 TRLR", kLineEnd}));
     out_.Finish();
 }
 
-/// Gives the ranges of the marked individuals, and adds them to their families.
-std::vector<RecordRange> ExtractWriter::CollectMarked() {
-    std::vector<RecordRange> ranges;
+void ExtractWriter::OutIndividuals() {
     for (std::int32_t i = 1; i <= app_.lvwIn.Count(); ++i) {
         const Row person = app_.lvwIn.Item(i);
         if (!person.Marked()) continue;
-        colFamToSave_.AddFamToSave(person.Ref(In::ID));
-        ranges.push_back(RangeOfTag(person.Tag()));
-    }
-    return ranges;
-}
-
-void ExtractWriter::OutIndividuals(const std::vector<RecordRange>& marked) {
-    for (const RecordRange& range : marked) {
-        OutWithNeighbours(range);
+        OutWithNeighbours(RangeOfTag(person.Tag()));
         ++individuals_;
     }
     OutRun();
@@ -77,31 +67,31 @@ void ExtractWriter::OutWithNeighbours(const RecordRange& range) {
 void ExtractWriter::OutRun() {
     if (run_.empty()) return;
     const std::int64_t start = run_.front().start;
-    const TextView records = source_.Read({start, run_.back().end});
+    const TextView records = Copy({start, run_.back().end});
     for (const RecordRange& range : run_) {
         NoteReferences(records.substr(static_cast<std::size_t>(range.start - start), LengthOf(range)));
     }
-    OutRecord(records);
+    EndLine(records);
     run_.clear();
 }
 
-/// Families are written in an order that is not that of the file: some megabytes of them at a time are read
-/// in the order of the file, while those before them are written.
-void ExtractWriter::OutFamilies() {
-    const auto readAhead = [this](std::size_t first) {
-        return std::async(std::launch::async, [this, first] { return ReadFamilies(first); });
-    };
-    for (auto reading = readAhead(0); reading.valid();) {
+/// Families are written in an order that is not that of the file: as many at a time as memory may hold are
+/// read in the order of the file, while those before them are written.
+void ExtractWriter::OutFamilies(std::future<FamilyBatch> reading) {
+    while (reading.valid()) {
         const FamilyBatch batch = reading.get();
-        if (batch.last < colFamToSave_.Count()) reading = readAhead(batch.last);
+        if (batch.last < colFamToSave_.Count()) {
+            reading =
+                std::async(std::launch::async, [this, next = batch.last] { return ReadFamilies(next); });
+        }
         TextView records = batch.records;
         for (std::size_t i = batch.first; i < batch.last; ++i) OutGedFamilyTag(colFamToSave_[i], records);
     }
 }
 
 ExtractWriter::FamilyBatch ExtractWriter::ReadFamilies(std::size_t first) {
-    constexpr std::size_t kAtATime = std::size_t{1} << 24;
-    FamilyBatch batch{first, first, {}};
+    constexpr std::size_t kAtATime = std::size_t{1} << 26;
+    FamilyBatch batch{first, first, {}, {}};
     struct Piece {
         RecordRange range;
         std::size_t place;
@@ -116,12 +106,9 @@ ExtractWriter::FamilyBatch ExtractWriter::ReadFamilies(std::size_t first) {
     }
     std::sort(pieces.begin(), pieces.end(),
               [](const Piece& a, const Piece& b) { return a.range.start < b.range.start; });
-    batch.records.resize(total);
-    for (const Piece& piece : pieces) {
-        const TextView record = source_.Read(piece.range);
-        std::copy(record.begin(), record.end(),
-                  batch.records.begin() + static_cast<std::ptrdiff_t>(piece.place));
-    }
+    batch.bytes = std::make_unique_for_overwrite<char[]>(total);
+    batch.records = {batch.bytes.get(), total};
+    for (const Piece& piece : pieces) familySource_.ReadInto(piece.range, batch.bytes.get() + piece.place);
     return batch;
 }
 
@@ -142,7 +129,8 @@ void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextVie
         records.remove_prefix(whole.size());
         const TextView record = family.isComplete ? whole : RemoveIndis(whole, isMember, reduced_);
         NoteReferences(record);
-        OutRecord(record);
+        out_.Write(record);
+        EndLine(record);
         return;
     }
     out_.Write(Concat({"0 ", store.Get(family.sFam), " FAM", kLineEnd}));
@@ -164,9 +152,18 @@ void ExtractWriter::OutReferencedRecords() {
 }
 
 void ExtractWriter::OutGedTag(const RecordRange& range) {
-    const TextView record = source_.Read(range);
+    const TextView record = Copy(range);
     NoteReferences(record);
-    OutRecord(record);
+    EndLine(record);
+}
+
+/// Copies a range; the view of it is valid until something more is written.
+TextView ExtractWriter::Copy(const RecordRange& range) {
+    const std::size_t length = LengthOf(range);
+    char* const place = out_.Room(length);
+    source_.ReadInto(range, place);
+    out_.Take(length);
+    return {place, length};
 }
 
 void ExtractWriter::NoteReferences(TextView sRecord) {
@@ -182,8 +179,7 @@ void ExtractWriter::NoteReferences(TextView sRecord) {
 }
 
 /// The last line of a file may have no line end; what follows it in the extract must be a line of its own.
-void ExtractWriter::OutRecord(TextView sRecord) {
-    out_.Write(sRecord);
+void ExtractWriter::EndLine(TextView sRecord) {
     if (!sRecord.empty() && kLineEnd.find(sRecord.back()) == TextView::npos) out_.Write(kLineEnd);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <deque>
+#include <future>
+#include <memory>
 
 #include "app/application.h"
 #include "extract/background_writer.h"
@@ -16,9 +18,12 @@ namespace swiftroll::modSaveGed {
 /// that the reader kept; only family records are touched, so that none points at somebody who was left out.
 class ExtractWriter {
   public:
-    /// `lines` knows the ranges of the records; `in` is the file that it read, `out` the extract.
-    ExtractWriter(Application& app, const modReadGedcom::LineReader& lines, std::unique_ptr<File> in,
-                  File& out);
+    /// The file that was read, open twice: families are read while individuals are copied.
+    struct Input {
+        std::unique_ptr<File> records, families;
+    };
+    /// `lines` knows the ranges of the records of the input; `out` is the extract.
+    ExtractWriter(Application& app, const modReadGedcom::LineReader& lines, Input in, File& out);
 
     /// Writes everything. @throws Failure when a file fails, or when a record refers to one that the file
     /// does not have; what was written until then stays
@@ -32,27 +37,28 @@ class ExtractWriter {
 
   private:
     void OutGedTag(const RecordRange& range);
-    std::vector<RecordRange> CollectMarked();
-    void OutIndividuals(const std::vector<RecordRange>& marked);
+    TextView Copy(const RecordRange& range);
+    void OutIndividuals();
     void OutWithNeighbours(const RecordRange& range);
     void OutRun();
-    void OutFamilies();
     /// The families from `first` up to `last`, which is not one of them, and the records of those that are
     /// written whole, one behind the other.
     struct FamilyBatch {
         std::size_t first, last;
-        Text records;
+        std::unique_ptr<char[]> bytes;
+        TextView records;  // in `bytes`
     };
+    void OutFamilies(std::future<FamilyBatch> reading);
     FamilyBatch ReadFamilies(std::size_t first);
     /// `records` are those of the families that are written whole, from this one on.
     void OutGedFamilyTag(const FamiliesToSave::Entry& family, TextView& records);
     void OutReferencedRecords();
     void NoteReferences(TextView sRecord);
-    void OutRecord(TextView sRecord);
+    void EndLine(TextView sRecord);
 
     Application& app_;
     const modReadGedcom::LineReader& lines_;
-    RecordSource source_;
+    RecordSource source_, familySource_;
     BackgroundWriter out_;
     std::vector<RecordRange> run_;  // to be copied, each behind the one before
     FamiliesToSave colFamToSave_;

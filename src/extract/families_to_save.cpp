@@ -13,8 +13,18 @@ constexpr std::int32_t kLookAhead = 16;
 
 }  // namespace
 
-FamiliesToSave::FamiliesToSave(Table& lvwFamily, Table& lvwFamilyXref)
-    : lvwFamily_(lvwFamily), lvwFamilyXref_(lvwFamilyXref), rankOf_(lvwFamily.Store().InternedCount() + 1) {}
+FamiliesToSave::FamiliesToSave(TableSet& tables)
+    : lvwIn_(tables.lvwIn),
+      lvwFamily_(tables.lvwFamily),
+      lvwFamilyXref_(tables.lvwFamilyXref),
+      rankOf_(lvwFamily_.Store().InternedCount() + 1) {}
+
+void FamiliesToSave::AddMarked() {
+    for (std::int32_t i = 1; i <= lvwIn_.Count(); ++i) {
+        const Row person = lvwIn_.Item(i);
+        if (person.Marked()) AddFamToSave(person.Ref(In::ID));
+    }
+}
 
 void FamiliesToSave::AddFamToSave(TextRef sIndi) {
     if (sIndi.IsEmpty()) return;
@@ -47,12 +57,19 @@ std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const st
             numberOf[families_[n].sFam.Symbol()] = static_cast<std::uint32_t>(n);
     std::vector<Membership> memberships;
     memberships.reserve(static_cast<std::size_t>(lvwFamilyXref_.Count()));
+    // The members of a family stand together.
+    TextRef lastFamily;
+    std::uint32_t number = kNone;
     for (std::int32_t i = 1; i <= lvwFamilyXref_.Count(); ++i) {
-        lvwFamilyXref_.Prefetch(i + kLookAhead);
+        lvwFamilyXref_.Prefetch(i + 2 * kLookAhead);
+        if (i + kLookAhead <= lvwFamilyXref_.Count()) {
+            const TextRef soon = lvwFamilyXref_.Item(i + kLookAhead).Ref(FamilyXref::IDIndi);
+            if (!soon.IsEmpty()) PrefetchMemory(&rankOf_[soon.Symbol()]);
+        }
         const Row member = lvwFamilyXref_.Item(i);
         const TextRef sIndi = member.Ref(FamilyXref::IDIndi), sFam = member.Ref(FamilyXref::IDFam);
         if (sIndi.IsEmpty() || sFam.IsEmpty()) continue;
-        const std::uint32_t number = numberOf[sFam.Symbol()];
+        if (std::exchange(lastFamily, sFam) != sFam) number = numberOf[sFam.Symbol()];
         const Rank rank = rankOf_[sIndi.Symbol()];
         if (number == kNone) {
             if (rank != 0) throw Failure(FailureKind::KeyNotFound, lvwFamily_.Store().Get(sFam));
@@ -70,6 +87,7 @@ std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const st
 }
 
 void FamiliesToSave::Arrange() {
+    AddMarked();
     const std::vector<Membership> memberships = ReadMemberships(ReadFamilies());
     members_.resize(memberships.size());
     std::uint32_t first = 0;

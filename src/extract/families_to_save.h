@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "extract/record_range.h"
-#include "tables/table.h"
+#include "tables/schema.h"
 
 namespace swiftroll::modSaveGed {
 
@@ -13,12 +13,10 @@ namespace swiftroll::modSaveGed {
 /// to the end each time a member is added, so that families stand in the order of their last member.
 class FamiliesToSave {
   public:
-    FamiliesToSave(Table& lvwFamily, Table& lvwFamilyXref);
+    explicit FamiliesToSave(TableSet& tables);
 
-    /// Adds an individual to all its families. `sIndi` is an identifier in the store of the tables.
-    void AddFamToSave(TextRef sIndi);
-    /// Puts the families in their order; to be called when all individuals were added.
-    /// @throws Failure KeyNotFound when a family has no row
+    /// Adds each marked individual, in the order of lvwIn, to all its families, and puts these in their
+    /// order. Only reads the tables. @throws Failure KeyNotFound when a family has no row
     void Arrange();
 
     using Rank = std::uint32_t;
@@ -57,9 +55,12 @@ class FamiliesToSave {
         Member member;
     };
     using Spouses = std::array<TextRef, 3>;
+    void AddMarked();
+    void AddFamToSave(TextRef sIndi);
     std::vector<Spouses> ReadFamilies();
     std::vector<Membership> ReadMemberships(const std::vector<Spouses>& spouses);
 
+    Table& lvwIn_;
     Table& lvwFamily_;
     Table& lvwFamilyXref_;
     std::vector<TextRef> added_;  // the individuals in their order: the first one has the rank 1

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "app/ports.h"
@@ -18,8 +19,12 @@ class RecordSource {
     /// The bytes of a range; the view is valid until the next call.
     /// @throws Failure FileAccess when the file cannot be read or ends before the range
     TextView Read(const modReadGedcom::RecordRange& range);
+    /// The same into memory of that length; a long range goes there at once.
+    void ReadInto(const modReadGedcom::RecordRange& range, char* place);
 
   private:
+    std::size_t ReadAtLeast(std::size_t least, std::int64_t position, std::span<char> place);
+
     std::unique_ptr<File> file_;
     Text sFile_;
     std::vector<char> buffer_;

@@ -35,7 +35,8 @@ void frmMain::cmdSaveGed_Click() {
         "cmdSaveGed_Click",
         [&] {
             // The input first: without it, nothing of an older output is lost.
-            std::unique_ptr<File> in = ports.files.Open(input, Files::Mode::Read);
+            modSaveGed::ExtractWriter::Input in{ports.files.Open(input, Files::Mode::Read),
+                                                ports.files.Open(input, Files::Mode::Read)};
             out = ports.files.Open(output, Files::Mode::Write);
             writer.emplace(*this, modReadGedcom.lines, std::move(in), *out);
             step = "Write";

@@ -11,6 +11,7 @@
 #include "tables/column.h"
 #include "tables/key_index.h"
 #include "tables/pause.h"
+#include "tables/prefetch.h"
 #include "tables/text_store.h"
 #include "text/failure.h"
 
@@ -135,11 +136,7 @@ class Table {
     using Slot = KeyIndex::Slot;
     static constexpr std::uint8_t kSelected = 1, kChecked = 2;
 
-    void PrefetchSlot(Slot slot) const {
-#if defined(__GNUC__)
-        __builtin_prefetch(cells_.Row(slot));
-#endif
-    }
+    void PrefetchSlot(Slot slot) const { PrefetchMemory(cells_.Row(slot)); }
     Slot NewSlot();
     Row Append(const RowKey& key, TextRef text);
     void Resort();
