@@ -75,8 +75,8 @@ void ExtractWriter::OutRun() {
     run_.clear();
 }
 
-/// Families are written in an order that is not that of the file: as many at a time as memory may hold are
-/// read in the order of the file, while those before them are written.
+/// Families are written in an order that is not that of the file: some 64 MB of them at a time are read in
+/// the order of the file, while those before them are written.
 void ExtractWriter::OutFamilies(std::future<FamilyBatch> reading) {
     while (reading.valid()) {
         const FamilyBatch batch = reading.get();
@@ -90,6 +90,7 @@ void ExtractWriter::OutFamilies(std::future<FamilyBatch> reading) {
 }
 
 ExtractWriter::FamilyBatch ExtractWriter::ReadFamilies(std::size_t first) {
+    // The families of a batch lie all over the file, whose pages are read again for each batch.
     constexpr std::size_t kAtATime = std::size_t{1} << 26;
     FamilyBatch batch{first, first, {}, {}};
     struct Piece {
