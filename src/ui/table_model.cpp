@@ -1,10 +1,5 @@
 #include "table_model.h"
 
-#include <QApplication>
-#include <QFont>
-#include <QPalette>
-
-#include "colours.h"
 #include "column_marks.h"
 #include "qt_text.h"
 
@@ -62,20 +57,6 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
             return QVariant(AlignmentOf(table_.ColumnAt(column).Align));
         case Qt::CheckStateRole:
             return index.column() == 0 ? QVariant(row->Checked() ? Qt::Checked : Qt::Unchecked) : QVariant();
-        case Qt::ForegroundRole:
-        case Qt::FontRole: {
-            const CellLook whole = row->Look();
-            const CellLook look = column == 1 ? whole : row->Look(column);
-            if (role == Qt::FontRole) {
-                if (!whole.Bold && !look.Bold) return {};
-                QFont font;
-                font.setBold(true);
-                return font;
-            }
-            const std::uint32_t colour = look.ForeColor != 0 ? look.ForeColor : whole.ForeColor;
-            if (colour == 0) return {};
-            return LegibleOn(QApplication::palette().color(QPalette::Base), ColourOf(colour));
-        }
         default:
             return {};
     }

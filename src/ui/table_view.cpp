@@ -191,6 +191,7 @@ void TableView::PaintRow(QPainter& painter, const Row& row, int y, bool isAltern
     const QRect line(0, y, std::min(viewport()->width(), header_->length() - horizontalOffset()),
                      RowHeight());
     const bool selected = row.Selected();
+    const QColor ground = palette().color(group, selected ? QPalette::Highlight : QPalette::Base);
     if (selected) {
         painter.fillRect(line, palette().brush(group, QPalette::Highlight));
     } else if (isAlternate) {
@@ -220,7 +221,7 @@ void TableView::PaintRow(QPainter& painter, const Row& row, int y, bool isAltern
         const std::uint32_t colour = look.ForeColor != 0 ? look.ForeColor : whole.ForeColor;
         painter.setFont(look.Bold || whole.Bold ? bold : plain);
         if (colour != 0) {
-            painter.setPen(ColourOf(colour));
+            painter.setPen(LegibleOn(ground, ColourOf(colour)));
         } else {
             painter.setPen(palette().color(group, selected ? QPalette::HighlightedText : QPalette::Text));
         }
@@ -234,7 +235,7 @@ void TableView::PaintRow(QPainter& painter, const Row& row, int y, bool isAltern
         QStyleOptionFocusRect frame;
         frame.initFrom(this);
         frame.rect = line;
-        frame.backgroundColor = palette().color(selected ? QPalette::Highlight : QPalette::Base);
+        frame.backgroundColor = ground;
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
     }
 }

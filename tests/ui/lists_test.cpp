@@ -10,6 +10,8 @@
 namespace swiftroll::test {
 namespace {
 
+using ui::TableView;
+
 class Lists : public WindowTest {
   protected:
     void StartWithFamily() {
@@ -156,6 +158,28 @@ TEST_F(Lists, ADoubleClickJumpsAndTheTabGathersTheMarkedRows) {
     QTest::mouseDClick(Window().Tabs().tabBar(), Qt::LeftButton, {}, tab);
     EXPECT_EQ(Main().lvwIn.Item(1).Text(), "@I4@");
     EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QStringLiteral("1 \"Entrée(s)\" sélectionnée(s) sur 5"));
+}
+
+TEST_F(Lists, PaintedCellsAreLegibleOnADarkGround) {
+    StartWithFamily();
+    ShowTab(0);
+    Main().lvwIn.Item(1).SetChecked(true);
+    Main().lvwIn.SetPaintedColumn(In::LastName);
+    TableView& view = View(Main().lvwIn);
+    const auto shows = [&](const QColor& ground, const QColor& colour) {
+        QPalette palette = view.palette();
+        palette.setColor(QPalette::Base, ground);
+        view.setPalette(palette);
+        const QImage image = view.viewport()->grab().toImage();
+        for (int y = 0; y < view.RowHeight(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) == colour.rgb()) return true;
+        return false;
+    };
+    const QColor red(255, 0, 0);
+    EXPECT_TRUE(shows(Qt::white, red));
+    EXPECT_TRUE(shows(Qt::black, red.lighter(150)));
+    EXPECT_FALSE(shows(Qt::black, red));
 }
 
 TEST_F(Lists, TheSearchGoesFromMatchToMatch) {
