@@ -69,15 +69,6 @@ TEST_F(TrailTest, ReportsAreCutIntoPiecesOfFifty) {
     }
 }
 
-TEST_F(TrailTest, TheProcedureGivesItsDefaultResult) {
-    const auto good = [] { return 7; };
-    const auto bad = []() -> int { throw std::bad_alloc(); };
-    EXPECT_EQ(trail.Guard("Good", good, NoReport), 7);
-    EXPECT_TRUE(testPorts.dialogs.boxes.empty());
-    EXPECT_EQ(trail.Guard("Bad", bad, NoReport), 0);
-    EXPECT_TRUE(BoxText().starts_with("7: Mémoire insuffisante (L:"_t)) << BoxText();
-}
-
 TEST_F(TrailTest, ALogThatCannotBeWrittenCostsNothingMore) {
     testPorts.files.readOnly.insert("log");
     Fail("Proc");

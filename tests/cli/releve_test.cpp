@@ -12,26 +12,6 @@ struct Releve : CliTest {
     const Strings kWrite = {"releve", "f.ged", "-o"}, kReplace = {"releve", "f.ged", "-f", "-o"};
 };
 
-TEST_F(Releve, TheModelIsFilledByteForByte) {
-    const Outcome run = Cli(kWrite + Strings{"x.txt", "--modele", "m"});
-    EXPECT_EQ(run.code, 0) << run.err;
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(Bytes("x.txt"),
-              "f.ged\nNom;Lieu;Date Min;Date Max;Nbre;\nBo\x81;Brest; ; ;     1;\n"
-              "de\tla \\Cour\x9C;Paris, Seine;1850;1880;     2;\n");
-    EXPECT_TRUE(run.Says("3 Individu(s)\n"));
-    const Strings toStdout = kWrite + Strings{"-", "--format", "texte", "--modele", "m", "-q"};
-    EXPECT_EQ(Cli(toStdout).out, Bytes("x.txt"));
-    EXPECT_FALSE(Exists("-"));
-    const Strings marked = toStdout + Strings{"--marques"};
-    EXPECT_EQ(Cli(marked).out, "f.ged\nNom;Lieu;Date Min;Date Max;Nbre;\n");
-    EXPECT_EQ(Cli(marked + Strings{"--marquer", "@I3@"}).out,
-              "f.ged\nNom;Lieu;Date Min;Date Max;Nbre;\nde\tla \\Cour\x9C;Paris, Seine;1850;1880;     2;\n");
-    const Outcome unknown = Cli(marked + Strings{"--marquer", "@I9@"});
-    EXPECT_EQ(unknown.code, 1);
-    EXPECT_EQ(unknown.out, "");
-}
-
 TEST_F(Releve, TheExtensionDecidesTheFormat) {
     const std::string html = "<!DOCTYPE ht", text = "  RELEV\xC9-VIF", xml = "<?xml versio";
     const std::pair<Strings, std::string> cases[] = {{{"a.html"}, html},

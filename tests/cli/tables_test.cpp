@@ -23,23 +23,6 @@ struct Tables : CliTest {
     }
 };
 
-TEST_F(Tables, IndividualsInFileOrder) {
-    const Outcome run = Cli({"tables", "f.ged"});
-    EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(
-        run.out,
-        "ID\tLastName\tFirstName\tBirthPlace\tBirthMin\tBirthMax\tDeathPlace\tDeathMin\tDeathMax\tPlace\t"
-        "DateMin\tDateMax\tSex\tMarrPlace\tMarrMin\tMarrMax\tIslandNr\n"
-        "@I1@\tde\\tla \\\\Courœ\tRené\tParis, Seine\t1850\t1850\t\t\t\tParis, "
-        "Seine\t1850\t1850\tM\t\t\t\t0001\n"
-        "@I2@\tBo\xC2\x81\tAnne\tBrest\t\t\tLyon\t\t\tBrest\t\t\tF\t\t\t\t0001\n"
-        "@I3@\tDE LA COUR\tLuc\tPARIS SEINE\t1880\t1880\t\t\t\tPARIS SEINE\t1880\t1880\t\t\t\t\t0001\n");
-    EXPECT_EQ(run.err, "Ligne(s) GEDCOM : 29\n3 Individu(s)\n1 Famille(s)\nLecture terminée\n");
-    const Outcome quiet = Cli({"tables", "f.ged", "-q", "-t", "lvwIn"});
-    EXPECT_EQ(quiet.out, run.out);
-    EXPECT_EQ(quiet.err, "");
-}
-
 TEST_F(Tables, SeveralTablesWithTheirKeysAndMarks) {
     const Strings lines =
         Cli({"tables", "f.ged", "-t", "lvwFamilyXref,lvwOut,lvwKinship,lvwIn", "--cles", "--marquer", "@I3@"})
@@ -159,19 +142,6 @@ TEST_F(Tables, MarksAreAddedAndRemovedInTheOrderOfTheCommandLine) {
     const Outcome list = Cli({"releve", "f.ged", "-q", "-o", "-", "--format", "texte", "--marques",
                               "--marquer", "@I1@", "--ajouter", "conjoints"});
     EXPECT_NE(list.out.find("Brest"), std::string::npos) << list.out;
-}
-
-TEST_F(Tables, AFailedSelectionKeepsTheMarksMadeSoFar) {
-    Put("gone.ged",
-        "0 @I1@ INDI\r\n0 @I2@ INDI\r\n0 @F1@ FAM\r\n1 HUSB @I1@\r\n1 WIFE @I2@\r\n1 CHIL @I3@\r\n"
-        "1 CHIL @I2@\r\n0 TRLR\r\n");
-    const Outcome run = Cli({"tables", "gone.ged", "-q", "--cles", "--marquer", "@I1@", "--ajouter",
-                             "conjoints", "--ajouter", "enfants"});
-    EXPECT_EQ(run.code, 1) << run.err;
-    EXPECT_TRUE(run.Says("Add_Remove_Selection")) << run.err;
-    EXPECT_EQ(run.Lines().size(), 3u) << run.out;
-    for (std::size_t i = 1; i < run.Lines().size(); ++i)
-        EXPECT_NE(run.Lines()[i].find("\tSC\t"), std::string::npos);
 }
 
 TEST_F(Tables, HelpAndVersion) {

@@ -138,17 +138,5 @@ TEST(Families, AliasesAreLinksUntilAFamilyLinksTheSamePair) {
                     "@I2@|ALIA|||||", "@I3@|ALIA|@I2@||||", "@I3@|ALIA|@X9@||||", "@X9@|ALIA|@I3@||||"}));
 }
 
-TEST(Families, ManyPairsOfOnePersonStayUnique) {
-    Text file = "0 @H@ INDI\n0 @F@ FAM\n1 HUSB @H@\n";
-    constexpr int kChildren = 60;
-    for (int pass = 0; pass < 2; ++pass) {
-        for (int i = 0; i < kChildren; ++i) file += "1 CHIL @C" + Decimal(i) + "@\n";
-    }
-    for (int i = 0; i < kChildren; ++i) file += "0 @C" + Decimal(i) + "@ INDI\n1 ALIA @H@\n";
-    AfterReading t(file + "0 TRLR\n");
-    EXPECT_EQ(t.main.lvwFamilyXref.Count(), kChildren + 1);
-    EXPECT_EQ(t.main.lvwXref.Count(), 2 * kChildren);
-}
-
 }  // namespace
 }  // namespace swiftroll::test

@@ -108,23 +108,6 @@ TEST(ReadCommand, AnAbortKeepsWhatWasRead) {
     }
 }
 
-TEST(ReadCommand, CommandsBetweenTheRecordsDoNoHarm) {
-    TestMain t;
-    t.events.onYield = [&] {
-        t.main.lvwIn.SortBy(In::LastName - 1, 1);
-        t.main.lvwFamilyXref.SortBy(FamilyXref::IDIndi - 1, 1);
-        t.main.cmdRecalcIn.Click();
-        t.main.cmdCalcOutput.Click();
-        t.main.cboLoad.SetListIndex(0);
-    };
-    t.Read(WithCrLf(kCouple));
-    EXPECT_EQ(t.main.lvwIn.Item("@I1@").Cell(In::LastName), "A");
-    EXPECT_EQ(t.main.lvwIn.Item("@I2@").Cell(In::IslandNr), "0001");
-    EXPECT_EQ(CellsOf(t.main.lvwXref, {Xref::IDIndi1, Xref::Type, Xref::IDIndi2}),
-              Rows({"@I1@|Epoux|@I2@", "@I2@|ALIA|@I3@", "@I2@|Epouse|@I1@", "@I3@|ALIA|@I2@"}));
-    EXPECT_EQ(t.main.trail.Reports(), 0);
-}
-
 TEST(ReadCommand, ASecondReadReplacesAllButTheList) {
     TestMain t;
     t.ReadAndList(WithCrLf(kCouple));

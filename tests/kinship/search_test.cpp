@@ -184,40 +184,6 @@ TEST(KinshipSearch, AnotherRequestIsRefusedWhileOneRuns) {
     EXPECT_EQ(t.main.modKinship.lNrLinks, found);
 }
 
-TEST(KinshipSearch, OtherCommandsDuringTheWalkChangeNothingOfIt) {
-    AfterRead quiet(LadderFile(4));
-    quiet.Find("M0", "W4");
-    AfterRead t(LadderFile(4));
-    t.events.onYield = [&] {
-        t.main.lvwIn.SortBy(static_cast<std::int16_t>(t.events.yields % 3), 1);
-        if (t.events.yields % 5 == 0) t.main.lvwKinship.SortBy(1, 0);
-        t.main.lvwXref1.SortBy(static_cast<std::int16_t>(t.events.yields % 3), t.events.yields % 2 == 0);
-    };
-    t.Find("M0", "W4");
-    EXPECT_EQ(t.Paths(), quiet.Paths());
-    for (AfterRead* program : {&quiet, &t}) {
-        program->main.lvwXref1.SortBy(Xref1::Indi1 - 1, 0);
-        program->main.lvwXref1.SortBy(Xref1::Family - 1, 0);
-    }
-    EXPECT_EQ(RowsOf(t.main.lvwXref1), RowsOf(quiet.main.lvwXref1));
-}
-
-TEST(KinshipSearch, LinksSortedDuringTheCopyAreCopiedAllTheSame) {
-    AfterRead quiet(LadderFile(300)), t(LadderFile(300));
-    t.events.onYield = [&] { t.main.lvwXref.SortBy(Xref::Indi2 - 1, 1); };
-    for (AfterRead* program : {&quiet, &t}) {
-        const int yields = program->events.yields;
-        program->main.chkMaxLinks.SetChecked(true);
-        program->main.txtMaxLinks.SetText("1");
-        program->Find("M0", "W0");
-        EXPECT_GT(program->events.yields, yields);
-        program->main.lvwXref1.SortBy(Xref1::Indi2 - 1, 0);
-        program->main.lvwXref1.SortBy(Xref1::Indi1 - 1, 0);
-    }
-    EXPECT_EQ(t.main.trail.Reports(), 0);
-    EXPECT_EQ(RowsOf(t.main.lvwXref1), RowsOf(quiet.main.lvwXref1));
-}
-
 TEST(KinshipSearch, AReadDuringTheWalkEndsItThroughTheTrail) {
     AfterRead t(LadderFile(6));
     bool hasRead = false;

@@ -33,20 +33,6 @@ TEST_F(Grouping, KeysOfTheListAreThoseOfItsIndividuals) {
     }
 }
 
-TEST_F(Grouping, FollowsTheColumnsAtEachComputation) {
-    AddIndividual(main, "@1@", {{"LastName", "Le Gall"}, {"Place", "Brest"}, {"DateMin", "1700"}});
-    AddIndividual(main, "@2@", {{"LastName", "LE-GALL"}, {"Place", "Quimper"}, {"DateMin", "1690"}});
-    EXPECT_EQ(List({"LastName", "Place"}), (Texts{"Le Gall|Brest|     1", "LE-GALL|Quimper|     1"}));
-    EXPECT_EQ(List({"DateMin", "LastName"}), Texts{"1690|Le Gall|     2"});
-    EXPECT_EQ(ColumnOf(main.lvwOut, "Place"), Texts{""});
-    EXPECT_EQ(List({}), Texts{"     2"});
-    EXPECT_EQ(main.lvwOut.Item(1).Key(), "");
-    // Without individuals the list stays.
-    main.lvwIn.Clear();
-    EXPECT_EQ(List({}), Texts{"     2"});
-    EXPECT_FALSE(main.bWaitCursor);
-}
-
 TEST_F(Grouping, WidthsOfTheList) {
     AddIndividual(main, "@1@", {{"LastName", "Montmorency"}, {"FirstName", "Anne"}, {"Place", "Chantilly"}});
     List({});

@@ -10,8 +10,8 @@ namespace {
 
 struct Sorting : testing::Test, TestMain {
     /// The cells of the column after a click on its header.
-    Texts Click(Table& table, TextView key, bool shiftIsDown = false) {
-        modCalcOut::lvw_ColumnClick(main, table, *table.FindColumn(key), shiftIsDown);
+    Texts Click(Table& table, TextView key) {
+        modCalcOut::lvw_ColumnClick(main, table, *table.FindColumn(key), false);
         return ColumnOf(table, key);
     }
 };
@@ -50,29 +50,6 @@ TEST_F(Sorting, YearsNumbersAndIdentifiersSortByValue) {
         main.lvwOut.Add(std::nullopt, count, "").SetSubItems(2, TextView(count));
     }
     EXPECT_EQ(Click(main.lvwOut, "Number"), (Texts{"     9", "    10", "100000"}));
-}
-
-TEST_F(Sorting, ShiftSwitchesAColumnForExportButNotInTheList) {
-    main.lvwXref.Add(std::nullopt, "b", "b");
-    main.lvwXref.Add(std::nullopt, "a", "a");
-    const Column& type = *main.lvwXref.FindColumn("Type");
-    Click(main.lvwXref, "Type");
-    Click(main.lvwXref, "Type", true);
-    EXPECT_EQ(type.Icon, "OfDw");
-    Click(main.lvwXref, "IDIndi1");
-    EXPECT_EQ(type.Icon, "OfNo");
-    Click(main.lvwXref, "Type", true);
-    EXPECT_EQ(type.Icon, "OnNo");
-    for (const Column& column : main.lvwXref.Columns()) {
-        EXPECT_TRUE(dialogs.boxes.empty());
-        Click(main.lvwXref, column.Key, true);
-    }
-    EXPECT_EQ(ColumnOf(main.lvwXref, "IDIndi1"), (Texts{"b", "a"}));
-    ASSERT_EQ(dialogs.boxes.size(), 1u);
-    EXPECT_EQ(dialogs.boxes[0].title, main.MainCaption() + Text(" - Sélection Colonnes"_t));
-    const Text icon = main.lvwOut.FindColumn("LastName")->Icon;
-    Click(main.lvwOut, "LastName", true);
-    EXPECT_EQ(main.lvwOut.FindColumn("LastName")->Icon, icon);
 }
 
 TEST_F(Sorting, ComparisonFormsUnderTheOptions) {

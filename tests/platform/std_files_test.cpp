@@ -50,21 +50,6 @@ class StdFilesTest : public testing::Test {
     StdFiles files;
 };
 
-TEST_F(StdFilesTest, BytesComeBackAsTheyWereWritten) {
-    const Text bytes = Text("a\r\nb\n\x1A\0\xFF", 8);
-    Write(In("f"), "what a new file loses");
-    Write(In("f"), bytes);
-    Write(In("f"), "+", Mode::Append);
-    EXPECT_EQ(Read(In("f")), bytes + "+");
-    EXPECT_EQ(files.Open(In("f"), Mode::Read)->Length(), 9);
-    for (const std::string name : {"été €.ged", "日本.ged", "\xFF\xFE.ged", "e\u0301"}) {
-        const Text text = FileNameToText(folder + "/" + name);
-        Write(text, name, Mode::Append);
-        EXPECT_TRUE(fs::exists(fs::path(folder) / name) && files.Exists(text));
-        EXPECT_EQ(Read(text), name);
-    }
-}
-
 TEST_F(StdFilesTest, WhatCannotBeOpenedIsAFailureWithItsReason) {
     Write(In("file"), "x");
     for (const Mode mode : {Mode::Read, Mode::Write, Mode::Append}) {

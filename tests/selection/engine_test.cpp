@@ -1,6 +1,4 @@
 // What the selection does in cases that a genealogist would tell apart, and how it fails.
-#include <array>
-
 #include "kinship/kinship_fixture.h"
 #include "list/list_fixture.h"
 
@@ -14,11 +12,11 @@ struct Selected : AfterRead {
     void Mark(Table& table, std::initializer_list<TextView> keys) {
         for (const TextView key : keys) table.Item(key).SetChecked(true);
     }
-    /// Clicks on a column, from 0, and adds or removes.
-    void Run(Table& table, int column, TextView sMode, bool bSelect = true) {
+    /// Clicks on a column, from 0, and adds.
+    void Run(Table& table, int column, TextView sMode) {
         main.lvwActiveListView = &table;
         main.modSelectionIn.context.SetClickedCell(main, table, column);
-        main.modSelectionIn.Add_Remove_Selection(bSelect, sMode);
+        main.modSelectionIn.Add_Remove_Selection(true, sMode);
     }
     /// The marked individuals: "A B".
     Text Marked() {
@@ -77,83 +75,6 @@ TEST(Selection, ACellMeansWhatItsColumnHolds) {
     EXPECT_EQ(before, Rows({"ID", "LastName", "Place"}));
 }
 
-TEST(Selection, FollowsTheMarksThatItMakesDownTheTable) {
-    // Grand is above Mum in the file, Dad and Gran below their children.
-    Selected t({"Grand m", "Mum f", "Kid m", "Dad m", "Gran f"},
-               {"Grand - Mum", "Dad Mum Kid", "- Gran Dad"});
-    t.Mark(t.main.lvwIn, {"@Kid@"});
-    t.Run(t.main.lvwIn, 0, "P");
-    EXPECT_EQ(t.Marked(), "Mum Kid Dad Gran");
-    // Kid unmarks his parents before Dad could unmark Gran.
-    t.Run(t.main.lvwIn, 0, "P", false);
-    EXPECT_EQ(t.Marked(), "Kid Gran");
-}
-
-TEST(Selection, MarksTheRelativesOfPeopleAndFamilies) {
-    Selected t({"A m", "B f", "C f", "D m", "E m", "F f"}, {"A B D", "A C E", "F - D"});
-    const struct {
-        Table& table;
-        TextView key;
-        int column;
-        TextView sMode, marked;
-    } cases[] = {
-        {t.main.lvwFamily, "@F1@", 7, "S", "A B"},         // a family
-        {t.main.lvwFamily, "@F1@", 8, "S", "B C"},         // the spouses of its husband
-        {t.main.lvwFamily, "@F1@", 8, "C", "D E"},         // two marriages
-        {t.main.lvwFamily, "@F2@", 0, "C", "E"},           //
-        {t.main.lvwFamily, "@F2@", 9, "P", ""},            // nobody's child
-        {t.main.lvwFamilyXref, "@F3@@D@", 2, "P", "A B"},  // the first of two families of origin
-        {t.main.lvwFamilyXref, "@F3@@D@", 0, "S", "F"},   {t.main.lvwXref, "@A@@B@", 2, "I", "B"},
-        {t.main.lvwXref, "@A@@B@", 0, "V=", "B C D E"},  // all to whom A is linked
-        {t.main.lvwFamily, "@F1@", 1, "V=", "B C"},
-    };
-    for (const auto& c : cases) {
-        t.UnmarkAll();
-        t.Mark(c.table, {c.key});
-        t.Run(c.table, c.column, c.sMode);
-        EXPECT_EQ(t.Marked(), c.marked) << c.table.Name() << c.column << c.sMode;
-        EXPECT_TRUE(c.table.Item(c.key).Checked());
-        EXPECT_FALSE(c.table.Item(c.key).Selected());
-    }
-    EXPECT_EQ(t.main.trail.Reports(), 0);
-}
-
-TEST(Selection, ComparesYearsOfTheListAsTexts) {
-    TestMain t;
-    Arrange(t.main.lvwOut, {"LastName", "DateMax"});
-    for (const auto& [id, name, year] : std::initializer_list<std::array<TextView, 3>>{
-             {"@A@", "X", "1700"}, {"@B@", "x!", "1850"}, {"@C@", "Y", "1849"}, {"@D@", "Z", "999"}}) {
-        AddIndividual(t.main, id, {{"LastName", name}, {"DateMax", year}});
-    }
-    t.main.cmdCalcOutput.Click();
-    Table& list = t.main.lvwOut;
-    list.Item("\\X").SetSelected(true);
-    t.main.lvwActiveListView = &list;
-    t.main.modSelectionIn.context.SetClickedCell(t.main, list, list.FindColumn("DateMax")->Index - 1);
-    t.main.modSelectionIn.Add_Remove_Selection(true, "V>=");
-    Text marked;
-    for (std::int32_t i = 1; i <= 4; ++i) {
-        if (t.main.lvwIn.Item(i).Marked()) marked += t.main.lvwIn.Item(i).Text();
-    }
-    EXPECT_EQ(marked, "@A@@B@@D@");
-}
-
-TEST(Selection, LeavesTheEndsOfPathsAlone) {
-    Selected t({"A m", "B f", "C m"}, {"A B C"});
-    t.Find("A", "C");
-    Row end = t.main.lvwKinship.Item(t.main.lvwKinship.Count());
-    ASSERT_TRUE(end.Text().ends_with("999999"));
-    end.SetCell(Kinship::IDIndi, "@B@");
-    t.UnmarkAll();
-    end.SetSelected(true);
-    t.Run(t.main.lvwKinship, 0, "V=");
-    EXPECT_EQ(t.Marked(), "A C");
-    t.UnmarkAll();
-    end.SetSelected(true);
-    t.Run(t.main.lvwKinship, 0, "I");
-    EXPECT_EQ(t.Marked(), "B");
-}
-
 TEST(Selection, AFailureEndsItAndKeepsTheMarksMade) {
     Selected t({"A m", "B f", "C m", "D f"}, {"A - C", "B Gone D"});
     t.Mark(t.main.lvwFamily, {"@F1@", "@F2@"});
@@ -179,31 +100,6 @@ TEST(Selection, AFailureEndsItAndKeepsTheMarksMade) {
     t.Run(t.main.lvwFamily, 0, "V=");
     EXPECT_EQ(t.Marked(), "B C D");
     EXPECT_EQ(t.main.trail.Reports(), 2);
-}
-
-TEST(Selection, DoesNothingWithoutATableOrAWay) {
-    Selected t({"A m"}, {});
-    t.main.modSelectionIn.context.bRestoreClickedRow = true;
-    t.main.modSelectionIn.Add_Remove_Selection(true, "I");
-    EXPECT_FALSE(t.main.modSelectionIn.context.bRestoreClickedRow);
-    t.Mark(t.main.lvwIn, {"@A@"});
-    t.Run(t.main.lvwIn, 0, "?1");
-    t.main.modSelectionIn.SelectIn("", false);
-    EXPECT_EQ(t.Marked(), "A");
-    EXPECT_EQ(t.main.trail.Reports(), 0);
-}
-
-TEST(Selection, CellsAreReadRawOrAsTheyAreCompared) {
-    Selected t("0 @A@ INDI\r\n1 NAME Renée-A. /x/\r\n0 TRLR\r\n"_t);
-    const Row row = t.main.lvwIn.Item(1);
-    const auto& engine = t.main.modSelectionIn;
-    EXPECT_EQ(engine.GetCell(row, 0, true), "@A@");
-    EXPECT_EQ(engine.GetCell(row, 2, true), "Renée-A."_t);
-    EXPECT_EQ(engine.GetCell(row, 2, false), "RENEE A");
-    t.main.chkIgnoreCase.SetChecked(false);
-    EXPECT_EQ(engine.GetCell(row, 2, false), "Renee A");
-    t.main.chkDelAccents.SetChecked(false);
-    EXPECT_EQ(engine.GetCell(row, 2, false), "Renée-A."_t);
 }
 
 }  // namespace

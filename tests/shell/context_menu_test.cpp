@@ -4,8 +4,6 @@
 namespace swiftroll::test {
 namespace {
 
-using Texts = std::vector<Text>;
-
 struct ContextMenu : Lists {
     /// The offer of the menu for a cell: a letter for each enabled entry. Individuals, Parents, Spouses,
     /// Children, Values, and whether the columns can be switched, the row unmarked, a favourite made, kinship
@@ -33,62 +31,6 @@ struct ContextMenu : Lists {
         return offer;
     }
 };
-
-/// The captions of a menu and, below it, of its submenus.
-void AddCaptions(const Menu& menu, int depth, Texts& captions) {
-    for (const Menu& entry : menu.entries) {
-        captions.push_back(Text(static_cast<std::size_t>(depth), ' ') + entry.head.Caption);
-        AddCaptions(entry, depth + 1, captions);
-    }
-}
-
-TEST_F(ContextMenu, HasItsEntriesInOrder) {
-    Point(main.lvwIn, 0, In::LastName - 1);
-    Texts captions;
-    dialogs.onMenu = [&](const Menu& menu) { AddCaptions(menu, 0, captions); };
-    main.lvw_MouseUp(MouseButton::Left);
-    EXPECT_TRUE(captions.empty());
-    main.lvw_MouseUp(MouseButton::Right);
-    EXPECT_EQ(captions, Rows({"Ajouter aux Favoris",
-                              "Colonnes de la liste",
-                              " Sélectionner toutes"_t,
-                              " Désélectionner toutes"_t,
-                              " RAZ des largeurs",
-                              "--------------- Sélection ---------------"_t,
-                              "Afficher Sélectionné Suivant"_t,
-                              "Désélectionner Courant"_t,
-                              "Désélectionner Tout"_t,
-                              "Sélectionner Tout"_t,
-                              "Inverser la Sélection"_t,
-                              "Copier dans le presse-papier",
-                              "Rechercher...",
-                              "Rechercher suivant",
-                              "---------- Sélection en Entrée ----------"_t,
-                              "Désélectionner tout dans liste Entrée"_t,
-                              "Ajouter dans la liste Entrée"_t,
-                              " Individus",
-                              " Parents",
-                              " Conjoints",
-                              " Enfants",
-                              " Nom est <=",
-                              " Nom est =",
-                              " Nom est >=",
-                              "Enlever de la liste Entrée"_t,
-                              " Individus",
-                              " P&arents",
-                              " C&onjoints",
-                              " En&fants",
-                              " Nom est <=",
-                              " Nom est =",
-                              " Nom est >=",
-                              "---------- Liens de Parenté ----------"_t,
-                              "Recherche Parenté"_t,
-                              "Dessin des parentés"_t,
-                              " Dessin Une Parenté (Simple)"_t,
-                              " Dessin Une Parenté (avec conjoint)"_t,
-                              " Dessin Toutes Parentés (Simple)"_t,
-                              " Dessin Toutes Parentés (avec conjoint)"_t}));
-}
 
 TEST_F(ContextMenu, OffersWhatTheCellNames) {
     const TextView person = "IPSCVcdfIPSCV", family = "SCVcdfSCV", none = "cdf";

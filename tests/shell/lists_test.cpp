@@ -139,36 +139,6 @@ TEST_F(Lists, ADoubleClickInTheListMarksTheGroups) {
     EXPECT_EQ(Marks(main.lvwIn), ".....");
 }
 
-TEST_F(Lists, ADoubleClickOnATabGathersItsMarkedRows) {
-    CellLook look;
-    look.Icon = "icon";
-    main.lvwIn.SortBy(0, 0);
-    main.lvwIn.Item(3).SetLook(2, look);
-    const Text tag(main.lvwIn.Item("@I3@").Tag());
-    Mark(main.lvwIn, "..c.s");
-    std::vector<Text> seen;
-    main.lvwIn.OnEnsureVisible = [&](const Row& row) { seen.push_back(row.Key()); };
-    main.SSTab1 = Tab::In;
-    main.SSTab1_DblClick();
-    EXPECT_EQ(Keys(main.lvwIn), "@I3@@I5@@I1@@I2@@I4@");
-    EXPECT_EQ(Marks(main.lvwIn), "cs...");
-    const Row moved = main.lvwIn.Item("@I3@");
-    EXPECT_EQ(moved.Index(), 1);
-    EXPECT_EQ(moved.Tag(), tag);
-    EXPECT_EQ(moved.Look(2), look);
-    EXPECT_EQ(seen.back(), "@I5@");
-    EXPECT_EQ(main.lvwIn.ColumnAt(1).Icon, "OnNo");
-    EXPECT_EQ(main.pnlMessage.Get(), "2 \"Entrée(s)\" sélectionnée(s) sur 5"_t);
-    // Tabs of options have no rows.
-    main.ShowTab(Tab::Options);
-    main.lvwIn.Item(4).SetChecked(true);
-    main.SSTab1_DblClick();
-    EXPECT_EQ(Keys(main.lvwIn), "@I3@@I5@@I1@@I2@@I4@");
-    EXPECT_EQ(main.pnlMessage.Get(), "2 \"Entrée(s)\" sélectionnée(s) sur 5"_t);
-    dialogs.onMenu = [](const Menu&) { FAIL() << "no table is there"; };
-    main.SSTab1_RightClick();
-}
-
 TEST_F(Lists, ATabGivesTheFocusToWhatItIsFor) {
     const std::pair<Tab, Table*> tables[] = {
         {Tab::In, &main.lvwIn},     {Tab::Out, &main.lvwOut},       {Tab::FamilyXref, &main.lvwFamilyXref},

@@ -77,22 +77,6 @@ TEST_F(ParameterSets, ANameBringsBackTheCellsThatWereSavedUnderIt) {
     EXPECT_TRUE(dialogs.boxes.empty());
 }
 
-TEST_F(ParameterSets, AStartLoadsTheSetThatStandsOnTop) {
-    main.cmdColorMale.SetColour(7);
-    main.lblFont.Caption = "Garamond, 9 pt";
-    SaveAs(main.cboCells, "a", main.cmdSaveCells);
-    main.cmdColorMale.SetColour(8);
-    main.txtKinH.SetText("44");
-    main.SaveAllControls();
-    frmMain next(All());
-    next.Form_Load({});
-    EXPECT_EQ(next.cmdColorMale.Colour(), 7u);
-    EXPECT_EQ(next.lblFont.Caption, "Garamond, 9 pt");
-    EXPECT_EQ(next.txtKinH.Get(), "44");  // the option itself was saved later
-    EXPECT_EQ(next.cboOutPlace.Get(), "Tout");
-    EXPECT_TRUE(next.cboOutPlace.Items().empty());
-}
-
 TEST_F(ParameterSets, NothingIsSavedUnderANameThatIsNotInTheList) {
     main.cboCells.SetText("typed");
     for (Command* save : {&main.cmdSaveCells, &main.cmdSaveColumns, &main.cmdSavePlace}) save->Click();

@@ -140,18 +140,6 @@ TEST_F(TableTest, EveryAccessIsChecked) {
     EXPECT_TRUE(!table.Sorted() && table.SortKey() == 0);
 }
 
-TEST_F(TableTest, AHandleStaysWithItsRow) {
-    AddRows("ba");
-    const Row row = table.Item("b");
-    for (int i = 0; i < 10000; ++i) table.Add(1, "", "c");
-    EXPECT_EQ(row.Index(), 10001);
-    table.SortBy(0, 0);
-    EXPECT_EQ(row.Index(), 2);
-    EXPECT_EQ(row.Text(), "b");
-    EXPECT_EQ(table.FindOrAdd(Pair("a", ""), {}).Index(), 1);
-    EXPECT_EQ(table.FindOrAdd(Pair("a", "b"), {}).Index(), 10003);
-}
-
 TEST_F(TableTest, AHandleFromBeforeARemovalIsRefused) {
     const std::function<void(Row&)> uses[] = {
         [](Row& row) { row.Text(); },

@@ -5,7 +5,6 @@
 #include <map>
 #include <random>
 
-#include "tables/keyed_collection.h"
 #include "text/literal.h"
 
 namespace swiftroll {
@@ -63,16 +62,6 @@ TEST(TextStore, InternedTextsAreStoredOnce) {
     for (const auto& [text, ref] : known) ASSERT_EQ(store.Get(ref), text);
     EXPECT_TRUE(store.Intern("").IsEmpty());
     EXPECT_FALSE(store.Put("@I1@").IsInterned());
-}
-
-TEST(KeyedCollection, KeysIgnoreCaseAndTheFirstValueStays) {
-    KeyedCollection<int> collection;
-    for (int i = 0; i < 5000; ++i) ASSERT_TRUE(collection.Add(Concat({"@é"_t, std::to_string(i), "x@"}), i));
-    EXPECT_FALSE(collection.Add("@É77X@"_t, -1));
-    EXPECT_EQ(collection.Count(), 5000u);
-    for (int i = 0; i < 5000; ++i) ASSERT_EQ(collection.Find(Concat({"@É"_t, std::to_string(i), "X@"})), i);
-    EXPECT_EQ(collection.Find("@e77x@"), std::nullopt);
-    EXPECT_EQ(collection.Find(""), std::nullopt);
 }
 
 }  // namespace

@@ -91,27 +91,5 @@ TEST_F(Journey, TwoMarkedRowsLeadToADrawing) {
     EXPECT_TRUE(Content(page).contains("DUPONT"));
 }
 
-TEST_F(Journey, AFileOfTheCommandLineIsNotReadYet) {
-    const QString file = Write(QStringLiteral("arbre.ged"), kFamily);
-    Start(QLatin1Char('"') + file + QLatin1Char('"'));
-    EXPECT_EQ(Find<QComboBox>("cboGedIn").currentText(), file);
-    EXPECT_EQ(Main().lvwIn.Count(), 0);
-}
-
-TEST_F(Journey, TheSameNameForTwoFilesIsRefusedOnLeavingIt) {
-    Start();
-    auto& input = Find<QComboBox>("cboGedIn");
-    auto& output = Find<QComboBox>("cboGedOut");
-    output.setFocus();
-    const QString former = output.currentText();
-    output.lineEdit()->selectAll();
-    QTest::keyClicks(output.lineEdit(), input.currentText());
-    OnBox(QMessageBox::Ok);
-    ShowTab(6);
-    Click("chkIncludeHeaders");
-    EXPECT_TRUE(boxes.value(0).contains(QStringLiteral("Vous allez écraser le fichier"))) << boxes.size();
-    EXPECT_EQ(output.currentText(), former);
-}
-
 }  // namespace
 }  // namespace swiftroll::test

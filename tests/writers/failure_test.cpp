@@ -6,19 +6,6 @@ namespace {
 
 const Text kOpenOutput = Text("Erreur d'écriture dans le fichier out/list.html."_t);
 
-TEST_F(Writing, AFileThatCannotBeOpenedIsTold) {
-    ListSurnames({"A"});
-    files.readOnly = {"out/list.html", "out/list.xml"};
-    files.contents["out/list.html"] = files.contents["out/list.xml"] = "before";
-    EXPECT_EQ(Write(kHtml, kBareHtml), "before");
-    EXPECT_EQ(Told(), Texts{kOpenOutput});
-    EXPECT_FALSE(main.bWaitCursor);
-    // Of XML the caller learns it in another way.
-    EXPECT_EQ(Write(kXml, ""), "before");
-    EXPECT_TRUE(Told().empty());
-    EXPECT_FALSE(main.bWriteComplete);
-}
-
 TEST_F(Writing, AFullDiskLeavesTheBeginningAndIsKnown) {
     ListSurnames({"A", "B"});
     for (const int format : {kHtml, kXml}) {
