@@ -33,9 +33,9 @@ QByteArray Answer(const QByteArray& content, const QByteArray& status = "200 OK"
 
 class Download : public WindowTest {
   protected:
-    void Fetch(const Server& server) {
-        program_->ThePresenter().Act(
-            [&] { Main().ports.network.Download(server.Address(), ui::FromQt(Local())); });
+    void Fetch(const Server& server) { Fetch(server, ui::FromQt(Local())); }
+    void Fetch(const Server& server, TextView file) {
+        program_->ThePresenter().Act([&] { Main().ports.network.Download(server.Address(), file); });
     }
     QString Local() const { return Path(QStringLiteral("Updates.ini")); }
     QByteArray Content() const {
@@ -57,6 +57,33 @@ TEST_F(Download, OnlyAWholeAnswerTakesThePlaceOfTheFormerCopy) {
     EXPECT_EQ(Content(), list) << "huge";
     Fetch(Server("no HTTP at all\r\n\r\n", true));
     EXPECT_EQ(Content(), list) << "garbage";
+}
+
+TEST_F(Download, HostileListsAreShownOrReported) {
+    Start();
+    auto& tree = Find<QTreeWidget>("tvwUpdates");
+    const auto check = [&](const QByteArray& list) {
+        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+        Fetch(Server(Answer("[-SwiftRoll]\r\n" + list), true),
+              Main().PathOf(Main().sUserAppData, "Updates.ini"));
+        // What the program asks for by itself does not come, so that it reads what was fetched before.
+        QNetworkProxy::setApplicationProxy(
+            QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 1));
+        program_->ThePresenter().Act([this] { Main().mnuCheckUpdate.Click(); });
+    };
+    QByteArray many;
+    for (int i = 0; i < 10000; ++i)
+        many += QStringLiteral("VERS_%1=s%2\r\n").arg(i, 2, 10, QLatin1Char('0')).arg(i).toUtf8();
+    check(many);
+    EXPECT_EQ(tree.topLevelItemCount(), 101) << "the product, and numbers of two digits";
+    check("VERS_00=a\r\n[a]\r\nDESCR=\x01\x02\x7F <b>x</b>\xFF\r\n");
+    EXPECT_EQ(tree.topLevelItemCount(), 2);
+    OnBox(QMessageBox::Ok);
+    check("VERS_00=Root\r\n");
+    EXPECT_EQ(tree.topLevelItemCount(), 1) << "as far as it came";
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0].startsWith(QStringLiteral("457: ")));
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
 }
 
 TEST_F(Download, EscapeEndsTheWaitForASlowServer) {
