@@ -115,6 +115,7 @@ void TextBox::SetText(TextView text) {
 }
 
 void TextBox::SetFromText(TextView text) {
+    if (Accepts && !Accepts(text)) throw Failure(FailureKind::TypeMismatch, Name());
     SetText(text);
     LoseFocus();
 }

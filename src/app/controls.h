@@ -187,6 +187,9 @@ class TextBox : public Control {
     void SetText(TextView text);
     /// As a user who types the text and goes on to another control.
     void SetFromText(TextView text) override;
+    /// Whether a text of the command line is a value, where not every text is one. A user's text is mended
+    /// instead when the focus leaves.
+    std::function<bool(TextView text)> Accepts;
     Event OnChange;
 
   private:

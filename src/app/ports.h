@@ -16,8 +16,17 @@ enum class BoxButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class BoxIcon { None, Exclamation, Question };
 enum class BoxAnswer { Ok, Cancel, Yes, No };
 
-/// Which question a box asks, for presentations that answer by themselves.
-enum class BoxTopic { Message, Charset, LineError, Recalculation, WriteAllRows, OverwriteFile, UnequalSizes };
+/// Which question a box asks or what it tells, for presentations that answer by themselves.
+enum class BoxTopic {
+    Message,
+    UnreadableInput,
+    Charset,
+    LineError,
+    Recalculation,
+    WriteAllRows,
+    OverwriteFile,
+    UnequalSizes
+};
 
 struct MessageBox {
     Text title;

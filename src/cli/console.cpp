@@ -43,6 +43,9 @@ BoxAnswer HeadlessDialogs::Show(const MessageBox& box) {
             return arguments_.overwrite ? BoxAnswer::Yes : BoxAnswer::Cancel;
         case BoxTopic::UnequalSizes:
             return BoxAnswer::No;
+        case BoxTopic::UnreadableInput:
+            inputIsUnreadable_ = true;
+            break;
         case BoxTopic::Recalculation:
         case BoxTopic::Message:
             break;

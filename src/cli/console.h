@@ -29,12 +29,14 @@ class HeadlessDialogs : public Dialogs {
     Text outputFile;
     /// Whether a box told that the job failed or was refused.
     bool HasRefusal() const { return hasRefusal_; }
+    /// Whether that box was about the GEDCOM file, so that there is nothing to work on.
+    bool InputIsUnreadable() const { return inputIsUnreadable_; }
     /// Called before a box is printed, to clear the progress line.
     Event beforeBox;
 
   private:
     const Arguments& arguments_;
-    bool hasRefusal_ = false;
+    bool hasRefusal_ = false, inputIsUnreadable_ = false;
 };
 
 /// The progress line of a terminal: a bar, the percentage and the status text, redrawn at most ten times a

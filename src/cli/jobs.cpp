@@ -23,7 +23,7 @@ void ReadAndDo(Session& session, const MarkSteps& marks, Job& job) {
     frmMain& main = session.main;
     main.cmdLoad.Click();
     session.stopped = session.IsStopped();
-    if (session.dialogs.HasRefusal()) return;
+    if (session.dialogs.InputIsUnreadable()) return;
     if (marks.Run(session)) job.Do(session);
 }
 

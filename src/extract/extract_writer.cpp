@@ -168,14 +168,15 @@ TextView ExtractWriter::Copy(const RecordRange& range) {
 }
 
 void ExtractWriter::NoteReferences(TextView sRecord) {
-    for (const Reference& reference : FindOutTags(sRecord)) {
+    for (const auto& [rank, sTag, sXref] : FindOutTags(sRecord)) {
+        sKey_.assign(sTag).append(1, ' ').append(sXref);
         // Most references come again in the same letters, which costs less to see.
         const std::size_t known = references_.InternedCount();
-        references_.Intern(reference.key);
-        if (references_.InternedCount() == known || !sTagsSeen_.Add(reference.key, true)) continue;
+        references_.Intern(sKey_);
+        if (references_.InternedCount() == known || !sTagsSeen_.Add(sKey_, true)) continue;
         // The submission stands behind the head already, whoever refers to it.
-        if (lines_.subn.end != 0 && lines_.colRecords().Find(reference.key) == lines_.subn) continue;
-        colTagsToSave_.emplace_back(reference.key);
+        if (lines_.subn.end != 0 && lines_.colRecords().Find(sKey_) == lines_.subn) continue;
+        colTagsToSave_.emplace_back(sKey_);
     }
 }
 

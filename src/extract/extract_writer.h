@@ -65,7 +65,7 @@ class ExtractWriter {
     std::deque<Text> colTagsToSave_;
     TextStore references_;             // seen so far, as they were written
     KeyedCollection<bool> sTagsSeen_;  // records are found whatever the case, and so are these
-    Text reduced_;                     // a family without some members, kept for its memory
+    Text sKey_, reduced_;              // reused to avoid allocation
     std::int32_t individuals_ = 0, families_ = 0;
 };
 

@@ -27,7 +27,7 @@ class LinkGraph {
         ranges_.reserve(static_cast<std::size_t>(app.lvwIn.Count()));
         for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
             app.ProgressBar1.Show(i, app.lvwIn.Count());
-            ranges_.push_back(colXrefRange.Find(app.lvwIn.Item(i).Text()).value_or(RowRange{1, 0}));
+            ranges_.push_back(colXrefRange.Of(app.lvwIn.Item(i).Ref(In::ID)));
         }
     }
 

@@ -13,14 +13,6 @@ namespace {
 // Positions are told in 32-bit numbers.
 constexpr std::int64_t kLongestFile = std::int64_t{1} << 31;
 
-/// The level that the digits in front of a blank write.
-std::int16_t LevelOf(TextView digits) {
-    if (digits.empty() || digits.find_first_not_of("0123456789") != TextView::npos) {
-        throw Failure(FailureKind::TypeMismatch);
-    }
-    return ToInteger(digits);
-}
-
 /// Whether the line begins with level 0, whatever junk stands before it.
 bool IsLevel0(TextView line) {
     const auto blank = line.find(' ');
@@ -32,17 +24,6 @@ bool IsLevel0(TextView line) {
 
 }  // namespace
 
-TextView GetXrefDef(TextView sText) {
-    if (!sText.starts_with('@')) return {};
-    const auto end = sText.find('@', 1);
-    return end == TextView::npos ? sText : sText.substr(0, end + 1);
-}
-
-TextView GetXrefUsed(TextView sText) {
-    sText = Trim(sText);
-    return sText.starts_with('@') && sText.ends_with('@') ? sText : TextView();
-}
-
 bool LineReader::InitGedcom(TextView sFile) {
     return app_.trail.GuardElse(
         "InitGedcom",
@@ -53,7 +34,7 @@ bool LineReader::InitGedcom(TextView sFile) {
                 app_.Box(" - InitGed"_t,
                          Concat({"Le fichier "_t, sFile, " dépasse 2 Gio et ne peut pas être lu."_t, kLineEnd,
                                  "Exportez-en une partie depuis votre logiciel de généalogie."_t}),
-                         BoxButtons::Ok, BoxIcon::Exclamation);
+                         BoxButtons::Ok, BoxIcon::Exclamation, BoxTopic::UnreadableInput);
                 return false;
             }
             scanner_.emplace(std::move(file));
@@ -63,7 +44,7 @@ bool LineReader::InitGedcom(TextView sFile) {
         },
         [&] {
             app_.Box(" - InitGed"_t, Concat({"Le fichier "_t, sFile, " n'existe pas."_t}), BoxButtons::Ok,
-                     BoxIcon::Exclamation);
+                     BoxIcon::Exclamation, BoxTopic::UnreadableInput);
         });
 }
 
@@ -120,14 +101,14 @@ std::int32_t LineReader::ReadAndSplit() {
     sLine = scanner_->Line();
     ++lNrLines;
     if (lNrLines % 1000 == 999) ShowProgress();
-    const bool oneDigit = SplitLine();
+    if (const auto failure = Split()) throw Failure(*failure);
     if (iLevel == 0) {
         if (!NoteRecordStart(scanner_->LinePosition()) && !AskToGoOn(Failure(FailureKind::DuplicateKey)))
             return -1;
-    } else if (!oneDigit) {
+    } else if (!hasOneDigit) {
         NoteRecordEnd(scanner_->LinePosition());
     }
-    return oneDigit ? 0 : 1;
+    return hasOneDigit ? 0 : 1;
 }
 
 void LineReader::ShowProgress() {
@@ -135,41 +116,6 @@ void LineReader::ShowProgress() {
     constexpr std::int64_t kUnit = 128;
     const std::int64_t wholeUnits = scanner_->ReadPosition() / kUnit * kUnit;
     app_.ProgressBar1.Show(static_cast<double>(wholeUnits), static_cast<double>(lProgressTotal));
-}
-
-bool LineReader::SplitLine() {
-    // Number of characters up to and with the first blank. Junk in front of the level, such as a byte order
-    // mark, is removed and lowers it, so that junk with a blank in it leaves nothing to take a level from.
-    if (sLine.size() > 1 && sLine[1] == ' ' && sLine[0] >= '0' && sLine[0] <= '9') {
-        iLevel = static_cast<std::int16_t>(sLine[0] - '0');
-        TakeFields(sLine.substr(2));
-        return true;
-    }
-    auto p = static_cast<std::int64_t>(sLine.find(' ') + 1);
-    const auto digit = std::min(sLine.find_first_of("0123456789"), sLine.size());
-    sLine.remove_prefix(digit);
-    p -= static_cast<std::int64_t>(digit);
-    if (p == 0 && sLine.empty()) {
-        // Junk and one blank at its end: a line that says nothing, at the level of the one before.
-        sXrefDef = sTag = sValue = {};
-        return true;
-    }
-    if (p < 0 || sLine.empty()) throw Failure(FailureKind::InvalidArgument);
-    if (p == 0) throw Failure(FailureKind::TypeMismatch);
-    iLevel = LevelOf(sLine.substr(0, static_cast<std::size_t>(p - 1)));
-    TakeFields(sLine.substr(static_cast<std::size_t>(p)));
-    return p <= 2;
-}
-
-void LineReader::TakeFields(TextView rest) {
-    sXrefDef = rest.starts_with('@') ? GetXrefDef(rest) : TextView();
-    rest.remove_prefix(sXrefDef.size());
-    sLine = rest.starts_with(' ') ? TrimLeft(rest) : rest;
-    const char* const end = sLine.data() + sLine.size();
-    const char* blank = sLine.data();
-    while (blank != end && *blank != ' ') ++blank;
-    sTag = {sLine.data(), static_cast<std::size_t>(blank - sLine.data())};
-    sValue = blank == end ? TextView() : TextView(blank + 1, static_cast<std::size_t>(end - blank - 1));
 }
 
 bool LineReader::NoteRecordStart(std::int64_t position) {

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "app/application.h"
+#include "gedcom/gedcom_line.h"
 #include "gedcom/line_scanner.h"
 #include "tables/keyed_collection.h"
 
@@ -15,9 +16,9 @@ struct RecordRange {
     friend bool operator==(const RecordRange&, const RecordRange&) = default;
 };
 
-/// Reads a GEDCOM file line by line, split into level, cross-reference, tag and value, and keeps the byte
-/// range of every level-0 record, so that records can be copied out of the file unchanged.
-class LineReader {
+/// Reads a GEDCOM file line by line, and keeps the byte range of every level-0 record, so that records can be
+/// copied out of the file unchanged. It is the current line, whose views are valid until the next Read1Line.
+class LineReader : public GedcomLine {
   public:
     explicit LineReader(Application& app) : app_(app) {}
 
@@ -31,15 +32,6 @@ class LineReader {
     /// digits.
     std::int32_t Read1Line();
     void Close() { scanner_.reset(); }
-
-    // The current line. The views are valid until the next Read1Line.
-    std::int16_t iLevel = 0;
-    TextView sXrefDef;
-    TextView sTag;
-    /// All that follows the tag and one blank, unchanged.
-    TextView sValue;
-    /// The line as it is being split, for reports.
-    TextView sLine;
 
     std::int32_t lNrLines = 0;
     std::int32_t lNrNames = 0;
@@ -56,10 +48,6 @@ class LineReader {
 
   private:
     std::int32_t ReadAndSplit();
-    /// Splits `sLine`; true when the level has one digit. @throws Failure when it does not begin with a level
-    bool SplitLine();
-    /// Takes cross-reference, tag and value from what stands behind the level.
-    void TakeFields(TextView rest);
     void ShowProgress();
     /// Notes that a record ends and another one starts at `position`; false when a record of the same tag and
     /// cross-reference was there before.
@@ -75,11 +63,5 @@ class LineReader {
     Text sPrevTag, sPrevXref;
     Text sRecordKey_;  // kept for its memory
 };
-
-/// The cross-reference at the head of `sText`, both "@" included, or all of it when the second "@" is
-/// missing; empty when the text does not begin with "@".
-TextView GetXrefDef(TextView sText);
-/// The trimmed text when it both starts and ends with "@", else the empty text.
-TextView GetXrefUsed(TextView sText);
 
 }  // namespace swiftroll::modReadGedcom

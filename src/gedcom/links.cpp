@@ -103,9 +103,9 @@ void Links::AddXrefXRef(TextRef sId1, TextRef sType, TextRef sId2, TextRef sName
         });
 }
 
-std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol) {
-    auto ranges = std::make_unique<XrefRanges>();
-    TextView sId;
+XrefRanges CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol) {
+    XrefRanges ranges;
+    TextRef sId;
     std::int32_t lFirst = 0, i = 0;
     app.trail.Guard(
         "CalcXrefIds",
@@ -114,24 +114,21 @@ std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int
             const std::int32_t count = table.Count();
             table.SortBy(iSortCol, 0);
             if (count == 0) return;
-            const auto close = [&](std::int32_t last) {
-                if (!ranges->Add(sId, {lFirst, last})) throw Failure(FailureKind::DuplicateKey, sId);
-            };
             lFirst = 1;
-            sId = table.Item(1).Text();
+            sId = table.Item(1).Ref(1);
             for (i = 2; i <= count; ++i) {
                 table.Prefetch(i + kLookAhead);
-                const TextView text = table.Item(i).Text();
-                if (text.data() == sId.data() || text == sId) continue;
+                const TextRef id = table.Item(i).Ref(1);
+                if (id == sId) continue;
                 app.ProgressBar1.Show(i, count);
-                close(i - 1);
+                ranges.Set(sId, {lFirst, i - 1});
                 lFirst = i;
-                sId = text;
+                sId = id;
             }
-            close(count);
+            ranges.Set(sId, {lFirst, count});
         },
         [&] {
-            return Concat({sId, " / ", Decimal(lFirst), " / ", Decimal(i)});
+            return Concat({table.Store().Get(sId), " / ", Decimal(lFirst), " / ", Decimal(i)});
         });
     return ranges;
 }

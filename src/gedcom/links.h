@@ -1,16 +1,35 @@
 #pragma once
 
+#include <vector>
+
 #include "app/application.h"
-#include "tables/keyed_collection.h"
 
 namespace swiftroll::modReadGedcom {
 
-/// First and last row, from 1, of the links that leave an individual in a sorted link table.
+/// First and last row, from 1, of the links that leave an individual in a sorted link table; none when the
+/// last stands before the first.
 struct RowRange {
-    std::int32_t first = 0;
+    std::int32_t first = 1;
     std::int32_t last = 0;
 };
-using XrefRanges = KeyedCollection<RowRange>;
+
+/// `colXrefRange`: the rows of each identifier in the first column of a sorted link table. Identifiers are
+/// told apart exactly, as everywhere in the tables.
+class XrefRanges {
+  public:
+    /// No identifier has no rows: nothing links from nobody.
+    void Set(TextRef id, RowRange rows) {
+        if (id.IsEmpty()) return;
+        if (id.Symbol() >= ranges_.size()) ranges_.resize(id.Symbol() + std::size_t{1});
+        ranges_[id.Symbol()] = rows;
+    }
+    RowRange Of(TextRef id) const {
+        return !id.IsEmpty() && id.Symbol() < ranges_.size() ? ranges_[id.Symbol()] : RowRange();
+    }
+
+  private:
+    std::vector<RowRange> ranges_;  // by symbol
+};
 
 /// The words of the tables as texts of the store that a read fills, made once a read.
 struct LinkWords {
@@ -45,6 +64,6 @@ class Links {
 
 /// Sorts a link table by the column numbered `iSortCol` from 0 and gives the range of rows of each
 /// identifier; after a failure, which is reported, as far as it got.
-std::unique_ptr<XrefRanges> CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol);
+XrefRanges CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol);
 
 }  // namespace swiftroll::modReadGedcom

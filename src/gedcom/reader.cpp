@@ -30,7 +30,6 @@ void Reader::Prepare(const char*& stage, std::int16_t& counter) {
     app_.ProgressBar1.Set(0);
     app_.InitIndexes();
     lines.ResetRecords();
-    colXrefRange = std::make_unique<XrefRanges>();
     stage = "LvwSort";
     for (Table* table :
          {&app_.lvwIn, &app_.lvwFamily, &app_.lvwXref, &app_.lvwFamilyXref, &app_.lvwKinship}) {
@@ -91,8 +90,7 @@ void Reader::Finish(Links& links) {
     app_.pnlIndividuals.Set(Concat({Decimal(lines.lNrNames), " Individu(s)"_t}));
     if (!app_.bAbort) {
         ReadFamily(links);
-        colXrefRange = CalcXrefIds(app_, app_.lvwXref, 0);
-        CalcIslands(app_, *colXrefRange);
+        CalcIslands(app_, CalcXrefIds(app_, app_.lvwXref, 0));
         app_.pnlMessage.Set("Lecture terminée"_t);
         SetInDates(app_);
     }

@@ -29,8 +29,6 @@ class Reader {
     LineReader lines;
     /// Told when the families of the file were processed, so that the commands that need them can be enabled.
     Event OnFamiliesRead;
-    /// Rows of `lvwXref` that leave each individual, as of the end of the last read.
-    std::unique_ptr<XrefRanges> colXrefRange = std::make_unique<XrefRanges>();
 };
 
 }  // namespace swiftroll::modReadGedcom

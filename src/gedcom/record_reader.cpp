@@ -74,12 +74,15 @@ void RecordReader::SetRange(Row& row) const {
 
 std::int32_t RecordReader::ReadIndividual() {
     sCurId_ = store_.Intern(lines_.sXrefDef);
+    // A person without identifier has no key, so that nothing refers to it.
+    const auto key = sCurId_.IsEmpty() ? std::nullopt : std::optional(RowKey(sCurId_));
+    if (key && app_.lvwIn.Find(*key)) return SkipRecord();
     Individual individual;
     std::int32_t result = 0;
     while ((result = lines_.Read1Line()) == 0 && lines_.iLevel > lines_.iBaseLevel)
         ReadIndividualLine(individual);
     ++lNrRows_;
-    Row row = app_.lvwIn.Add(lNrRows_, RowKey(sCurId_), sCurId_);
+    Row row = app_.lvwIn.Add(lNrRows_, key, sCurId_);
     // The line that ended the record has been read, so these are the starts of this record and of the next
     // one.
     SetRange(row);
@@ -92,6 +95,14 @@ std::int32_t RecordReader::ReadIndividual() {
     row.SetCell(In::DeathMin, YearText(individual.death.lYearMin, kNoYearMin));
     row.SetCell(In::DeathMax, YearText(individual.death.lYearMax, kNoYearMax));
     row.SetCell(In::Sex, individual.sex);
+    return result;
+}
+
+/// The end of the record tells the line reader that its identifier was there before.
+std::int32_t RecordReader::SkipRecord() {
+    std::int32_t result = 0;
+    while ((result = lines_.Read1Line()) == 0 && lines_.iLevel > lines_.iBaseLevel) {
+    }
     return result;
 }
 

@@ -37,6 +37,8 @@ class RecordReader {
         Event event = Event::None;
     };
 
+    /// Passes over an individual whose identifier another one has.
+    std::int32_t SkipRecord();
     void ReadIndividualLine(Individual& individual);
     void ReadName(Individual& individual);
     void AddAlias(TextRef other);

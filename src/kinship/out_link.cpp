@@ -124,24 +124,23 @@ bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> li
     const TextRef nrSpouses = store_.Intern(Decimal(nrSpouses_, 3));
     const TextRef nrLink = store_.Intern(Decimal(static_cast<std::int64_t>(lines_.size()), 4));
     Text seqNr;
-    const auto addRow = [&](TextRef key, TextView number) {
+    const auto addRow = [&](std::optional<RowKey> key, TextView number) {
         seqNr.assign(pathNumber).append(number);
-        Row row = app_.lvwKinship.Add(std::nullopt, key.IsEmpty() ? RowKey() : RowKey(path, key),
-                                      store_.Put(seqNr));
+        Row row = app_.lvwKinship.Add(std::nullopt, key, store_.Put(seqNr));
         row.SetCell(Kinship::NrSpouses, nrSpouses);
         row.SetCell(Kinship::NrLink, nrLink);
         return row;
     };
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const TextRef number = LineNumber(i + 1);
-        Row row = addRow(number, store_.Get(number));
+        Row row = addRow(RowKey(path, number), store_.Get(number));
         row.SetCell(Kinship::IDIndi, lines_[i].person.IDIndi);
         row.SetCell(Kinship::Indi, lines_[i].person.Indi);
         row.SetCell(Kinship::Type, lines_[i].link.Type);
         row.SetCell(Kinship::IDFamily, lines_[i].link.IDFamily);
         row.SetCell(Kinship::Family, lines_[i].link.Family);
     }
-    SetMaxLen(addRow({}, kSeparator), app_.lMaxLenKinship);
+    SetMaxLen(addRow(std::nullopt, kSeparator), app_.lMaxLenKinship);
     return true;
 }
 

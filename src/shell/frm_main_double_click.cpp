@@ -46,7 +46,7 @@ void frmMain::lvw_DblClick(Table& table) {
 /// Goes to the row of a key; a cell that names nobody leads nowhere.
 void frmMain::JumpTo(Table& target, TextView sKey) {
     if (auto current = target.Current()) current->SetSelected(false);
-    auto row = target.Find(sKey);
+    auto row = sKey.empty() ? std::nullopt : target.Find(sKey);
     if (!row) return;
     target.SetCurrent(*row);
     row->SetSelected(true);

@@ -35,7 +35,9 @@ void frmMain::BindOptionRules() {
         const Text& text = txtINDEX.Get();
         if (text > "9" || text < "0") txtINDEX.SetText("1");
     };
+    txtINDEX.Accepts = [](TextView text) { return WholePart(text).has_value(); };
     const auto bindLimit = [](CheckBox& check, TextBox& limit) {
+        limit.Accepts = [](TextView text) { return WholePart(text).value_or(0) >= 1; };
         limit.OnLostFocus = [&] { CheckLimit(check, limit); };
         check.OnClick = [&] {
             if (check.Checked() && limit.Get().empty()) limit.SetText(kDefaultLimit);

@@ -44,7 +44,9 @@ void KeyIndex::Insert(Slot slot, const RowKey& key) {
     entries_[slot].key = key;
     if (key.IsPair()) {
         InsertPair(slot, key);
-    } else if (!key.IsEmpty()) {
+    } else if (key.IsEmpty()) {
+        empty_ = slot;
+    } else {
         EntryOf(singles_, key.first.Symbol(), kNone) = slot;
     }
 }
@@ -53,7 +55,9 @@ void KeyIndex::Erase(Slot slot) {
     const RowKey key = KeyOf(slot);
     if (key.IsPair()) {
         ErasePair(slot, key);
-    } else if (!key.IsEmpty()) {
+    } else if (key.IsEmpty()) {
+        if (empty_ == slot) empty_ = kNone;
+    } else {
         singles_[key.first.Symbol()] = kNone;
     }
     entries_[slot] = Entry();
@@ -72,6 +76,7 @@ void KeyIndex::ErasePair(Slot slot, const RowKey& key) {
 
 void KeyIndex::Clear() {
     entries_.Clear();
+    empty_ = kNone;
     singles_ = {};
     chains_ = {};
     for (LongChains& part : longChains_) part = LongChains(0, part.hash_function(), part.key_eq());

@@ -17,7 +17,8 @@ struct RowKey {
     TextRef second;
 
     RowKey() = default;
-    /// An empty first part gives way to the second, as in the concatenation.
+    /// An empty first part gives way to the second, as in the concatenation. The empty text is a key like any
+    /// other: that of a family without identifier, or of the one group of a list without group columns.
     explicit RowKey(TextRef a, TextRef b = {})
         : first(a.IsEmpty() ? b : a), second(a.IsEmpty() ? TextRef() : b) {}
     bool IsEmpty() const { return first.IsEmpty(); }
@@ -45,7 +46,7 @@ class KeyIndex {
     /// Number of slots, and room for one more slot without a key.
     Slot SlotCount() const { return static_cast<Slot>(entries_.size()); }
     void AddSlot() { entries_.push_back(Entry()); }
-    /// The key of a slot; empty when it has none.
+    /// The key of a slot; empty also when it has none.
     const RowKey& KeyOf(Slot slot) const { return entries_[slot].key; }
 
     std::optional<Slot> Find(const RowKey& key) const {
@@ -53,7 +54,7 @@ class KeyIndex {
         if (slot == kNone) return std::nullopt;
         return slot;
     }
-    /// Gives a slot without a key one that no slot has; an empty key is none.
+    /// Gives a slot without a key one that no slot has.
     void Insert(Slot slot, const RowKey& key);
     /// Takes the key of a slot away.
     void Erase(Slot slot);
@@ -96,7 +97,8 @@ class KeyIndex {
     static std::size_t PartOf(const RowKey& key) { return RowKeyHash()(key) >> (64 - kPartBits); }
 
     Slot FindSingle(const RowKey& key) const {
-        if (key.IsEmpty() || key.first.Symbol() >= singles_.size()) return kNone;
+        if (key.IsEmpty()) return empty_;
+        if (key.first.Symbol() >= singles_.size()) return kNone;
         return singles_[key.first.Symbol()];
     }
     Slot FindPair(const RowKey& key) const;
@@ -104,6 +106,7 @@ class KeyIndex {
     void ErasePair(Slot slot, const RowKey& key);
 
     BlockVector<Entry> entries_;          // by slot
+    Slot empty_ = kNone;                  // of the empty key
     std::vector<Slot> singles_;           // by symbol
     std::vector<Chain> chains_;           // by symbol of the first part
     std::vector<LongChains> longChains_;  // by PartOf

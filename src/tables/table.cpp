@@ -76,10 +76,10 @@ Table::Slot Table::NewSlot() {
     return slot;
 }
 
-Row Table::Append(const RowKey& key, TextRef text) {
+Row Table::Append(const std::optional<RowKey>& key, TextRef text) {
     Store();
     const Slot slot = NewSlot();
-    index_.Insert(slot, key);
+    if (key) index_.Insert(slot, *key);
     inSlotOrder_ = inSlotOrder_ && slot == order_.size();
     if (placesAreFresh_) {
         place_.resize(index_.SlotCount());
@@ -96,10 +96,10 @@ Row Table::FindOrAdd(RowKey key, TextRef text) {
     return known ? Row(*this, *known) : Append(key, text);
 }
 
-Row Table::Add(std::optional<std::int32_t> index, RowKey key, TextRef text) {
+Row Table::Add(std::optional<std::int32_t> index, std::optional<RowKey> key, TextRef text) {
     if (index && (*index < 1 || *index > Count() + 1)) ThrowIndexOutOfRange();
-    if (index_.Find(key)) {
-        throw Failure(FailureKind::DuplicateKey, Concat({store_->Get(key.first), store_->Get(key.second)}));
+    if (key && index_.Find(*key)) {
+        throw Failure(FailureKind::DuplicateKey, Concat({store_->Get(key->first), store_->Get(key->second)}));
     }
     const Row row = Append(key, text);
     if (index && *index < Count()) {
@@ -115,8 +115,11 @@ Row Table::Add(std::optional<std::int32_t> index, TextView key, TextView text) {
 }
 
 std::optional<Row> Table::Find(TextView key) {
-    if (!store_ || key.empty()) return std::nullopt;
-    if (auto row = Find(RowKey(store_->FindInterned(key)))) return row;
+    if (!store_) return std::nullopt;
+    const TextRef known = store_->FindInterned(key);
+    if (key.empty() || !known.IsEmpty()) {
+        if (auto row = Find(RowKey(known))) return row;
+    }
     // A pair is kept as its two parts, so the text may be cut at any place where both parts are known.
     for (std::size_t cut = 1; cut < key.size(); ++cut) {
         const TextRef first = store_->FindInterned(key.substr(0, cut));

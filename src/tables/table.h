@@ -69,9 +69,9 @@ class Table {
     /// Moves a column to a 1-based position; the others close up, as when the user drags it.
     void MoveColumn(std::int16_t index, std::int16_t position);
 
-    /// Inserts a row before the row `index`, or at the end when `index` is left out; an empty key is none.
-    /// @throws Failure DuplicateKey, IndexOutOfRange
-    Row Add(std::optional<std::int32_t> index, RowKey key, TextRef text);
+    /// Inserts a row before the row `index`, or at the end when `index` is left out. A row without a key can
+    /// only be reached by its place. @throws Failure DuplicateKey, IndexOutOfRange
+    Row Add(std::optional<std::int32_t> index, std::optional<RowKey> key, TextRef text);
     Row Add(std::optional<std::int32_t> index, TextView key, TextView text);
     /// The row of a key; a new one at the end with `text` in its first cell when there is none.
     Row FindOrAdd(RowKey key, TextRef text);
@@ -138,7 +138,7 @@ class Table {
 
     void PrefetchSlot(Slot slot) const { PrefetchMemory(cells_.Row(slot)); }
     Slot NewSlot();
-    Row Append(const RowKey& key, TextRef text);
+    Row Append(const std::optional<RowKey>& key, TextRef text);
     void Resort();
     std::optional<std::vector<std::uint32_t>> OrderBySymbols(std::size_t column) const;
     void Reorder(const std::vector<std::uint32_t>& permutation);

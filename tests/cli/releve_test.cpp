@@ -103,6 +103,17 @@ TEST_F(Releve, UsageErrorsWriteNothing) {
     }
 }
 
+TEST_F(Releve, TheOneGroupOfAListWithoutGroupColumnsCanBeMarked) {
+    for (const char* columns : {"", "DateMin"}) {
+        const Strings words = {"-", "--format", "texte", "--colonnes", columns};
+        const Outcome all = Cli(kWrite + words),
+                      marked = Cli(kWrite + words + Strings{"--marques", "--marquer", "@I2@"});
+        EXPECT_EQ(all.code, 0);
+        EXPECT_EQ(marked.out, all.out);
+        EXPECT_NE(Cli(kWrite + words + Strings{"--marques"}).out, all.out);
+    }
+}
+
 TEST_F(Releve, TheDateOfTheRunCanBeGiven) {
     Put("dates", "%DATE_LONG% %TIME_LONG%<tr><td>%ELEMENT%</td></tr><tr><td>%ELEMENT%</td></tr>");
     environment = {"SOURCE_DATE_EPOCH=951786245", "TZ=America/New_York"};

@@ -82,8 +82,10 @@ TEST_F(Tables, UsageErrorsNameTheirCause) {
         EXPECT_EQ(run.out, "") << line;
         EXPECT_FALSE(run.Says("Ligne(s)")) << line;
     };
-    for (const std::string value : {"chkFoo=1", "txtOutExtension=a", "chkTips=yes", "chkTips",
-                                    "optFullName=2", "cboLoad=Tout", "cmdColorMale=bleu", "cmdLoad=1"}) {
+    for (const std::string value :
+         {"chkFoo=1", "txtOutExtension=a", "chkTips=yes", "chkTips", "optFullName=2", "cboLoad=Tout",
+          "cmdColorMale=bleu", "cmdLoad=1", "txtMaxLinks=0", "txtMaxSpouses=0,5", "txtMaxSpouses=dix",
+          "txtINDEX=a", "txtINDEX="}) {
         expectError({"tables", "f.ged", "--set", value}, Split(value, '=')[0]);
     }
     for (const auto& [words, cause] :
@@ -180,16 +182,27 @@ TEST_F(Tables, BoxesAreAnsweredInAHurryOrStrictly) {
     }
 }
 
-TEST_F(Tables, AFailureGoesToTheLogToo) {
-    Put("twice.ged", "0 @I1@ INDI\r\n0 @I1@ INDI\r\n0 TRLR\r\n");
-    const Outcome run = Cli({"tables", "twice.ged", "-q"});
+TEST_F(Tables, AFailureOfTheReadGoesToTheLogAndDropsNoJob) {
+    std::string place = "%1";  // that the formatter would replace without end
+    for (int n = 2; n <= 9; ++n) {
+        for (int i = 0; i < 20; ++i) place += "%" + std::to_string(n);
+        place += ",";
+    }
+    Put("grows.ged", "0 @I1@ INDI\r\n1 BIRT\r\n2 PLAC " + place + "\r\n0 @F1@ FAM\r\n0 TRLR\r\n");
+    const Strings words = {"grows.ged", "-q", "--set", "txtPlaceFormat=%1"};
+    const Outcome run = Cli(Strings{"tables"} + words);
     EXPECT_EQ(run.code, 1);
     EXPECT_TRUE(run.Says("SwiftRoll (v3.4.0) - Erreur \"")) << run.err;
+    EXPECT_EQ(run.Lines().size(), 2u) << run.out;
     const std::string log = Bytes("data/SwiftRoll/SwiftRoll.log");
     EXPECT_NE(log.find("SwiftRoll (v3.4.0) - Erreur \""), std::string::npos) << log;
     EXPECT_NE(log.find("\r\nlvwIn         = 1\r\n"), std::string::npos) << log;
+    for (const char* job : {"releve", "extrait"}) {
+        EXPECT_EQ(Cli(Strings{job} + words + Strings{"-o", job, "--marquer", "@I1@"}).code, 1);
+        EXPECT_TRUE(Exists(job)) << job;
+    }
     environment = {"XDG_DATA_HOME=/dev/null"};
-    EXPECT_EQ(Cli({"tables", "twice.ged", "-q"}).code, 1);
+    EXPECT_EQ(Cli(Strings{"tables"} + words).code, 1);
 }
 
 TEST_F(Tables, AnInterruptedReadPrintsWhatWasRead) {

@@ -1,5 +1,6 @@
 // Families, their members, the links between individuals, and the marriage data of the spouses.
 #include "gedcom/reader_fixture.h"
+#include "kinship/kinship_codes.h"
 #include "tables/column_numbers.h"
 
 namespace swiftroll::test {
@@ -95,6 +96,30 @@ TEST(Families, OnlyMentionedOrWithoutMembersOrWithoutName) {
                     "@F4@|Epouse|@I4@|F|Luc x Eve|Eve", "@F9@|FAMS|@I6@|M| x |"}));
     EXPECT_EQ(t.main.lvwXref.Count(), 4);
     EXPECT_EQ(t.Marriages(), Rows({"Lyon||", "Lyon||", "||", "||", "||", "||"}));
+    EXPECT_EQ(t.main.trail.Reports(), 0);
+}
+
+TEST(Families, WithoutIdentifierAreOneFamily) {
+    AfterReading t(
+        "0 @I1@ INDI\n1 NAME /A/\n1 SEX M\n0 @I2@ INDI\n1 NAME /B/\n1 SEX F\n0 @I3@ INDI\n1 SEX M\n1 ALIA "
+        "@I9@\n"
+        "0 INDI\n0 INDI\n1 FAMS\n0 FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 CHIL @I3@\n1 MARR\n2 DATE 1800\n"
+        "0 @F1@ FAM\n1 WIFE @I2@\n1 HUSB\n0 TRLR\n");
+    EXPECT_EQ(CellsOf(t.main.lvwFamily, {Family::IDFam, Family::IDHusb, Family::IDWife, Family::MarrMin}),
+              Rows({"|@I1@|@I2@|1800", "@F1@||@I2@|"}));
+    EXPECT_EQ(CellsOf(t.main.lvwXref, {Xref::IDIndi1, Xref::Type, Xref::IDIndi2, Xref::IDFamily}),
+              Rows({"@I1@|Epoux|@I2@|", "@I1@|Père|@I3@|"_t, "@I2@|Epouse|@I1@|", "@I3@|ALIA|@I9@|",
+                    "@I3@|Fils|@I1@|", "@I9@|ALIA|@I3@|"}));
+    EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::IslandNr}),
+              Rows({"@I1@|0001", "@I2@|0001", "@I3@|0001", "|0002", "|0003"}));
+    EXPECT_EQ(modKinship::GetSpouseID(t.main, "@I1@", ""), "@I2@");
+    EXPECT_EQ(t.main.trail.Reports(), 0);
+}
+
+TEST(Families, ReferencesInAnotherCaseAreOtherReferences) {
+    AfterReading t(
+        "0 @I1@ INDI\n1 SEX M\n1 ALIA @i1@\n0 @I2@ INDI\n0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n0 TRLR\n");
+    EXPECT_EQ(CellsOf(t.main.lvwIn, {In::IslandNr}), Rows({"0001", "0001"}));
     EXPECT_EQ(t.main.trail.Reports(), 0);
 }
 

@@ -94,18 +94,20 @@ TEST(RecordRanges, AFamilyWrittenTwiceHasOneRow) {
     EXPECT_EQ(t.dialogs.boxes.size(), 2u);
 }
 
-TEST(RecordRanges, TwoIndividualsOfOneReferenceEndTheProgramAfterAReport) {
-    const std::pair<TextView, TextView> cases[] = {
-        {"0 @I2@ INDI\n0 TRLR\n", "INDI"}, {"0 TRLR\n", "TRLR"}, {"", ""}};
-    for (const auto& [behind, line] : cases) {
-        TestMain t;
-        EXPECT_THROW(t.Read(WithCrLf(Concat({"0 @I1@ INDI\n1 SEX M\n0 @I1@ INDI\n1 SEX F\n", behind}))),
-                     ProgramEnd);
-        EXPECT_EQ(t.main.trail.Reports(), 1);
-        const MessageBox& report = t.dialogs.boxes.back();
-        EXPECT_TRUE(report.title.ends_with(" - Erreur \"ProcessGedcom")) << report.title;
-        EXPECT_TRUE(report.text.starts_with("457: ")) << report.text;
-        EXPECT_TRUE(report.text.ends_with(Concat({"\r\n    |ReadLines/21/", line, "|"}))) << report.text;
+TEST(RecordRanges, ASecondIndividualOfOneReferenceIsPassedOverWhole) {
+    for (const TextView behind : {TextView("0 @I2@ INDI\n0 TRLR\n"), TextView("0 @I2@ INDI\n"), TextView()}) {
+        AfterReading t(Concat({"0 @I1@ INDI\n1 NAME Jean /A/\n1 SEX M\n0 @i1@ INDI\n",
+                               "0 @I1@ INDI\n1 NAME Luc /B/\n1 SEX F\n1 FAMS @F1@\n1 ALIA @i1@\n", behind}));
+        EXPECT_EQ(t.main.trail.Reports(), 0);
+        EXPECT_EQ(t.main.lvwFamilyXref.Count() + t.main.lvwXref.Count(), 0);
+        EXPECT_EQ(t.main.modReadGedcom.lines.lNrNames, 1);
+        const bool isMore = !behind.empty();
+        EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::LastName, In::Sex}),
+                  isMore ? Rows({"@I1@|A|M", "@i1@||", "@I2@||"}) : Rows({"@I1@|A|M", "@i1@||"}));
+        // One box for the reference that differs in case alone, and one for the equal one.
+        ASSERT_EQ(t.dialogs.boxes.size(), 3u);
+        for (const std::size_t box : {0u, 1u}) EXPECT_TRUE(t.dialogs.boxes[box].text.starts_with("457: "));
+        EXPECT_EQ(t.main.pnlMessage.Get(), "Lecture terminée"_t);
     }
 }
 

@@ -140,6 +140,11 @@ TEST_F(FileCombos, AnExistingFileIsAskedFor) {
     }
 }
 
+void Type(TextBox& box, TextView text) {
+    box.SetText(text);
+    box.LoseFocus();
+}
+
 TEST(OptionRules, LimitsAreNumbersOfAtLeastOne) {
     const struct {
         TextView typed, whenChecked, whenNot;
@@ -149,11 +154,11 @@ TEST(OptionRules, LimitsAreNumbersOfAtLeastOne) {
         TestMain t;
         for (const auto& [check, limit] : {std::pair{&t.main.chkMaxLinks, &t.main.txtMaxLinks},
                                            std::pair{&t.main.chkMaxSpouses, &t.main.txtMaxSpouses}}) {
-            limit->SetFromText(c.typed);
+            Type(*limit, c.typed);
             EXPECT_EQ(limit->Get(), c.whenNot) << c.typed;
             check->SetChecked(true);
             EXPECT_EQ(limit->Get(), c.whenNot.empty() ? "50" : c.whenNot) << c.typed;
-            limit->SetFromText(c.typed);
+            Type(*limit, c.typed);
             EXPECT_EQ(limit->Get(), c.whenChecked) << c.typed;
         }
     }
@@ -163,7 +168,7 @@ TEST(OptionRules, TheIndexLengthIsComparedAsText) {
     TestMain t;
     for (const auto& [typed, kept] : std::initializer_list<std::pair<TextView, TextView>>{
              {"15", "15"}, {"0", "0"}, {"91", "1"}, {"a", "1"}, {"", "1"}, {"-1", "1"}, {"1x", "1x"}}) {
-        t.main.txtINDEX.SetFromText(typed);
+        Type(t.main.txtINDEX, typed);
         EXPECT_EQ(t.main.txtINDEX.Get(), kept) << typed;
     }
 }
