@@ -50,12 +50,16 @@ void Presenter::Refresh() {
 
 void Presenter::RegisterFocus(QWidget& widget, Window& window, Control& control) {
     focus_[&widget] = Focus{&window, &control, nullptr};
-    widgets_[&control] = &widget;
+    widgets_.try_emplace(&control, &widget);
     if (!window.OnFocusChanged) {
         window.OnFocusChanged = [this, watched = &window] {
             const Control* active = watched->ActiveControl();
-            QWidget* target = active == nullptr ? nullptr : WidgetOf(*active);
-            if (target != nullptr && !target->hasFocus() && target->isVisible()) target->setFocus();
+            if (active == nullptr) return;
+            // Of the buttons of a group the user may have pressed any.
+            const Focus* present = FocusOf(QApplication::focusWidget());
+            if (present != nullptr && present->control == active) return;
+            QWidget* target = WidgetOf(*active);
+            if (target != nullptr && target->isVisible()) target->setFocus();
         };
     }
 }

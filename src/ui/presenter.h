@@ -34,10 +34,11 @@ class Presenter : public QObject {
     /// Called once, when the program is to end and no action runs any more.
     std::function<void()> OnEnd;
 
-    /// A widget that takes the focus gives it to its control, or makes its table the current one.
+    /// A widget that takes the focus gives it to its control, or makes its table the current one. A control
+    /// may have several widgets, as a group of buttons has.
     void RegisterFocus(QWidget& widget, Window& window, Control& control);
     void RegisterFocus(QWidget& widget, Table& table);
-    /// The registered widget of a control, or nullptr.
+    /// The widget of a control that was registered first, or nullptr.
     QWidget* WidgetOf(const Control& control) const;
     /// Follows the focus of the widgets into the core.
     void FocusMoved();
