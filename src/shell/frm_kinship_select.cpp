@@ -39,13 +39,15 @@ frmKinshipSelect::frmKinshipSelect(Application& app)
                               "Attention : Vous avez mis une limite sur l'affichage !  Cf. "
                               "Onglet Options."_t}),
       app_(app) {
-    cmdInvertSelected.Operation = [this] { cmdInvertSelected_Click(); };
+    cmdInvertSelected.Operation = [this] { chkInverted.SetChecked(!chkInverted.Checked()); };
+    chkInverted.OnClick = [this] { SwapBoxes(); };
     cmdOK.Operation = [this] { Close(false); };
     cmdCancel.Operation = [this] { Close(true); };
     for (OptionButton& option : optHighLightChecked) option.OnDblClick = [this] { Close(false); };
 }
 
 void frmKinshipSelect::ClearChoices() {
+    chkInverted.SetChecked(false);
     for (OptionButton& option : optHighLightChecked) {
         option.SetValue(false);
         option.Enabled = false;
@@ -72,7 +74,6 @@ void frmKinshipSelect::DropRedundantChoice(int iWide, int iNarrow) {
 }
 
 void frmKinshipSelect::Open() {
-    chkInverted.SetChecked(false);
     constexpr std::pair<int, int> kWideAndNarrow[] = {{4, 1}, {4, 3}, {5, 2}, {5, 3}, {6, 1},
                                                       {6, 2}, {6, 3}, {6, 4}, {6, 5}};
     for (const auto& [wide, narrow] : kWideAndNarrow) DropRedundantChoice(wide, narrow);
@@ -94,8 +95,7 @@ int frmKinshipSelect::Choice() {
     return 0;
 }
 
-void frmKinshipSelect::cmdInvertSelected_Click() {
-    chkInverted.SetChecked(!chkInverted.Checked());
+void frmKinshipSelect::SwapBoxes() {
     for (int i = 1; i <= kReadings; ++i) {
         const Text first = FirstBox(i).Get();
         FirstBox(i).SetText(SecondBox(i).Get());

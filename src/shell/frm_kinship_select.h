@@ -19,6 +19,7 @@ class frmKinshipSelect : public Window {
     // Arrays from index 1, and 2: a reading has two boxes.
     std::array<OptionButton, kReadings> optHighLightChecked;
     std::array<TextBox, kSelectionBoxes> txtKinshipSelection;
+    /// The boxes read in the direction of the search, whichever way it is inverted.
     CheckBox chkInverted;
     Command cmdInvertSelected;
     Command cmdOK, cmdCancel;
@@ -29,7 +30,7 @@ class frmKinshipSelect : public Window {
     TextBox& FirstBox(int iChoice) { return txtKinshipSelection[static_cast<std::size_t>(2 * iChoice - 2)]; }
     TextBox& SecondBox(int iChoice) { return txtKinshipSelection[static_cast<std::size_t>(2 * iChoice - 1)]; }
 
-    /// Disables and empties everything.
+    /// Disables and empties everything; the direction is no longer inverted.
     void ClearChoices();
     /// Enables a reading with the two individuals at these rows of lvwIn.
     void SetKinshipSelection(int iChoice, const Row& first, const Row& second);
@@ -41,7 +42,7 @@ class frmKinshipSelect : public Window {
 
   private:
     void DropRedundantChoice(int iWide, int iNarrow);
-    void cmdInvertSelected_Click();
+    void SwapBoxes();
     void Close(bool bCancelled);
     Application& app_;
 };

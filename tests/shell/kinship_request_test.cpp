@@ -98,6 +98,16 @@ TEST(KinshipRequest, SearchesThePairThatTheUserSettles) {
     };
     t.Find({1, 2}, {3, 4});
     EXPECT_EQ(t.Pair(), "[Anne, DUB4] et [Anne, DUB3]");
+    // The box inverts as the button does.
+    t.inDialog = [&] {
+        t.Dialog().Option(2).SetValue(true);
+        EXPECT_EQ(t.Dialog().SecondBox(2).Get(), "@I4@ : dub4, Anne");
+        t.Dialog().chkInverted.SetChecked(true);
+        EXPECT_EQ(t.Dialog().SecondBox(2).Get(), "@I3@ : dub3, Anne");
+        t.Dialog().Option(2).OnDblClick();
+    };
+    t.Find({1, 2}, {3, 4});
+    EXPECT_EQ(t.Pair(), "[Anne, DUB4] et [Anne, DUB3]");
     EXPECT_EQ(t.main.lvwKinship.Item(1).Cell(Kinship::IDIndi), "@I4@");
     EXPECT_FALSE(t.main.bWaitCursor);
     EXPECT_FALSE(t.Dialog().Visible());
