@@ -34,6 +34,7 @@ enum class Tab { In, Out, FamilyXref, Xref, Family, Kinship, FormatOptions, Link
 class Application : public TableSet, public OptionRecord, public StatusBar, public WidthTables {
   public:
     explicit Application(const Ports& applicationPorts);
+    virtual ~Application() = default;
 
     Ports ports;
     Trail trail;
@@ -64,6 +65,8 @@ class Application : public TableSet, public OptionRecord, public StatusBar, publ
     bool bWaitCursor = false;
     bool bTablesLocked = false;
     Tab SSTab1 = Tab::In;
+    /// Brings a tab to the front; the window gives the focus to what it is for.
+    virtual void ShowTab(Tab tab) { SSTab1 = tab; }
     /// The table that last had the focus.
     Table* lvwActiveListView = nullptr;
 

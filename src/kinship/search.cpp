@@ -152,10 +152,11 @@ void Search::Walk(TextView sFromId, TextView sToId, const char*& step) {
     app_.lvwKinship.Clear();
     app_.lvwKinship.SetSorted(false);
     app_.ProgressBar1.Set(0);
-    app_.SSTab1 = Tab::Kinship;
     lNrCalls = lNrHidden = 0;
     const PathCore core(island.graph, from, to);
     Walker walker(*this, island, core);
+    // A box may open when the focus leaves another control: what happens meanwhile, the walker sees.
+    app_.ShowTab(Tab::Kinship);
     PathWalk(core.graph, core.from, core.to).Run(walker);
 }
 

@@ -120,8 +120,11 @@ class frmMain : public Application, public ListCommands {
     Text DragText();
 
     /// Brings a tab to the front and gives the focus to what it is for.
-    void ShowTab(Tab tab);
+    void ShowTab(Tab tab) override;
+    /// Gives the focus to what the present tab is for.
     void SSTab1_GotFocus();
+    /// For the presentation, which moves its own focus after.
+    std::function<void()> OnTabFocus;
     /// Puts the marked rows of the tab first, and tells how many there are.
     void SSTab1_DblClick();
     /// Opens the context menu without a cell.
@@ -194,6 +197,7 @@ class frmMain : public Application, public ListCommands {
     void OnActiveTable(const char* sProc, const std::function<void(Table&)>& command,
                        TextView arguments = {});
     bool TabHasTable() const;
+    void OfferPrinting();
     void DeselectAll(Table& table);
     void mnuNextSelected_Click();
     void mnuDeselectCurrent_Click();

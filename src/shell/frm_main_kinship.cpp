@@ -103,6 +103,7 @@ void frmMain::FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step) {
     modKinship.FindKinship(from.Cell(In::IslandNr), lFrom, lTo);
     mnuDrawKinship.Enabled = cmdDrawKinship.Enabled = cboDrawKinship.Enabled = cmdCopyTitle2kinship.Enabled =
         true;
+    OfferPrinting();
     Text total = Concat({Decimal(modKinship.lNrLinks), " liens de parenté trouvé(s) au total"_t});
     if (modKinship.lNrHidden != 0) {
         total += Concat({" => ", Decimal(modKinship.lNrHidden), " non affiché(s)"_t});

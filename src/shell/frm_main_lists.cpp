@@ -53,8 +53,13 @@ void frmMain::TableGotFocus(Table& table) {
     LeaveFocus();
     lvwActiveListView = &table;
     mnuCopy.Enabled = true;
-    // What a search has found can be printed once the user comes back to it.
-    if (&table == &lvwKinship && table.Count() > 0 && !modKinship.IsRunning()) cmdPrintKinship.Enabled = true;
+    OfferPrinting();
+}
+
+/// What a search has found can be printed once it is at an end and its table is the current one.
+void frmMain::OfferPrinting() {
+    const bool hasPaths = lvwActiveListView == &lvwKinship && lvwKinship.Count() > 0;
+    if (hasPaths && !modKinship.IsRunning()) cmdPrintKinship.Enabled = true;
 }
 
 bool frmMain::TabHasTable() const { return SSTab1 <= Tab::Kinship; }
@@ -67,7 +72,11 @@ void frmMain::ShowTab(Tab tab) {
 void frmMain::SSTab1_GotFocus() {
     ShowFavorites(SSTab1);
     Table* const tables[] = {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
-    if (TabHasTable()) return TableGotFocus(*tables[static_cast<std::size_t>(SSTab1)]);
+    if (TabHasTable()) {
+        TableGotFocus(*tables[static_cast<std::size_t>(SSTab1)]);
+        if (OnTabFocus) OnTabFocus();
+        return;
+    }
     mnuCopy.Enabled = false;
     if (SSTab1 == Tab::FormatOptions) SetFocus(lbOuputPlacesOrder);
     if (SSTab1 == Tab::LinkOptions) SetFocus(txtKinHeight);

@@ -68,6 +68,7 @@ MainWindow::MainWindow(Presenter& presenter)
     setCentralWidget(centre);
     BuildStatusBar();
     presenter_.OnRefresh([this] { Refresh(); });
+    main_.OnTabFocus = [this] { focusesTable_ = true; };
 }
 
 void MainWindow::TakeDesignSize() {
@@ -205,9 +206,6 @@ void MainWindow::OnTabChosen(int index) {
     presenter_.Act([&] {
         main_.SSTab1 = static_cast<Tab>(index);
         main_.SSTab1_GotFocus();
-        for (const auto& [table, view] : views_) {
-            if (table == main_.lvwActiveListView && view->isVisible()) view->setFocus();
-        }
     });
 }
 
@@ -225,11 +223,10 @@ void MainWindow::Refresh() {
 /// Follows the core to another tab, whose table then has the focus.
 void MainWindow::RefreshTab() {
     const int tab = static_cast<int>(main_.SSTab1);
-    if (tabs_->currentIndex() == tab) return;
     tabs_->setCurrentIndex(tab);
-    for (const auto& [table, view] : views_) {
-        if (table == main_.lvwActiveListView && view->isVisible()) view->setFocus();
-    }
+    if (!std::exchange(focusesTable_, false) || main_.lvwActiveListView == nullptr) return;
+    TableView& view = ViewOf(*main_.lvwActiveListView);
+    if (view.isVisible()) view.setFocus();
 }
 
 void MainWindow::ShowStatus() {

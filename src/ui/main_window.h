@@ -51,6 +51,7 @@ class MainWindow : public QMainWindow {
     std::unordered_map<const Table*, TableView*> views_;
     std::vector<std::pair<QAction*, Command*>> menuActions_;
     bool hasWaitCursor_ = false;
+    bool focusesTable_ = false;  // the present tab was given the focus since the last refresh
 };
 
 }  // namespace swiftroll::ui

@@ -162,7 +162,7 @@ TEST(KinshipSearch, EscapeDuringTheCopyKeepsTheEarlierResult) {
     EXPECT_LT(t.main.lvwXref1.Count(), t.main.lvwXref.Count());
     EXPECT_TRUE(t.main.lvwXref.Sorted());
     EXPECT_TRUE(t.main.cmdDrawKinship.Enabled);
-    EXPECT_FALSE(t.main.cmdPrintKinship.Enabled);
+    EXPECT_TRUE(t.main.cmdPrintKinship.Enabled) << "for the paths that are still there";
 }
 
 TEST(KinshipSearch, AnotherRequestIsRefusedWhileOneRuns) {

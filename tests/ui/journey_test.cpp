@@ -83,6 +83,13 @@ TEST_F(Journey, TwoMarkedRowsLeadToADrawing) {
     Click("cmdFindPath");
     EXPECT_EQ(Window().Tabs().currentIndex(), 5);
     EXPECT_GT(Main().lvwKinship.Count(), 2);
+    // The tab that came to the front is the one that is worked with.
+    EXPECT_EQ(Window().focusWidget(), &View(Main().lvwKinship));
+    EXPECT_TRUE(Find<QComboBox>("cboFavorites(5)").isVisible());
+    EXPECT_TRUE(Find<QWidget>("cmdPrintKinship").isEnabled());
+    QTest::mouseDClick(&Find<QLabel>("pnlMessage"), Qt::LeftButton);
+    EXPECT_TRUE(Find<QLabel>("pnlMessage").text().startsWith(QStringLiteral("0 \"Parenté(s)\"")))
+        << Find<QLabel>("pnlMessage").text().toStdString();
     EXPECT_EQ(View(Main().lvwKinship).model()->rowCount(), Main().lvwKinship.Count());
     const QString page = Path(QStringLiteral("parente.html"));
     OnBox(QMessageBox::Yes);  // sizes that differ from the gaps
