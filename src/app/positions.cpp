@@ -42,7 +42,7 @@ void Positions::InitIndexes(TableSet& tables, Dialogs& dialogs, TextView caption
                                                              kLineEnd, "Merci de me prévenir !"_t})});
         }
     }
-    for (const Table* table : tables.Shown()) {
+    for (const Table* table : tables.All()) {
         OfTable& of = byTable_[table];
         of = OfTable();
         for (const Column& column : table->Columns()) {

@@ -12,31 +12,28 @@ RowFormatter::RowFormatter(Application& app) : app_(app), table_(*app.lvwActiveL
         "InitListItem",
         [&] {
             app_.InitIndexes();
-            Widths* widths = WidthsOf(table_);
-            if (widths == nullptr) {
-                app_.Box(" - InitListItem"_t, Concat({"'Y a comme un problème ("_t, table_.Name(), ")",
-                                                      kLineEnd, "Merci de me prévenir immédiatement "_t}));
-                return;
-            }
+            Widths& widths = WidthsOfTable();
             lastPosition_ = &table_ == &app_.lvwOut ? app_.positions.iPosNumber : table_.ColumnCount();
             for (const Column& column : table_.Columns()) {
                 if (!app_.chkIncludeHeaders.Checked() || column.Position > lastPosition_) continue;
-                std::int32_t& width = (*widths)[column.Index];
+                std::int32_t& width = widths[column.Index];
                 width = std::max(width, static_cast<std::int32_t>(column.Caption.size()));
             }
-            lActiveMaxLen_ = *widths;
+            lActiveMaxLen_ = widths;
         },
         [] { return Text(); });
 }
 
-Widths* RowFormatter::WidthsOf(const Table& table) const {
-    if (&table == &app_.lvwIn) return &app_.lMaxLenIn;
-    if (&table == &app_.lvwOut) return &app_.lMaxLenOut;
-    if (&table == &app_.lvwXref) return &app_.lMaxLenXref;
-    if (&table == &app_.lvwFamily) return &app_.lMaxLenFamily;
-    if (&table == &app_.lvwFamilyXref) return &app_.lMaxLenFamilyXref;
-    if (&table == &app_.lvwKinship) return &app_.lMaxLenKinship;
-    return nullptr;
+Widths& RowFormatter::WidthsOfTable() {
+    if (&table_ == &app_.lvwIn) return app_.lMaxLenIn;
+    if (&table_ == &app_.lvwOut) return app_.lMaxLenOut;
+    if (&table_ == &app_.lvwXref) return app_.lMaxLenXref;
+    if (&table_ == &app_.lvwFamily) return app_.lMaxLenFamily;
+    if (&table_ == &app_.lvwFamilyXref) return app_.lMaxLenFamilyXref;
+    if (&table_ == &app_.lvwKinship) return app_.lMaxLenKinship;
+    // Nothing measures the links of a kinship search when they are copied.
+    for (std::int32_t i = 1; i <= table_.Count(); ++i) SetMaxLen(table_.Item(i), lActiveMaxLen_);
+    return lActiveMaxLen_;
 }
 
 template <class CellOf>

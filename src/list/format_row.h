@@ -8,11 +8,10 @@ namespace swiftroll::modCalcOut {
 class RowFormatter {
   public:
     /// Prepares for the rows of `lvwActiveListView` (`InitListItem`): refreshes the position tables and, when
-    /// headers are included, widens the columns to their captions. A table that is none of the six is told in
-    /// a box.
+    /// headers are included, widens the columns to their captions.
     explicit RowFormatter(Application& app);
 
-    /// False for a table that is none of the six: it has no lines.
+    /// False after a failure, which was reported: there are no lines then.
     bool IsReady() const { return lastPosition_ > 0; }
 
     /// The line of a row, without line end: its cells in the order of the columns that are switched on, those
@@ -26,7 +25,7 @@ class RowFormatter {
   private:
     template <class CellOf>
     Text Format(bool bTabs, const CellOf& cellOf) const;
-    Widths* WidthsOf(const Table& table) const;
+    Widths& WidthsOfTable();
 
     Application& app_;
     Table& table_;

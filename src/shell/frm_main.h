@@ -208,7 +208,7 @@ class frmMain : public Application, public ListCommands {
     void mnuResetCol_Click();
     void mnuFind_Click();
     void mnuCopy_Click();
-    std::optional<Text> MarkedLines(TextView sLineEnd);
+    std::optional<Text> MarkedLines();
     void JumpTo(Table& target, TextView sKey);
 
     void RequestKinship(const std::function<void(TextView& step, std::int32_t& row)>& steps);

@@ -203,18 +203,18 @@ void frmMain::mnuFind_Click() {
 
 /// The marked rows of the active table as lines, with the captions before them where they are wanted; nothing
 /// for a table that cannot be exported.
-std::optional<Text> frmMain::MarkedLines(TextView sLineEnd) {
+std::optional<Text> frmMain::MarkedLines() {
     if (lvwActiveListView == nullptr) return std::nullopt;
     const modCalcOut::RowFormatter formatter(*this);
     if (!formatter.IsReady()) return std::nullopt;
     const bool bTabs = optTabSpace.Index() == 0;
     Text lines;
-    if (chkIncludeHeaders.Checked()) lines = Concat({formatter.FormatHeaders(bTabs), sLineEnd});
+    if (chkIncludeHeaders.Checked()) lines = Concat({formatter.FormatHeaders(bTabs), kLineEnd});
     for (std::int32_t i = 1; i <= lvwActiveListView->Count(); ++i) {
         const Row row = lvwActiveListView->Item(i);
         if (!row.Marked()) continue;
         lines += formatter.FormatListItem(row, bTabs);
-        lines += sLineEnd;
+        lines += kLineEnd;
     }
     return lines;
 }
@@ -222,13 +222,13 @@ std::optional<Text> frmMain::MarkedLines(TextView sLineEnd) {
 void frmMain::mnuCopy_Click() {
     modSelectionIn.context.bRestoreClickedRow = false;
     OnActiveTable("mnuCopy_Click", [this](Table&) {
-        if (const auto lines = MarkedLines(kLineEnd)) ports.clipboard.SetText(*lines);
+        if (const auto lines = MarkedLines()) ports.clipboard.SetText(*lines);
     });
 }
 
 Text frmMain::DragText() {
     Text lines;
-    OnActiveTable("lvw_OLEStartDrag", [&](Table&) { lines = MarkedLines("\r").value_or(Text()); });
+    OnActiveTable("lvw_OLEStartDrag", [&](Table&) { lines = MarkedLines().value_or(Text()); });
     return lines;
 }
 

@@ -29,7 +29,7 @@ struct TableSet {
 
     /// All tables in the order of the log's row counts.
     std::vector<Table*> All();
-    /// The tables with position tables and header icons: all but lvwXref1.
+    /// The tables with header icons: all but lvwXref1.
     std::vector<Table*> Shown();
     /// The table of a name, or nullptr.
     Table* Named(TextView name);

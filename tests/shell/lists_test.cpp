@@ -33,14 +33,16 @@ TEST_F(Lists, CopiesTheMarkedRows) {
     main.chkIncludeHeaders.SetChecked(false);
     main.mnuCopy.Click();
     EXPECT_EQ(desktop.clipboard, "Jean-Pierre Dupont  Paris      \r\nAnne        Dupont  PARIS      \r\n");
-    EXPECT_EQ(main.DragText(), ReplaceAll(desktop.clipboard, "\r\n", "\r"));
-    // A table that has no lines, and none at all.
-    desktop.clipboard = "before";
+    EXPECT_EQ(main.DragText(), desktop.clipboard);
+    // The links of a kinship search, which nothing has measured.
     Point(main.lvwXref1, 0, 0);
-    main.mnuSelectAll.Click();
+    Mark(main.lvwXref1, "s");
     main.mnuCopy.Click();
-    ASSERT_EQ(dialogs.boxes.size(), 1u);
-    EXPECT_TRUE(dialogs.boxes[0].text.starts_with("'Y a comme un problème (lvwXref1)"_t));
+    EXPECT_TRUE(desktop.clipboard.starts_with("@I1@ CHIL ") || desktop.clipboard.starts_with("@I1@ "))
+        << desktop.clipboard;
+    // No table at all.
+    EXPECT_TRUE(dialogs.boxes.empty());
+    desktop.clipboard = "before";
     main.lvwActiveListView = nullptr;
     main.mnuCopy.Click();
     EXPECT_EQ(main.DragText(), "");
