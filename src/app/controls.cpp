@@ -116,6 +116,7 @@ void TextBox::SetText(TextView text) {
 
 void TextBox::SetFromText(TextView text) {
     if (Accepts && !Accepts(text)) throw Failure(FailureKind::TypeMismatch, Name());
+    TakeFocus();
     SetText(text);
     LoseFocus();
 }

@@ -176,6 +176,7 @@ void frmMain::InitCombos() {
     if (cboSwiftOut.Get().empty() || cboSwiftOut.Get().starts_with('.')) cmdCopyGedIn2SwiftOut_Click();
     if (cboFileModel.Get().empty()) {
         cboFileModel.SetText(PathOf(ports.folders.Models(), "SwiftRoll.Modele.html"));
+        ChangeModelExtension();
     }
     if (cboKinship.Get().empty()) {
         cboKinship.SetText(PathOf(sUserMyDocuments, "Kinship"));

@@ -253,6 +253,8 @@ class frmMain : public Application, public ListCommands {
     const Text& ModelExtension() const;
 
     Text sPrevFile_;
+    /// The extension that the field with the focus began with, or was last settled at.
+    Text sPrevExtension_;
     /// The key part of the favourites' combo that has the focus.
     Text sFavoriteKey_;
     std::deque<modCommon::ParameterSet> parameterSets_;

@@ -23,9 +23,9 @@ void frmMain::BindWriting() {
     optOutExtension.OnClick = [this] { optOutExtension_Click(optOutExtension.Index()); };
     chkGenerXSL.OnClick = [this] { chkGenerXSL_Click(); };
     for (int i = 0; i < 3; ++i) {
-        txtOutExtension[static_cast<std::size_t>(i)].OnLostFocus = [this, i] {
-            txtOutExtension_LostFocus(i);
-        };
+        TextBox& field = txtOutExtension[static_cast<std::size_t>(i)];
+        field.OnGotFocus = [this, &field] { sPrevExtension_ = field.Get(); };
+        field.OnLostFocus = [this, i] { txtOutExtension_LostFocus(i); };
     }
     cmdCopyGedIn2SwiftOut.Operation =
         mnuCopyGedIn2SwiftOut.Operation = [this] { cmdCopyGedIn2SwiftOut_Click(); };
@@ -117,6 +117,9 @@ void frmMain::txtOutExtension_LostFocus(int Index) {
     constexpr TextView kStandard[] = {"html", "txt", "xml"};
     TextBox& field = txtOutExtension[static_cast<std::size_t>(Index)];
     if (field.Get().empty()) field.SetText(kStandard[Index]);
+    // Passing through the field does not choose its format.
+    if (field.Get() == sPrevExtension_) return;
+    sPrevExtension_ = field.Get();
     optOutExtension_Click(Index);
 }
 

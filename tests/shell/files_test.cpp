@@ -111,7 +111,7 @@ TEST_F(FileCombos, DialogsAskForTheFileOfTheirCombo) {
     EXPECT_EQ(requests,
               (Texts{"open C:\\*.ged Gedcom (*.ged)|*.ged|Tous (*.*)|*.*",
                      "open C:\\*.ged Gedcom (*.ged)|*.ged|Tous (*.*)|*.*",
-                     "open /models/SwiftRoll.Modele.html Fichiers Texte  (*.txt)|*.txt|Tous (*.*)|*.*",
+                     "open /models/SwiftRoll.Modele.txt Fichiers Texte  (*.txt)|*.txt|Tous (*.*)|*.*",
                      "save /docs/.xml XML (*.xml)|*.xml|Tous (*.*)|*.*"}));
 }
 

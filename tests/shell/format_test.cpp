@@ -63,6 +63,19 @@ TEST_F(Format, OwnExtensionsAreUsedAndAnEmptyOneIsGivenBack) {
     EXPECT_EQ(Names(), (Texts{"a.htm", "b.mod", "c.htm"}));
     main.txtOutExtension[0].SetFromText("");
     EXPECT_EQ(Names(), (Texts{"a.html", "b.mod", "c.html"}));
+    // Who only passes through the fields keeps the format.
+    for (std::size_t i = 0; i < 3; ++i) {
+        main.SetFocus(main.txtOutExtension[i]);
+        main.SetFocus(main.txtModelExtension[i]);
+    }
+    main.SetFocus(main.txtOutExtension[2]);
+    main.txtOutExtension[2].SetText("");
+    main.SetFocus(main.txtINDEX);
+    EXPECT_EQ(main.optOutExtension.Index(), 0);
+    main.SetFocus(main.txtOutExtension[2]);
+    main.txtOutExtension[2].SetText("rss");
+    main.SetFocus(main.txtINDEX);
+    EXPECT_EQ(Names(), (Texts{"a.rss", "b.xsl", "c.html"}));
 }
 
 TEST_F(Format, TheWriteCommandAsksWhichRowsAndWhere) {

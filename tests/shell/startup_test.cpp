@@ -13,7 +13,7 @@ TEST(Startup, AFirstStartFillsTheFileNamesAndTheCommands) {
     EXPECT_EQ(t.main.cboGedIn.Get(), "/docs/.ged");
     EXPECT_EQ(t.main.cboGedOut.Get(), "/docs/.Extrait.ged");
     EXPECT_EQ(t.main.cboSwiftOut.Items(), std::vector<Text>{"/docs/.txt"});
-    EXPECT_EQ(t.main.cboFileModel.Get(), "/models/SwiftRoll.Modele.html");
+    EXPECT_EQ(t.main.cboFileModel.Get(), "/models/SwiftRoll.Modele.txt");
     EXPECT_EQ(t.main.cboKinship.Get(), "/docs/Kinship.html");
     EXPECT_EQ(t.folders.created, std::vector<Text>{"/data/SwiftRoll"});
     EXPECT_EQ(t.main.cmdLoad.Caption, "Lire Tout");
@@ -36,7 +36,7 @@ TEST(Startup, TheCommandLineNamesAFileThatIsNotRead) {
         {"/gens/\"a\".ged", "/gens/a.ged"},
         {" \"\" ", "/docs/.ged"},
         // The name of another file combo is dropped without a word.
-        {"/models/SwiftRoll.Modele.html", ""}};
+        {"/models/SwiftRoll.Modele.txt", ""}};
     for (const auto& [commandLine, gedIn] : cases) {
         TestPorts ports;
         ports.files.contents["/gens/a.ged"] = "0 @1@ INDI\r\n0 TRLR\r\n";
