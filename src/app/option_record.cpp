@@ -73,7 +73,10 @@ OptionRecord::OptionRecord()
                    true),
       optTabSpace(*this, {"optTabSpace"}, Texts({"Tabulations"_t, "Espaces"_t}), 0),
       chkIncludeHeaders(*this, {"chkIncludeHeaders", "Inclure les noms de colonnes"_t}, true),
-      txtINDEX(*this, {"txtINDEX", "Index HTML"_t}, "1"),
+      txtINDEX(
+          *this,
+          {"txtINDEX", "Index HTML"_t, "0 = Pas d'index, sinon nombre de caractères par entrée de %INDEX%"_t},
+          "1"),
       chkGenerXSL(*this, {"chkGenerXSL", "+ XSL"_t}, true),
       optOutExtension(*this, {"optOutExtension"}, Texts({"HTML"_t, "Texte "_t, "XML"_t}), 1),
       cboSaveSwift(*this, {"cboSaveSwift"},

@@ -42,8 +42,7 @@ class AboutDialog : public SecondaryDialog {
   protected:
     void mousePressEvent(QMouseEvent*) override { reject(); }
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_F1 || event->key() == Qt::Key_Tab)
-            return SecondaryDialog::keyPressEvent(event);
+        if (event->key() == Qt::Key_F1) return SecondaryDialog::keyPressEvent(event);
         reject();
     }
 
@@ -51,6 +50,7 @@ class AboutDialog : public SecondaryDialog {
     void AddAddress(QVBoxLayout& column, Binder& binder, Command& address) {
         auto* button = new QToolButton;
         button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus);  // all keys belong to the window
         button->setCursor(Qt::PointingHandCursor);
         button->setStyleSheet(
             QStringLiteral("QToolButton { color: %1; border: none; text-decoration: underline; }"

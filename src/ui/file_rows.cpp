@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 
+#include "help_topics.h"
 #include "layout.h"
 #include "qt_text.h"
 
@@ -16,6 +17,7 @@ struct FileRow {
     Command* derive;  // proposes a name
     const char* what;
     const char* howDerived;
+    int topic = 0;  // of the manual, where it is not that of the tab
 };
 
 void AddRow(QGridLayout& grid, int row, const FileRow& file, Binder& binder) {
@@ -34,13 +36,16 @@ void AddRow(QGridLayout& grid, int row, const FileRow& file, Binder& binder) {
     }
     label->setBuddy(combo);
     grid.addWidget(label, row, 0);
-    grid.addWidget(combo, row, 1);
-    grid.addWidget(NewToolButton(binder, file.select, QStringLiteral("Choisir : ") + what), row, 2);
-    grid.addWidget(
-        NewToolButton(binder, file.display, QStringLiteral("Ouvrir : ") + what, QStringLiteral("display")),
-        row, 3);
+    std::vector<QWidget*> widgets{
+        combo, NewToolButton(binder, file.select, QStringLiteral("Choisir : ") + what),
+        NewToolButton(binder, file.display, QStringLiteral("Ouvrir : ") + what, QStringLiteral("display"))};
     if (file.derive != nullptr) {
-        grid.addWidget(NewToolButton(binder, *file.derive, QString::fromUtf8(file.howDerived)), row, 4);
+        widgets.push_back(NewToolButton(binder, *file.derive, QString::fromUtf8(file.howDerived)));
+    }
+    int column = 1;
+    for (QWidget* widget : widgets) {
+        SetHelpTopic(*widget, file.topic);
+        grid.addWidget(widget, row, column++);
     }
 }
 
@@ -71,12 +76,13 @@ QWidget* BuildFileRows(frmMain& main, Binder& binder) {
         {main.cboGedIn, main.cboGedIn, main.cmdSelectDirGedIn, main.cmdDisplayGedIn, nullptr,
          "le fichier GEDCOM à lire", ""},
         {main.cboGedOut, main.cboGedOut, main.cmdSelectDirGedOut, main.cmdDisplayGedOut,
-         &main.cmdCopyGedIn2GedOut, "le fichier GEDCOM à écrire", "Génère Nom du Fichier Gedcom en Sortie"},
+         &main.cmdCopyGedIn2GedOut, "le fichier GEDCOM à écrire", "Génère Nom du Fichier Gedcom en Sortie",
+         Topic::Extract},
         {main.lblOut, main.cboSwiftOut, main.cmdSelectDirSwiftOut, main.cmdDisplaySwiftOut,
          &main.cmdCopyGedIn2SwiftOut, "le fichier du Relevé-vif",
          "Génère Nom du Fichier Relevé-vif en Sortie"},
         {main.lblModel, main.cboFileModel, main.cmdSelectDirModel, main.cmdDisplayModel, nullptr,
-         "le fichier modèle", ""},
+         "le fichier modèle", "", Topic::Models},
         {main.cboKinship, main.cboKinship, main.cmdSelectDirKinship, main.cmdDisplayKinship,
          &main.cmdCopyTitle2kinship, "le fichier des liens de parenté", ""},
     };
@@ -88,7 +94,9 @@ QWidget* BuildFileRows(frmMain& main, Binder& binder) {
     grid->setColumnMinimumWidth(kActions, 140);
     grid->addWidget(NewChoiceButton(binder, main.cmdLoad, main.cboLoad, QStringLiteral("Action de lecture")),
                     0, kActions);
-    grid->addWidget(NewButton(binder, main.cmdSaveGed), 1, kActions);
+    QPushButton* extract = NewButton(binder, main.cmdSaveGed);
+    SetHelpTopic(*extract, Topic::Extract);
+    grid->addWidget(extract, 1, kActions);
     grid->addWidget(
         NewChoiceButton(binder, main.cmdSaveSwift, main.cboSaveSwift, QStringLiteral("Format du Relevé-vif")),
         2, kActions);

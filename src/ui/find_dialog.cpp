@@ -8,6 +8,12 @@
 namespace swiftroll::ui {
 namespace {
 
+/// A combo that is no wider for its items, which change with the table and with every search.
+void KeepWidth(QComboBox& combo, int width) {
+    combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo.setMinimumWidth(width);
+}
+
 /// One condition: the text, its column, and how they are compared.
 QWidget* ConditionFrame(Binder& binder, frmFind& form, std::size_t condition) {
     constexpr std::size_t kWays = 3;
@@ -16,11 +22,11 @@ QWidget* ConditionFrame(Binder& binder, frmFind& form, std::size_t condition) {
     auto* edit = new QComboBox;
     binder.Bind(*edit, text);
     edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    edit->setMinimumWidth(260);
+    KeepWidth(*edit, 260);
     SelectAllOnFocus(*edit->lineEdit());
     auto* columns = new QComboBox;
     binder.Bind(*columns, form.cboColumns[condition], QStringLiteral("Colonne"));
-    columns->setMinimumWidth(150);
+    KeepWidth(*columns, 150);
     frame.grid->addWidget(edit, 0, 0);
     frame.grid->addWidget(NewLabel(ToQt(form.cboColumns[condition].Caption), columns), 0, 1);
     frame.grid->addWidget(columns, 0, 2);
@@ -52,6 +58,8 @@ SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
     column->addWidget(ConditionFrame(binder, form, 1));
     auto* options = new QLabel;
     binder.Bind(*options, form.lblFind);
+    constexpr int kMostOptions = 2;
+    options->setMinimumHeight(kMostOptions * options->fontMetrics().lineSpacing());
     column->addWidget(options);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(NewButton(binder, form.cmdDeselectAll));
@@ -61,8 +69,15 @@ SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
     buttons->addWidget(find);
     buttons->addWidget(NewButton(binder, form.cmdFindNext));
     column->addLayout(buttons);
-    column->addStretch(1);
-    dialog->onActivate = [&form] { form.Activate(); };
+    // The window keeps its size.
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    auto* text = static_cast<QComboBox*>(presenter.WidgetOf(form.cboTextToFind[0]));
+    dialog->onActivate = [&form, text] {
+        form.Activate();
+        // The text may have had the focus when the window was left.
+        text->setFocus();
+        text->lineEdit()->selectAll();
+    };
     return dialog;
 }
 

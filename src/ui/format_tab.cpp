@@ -1,12 +1,24 @@
+#include <QApplication>
 #include <QHBoxLayout>
 
+#include "help_topics.h"
 #include "layout.h"
 #include "option_tabs.h"
 
 namespace swiftroll::ui {
 namespace {
 
-QWidget* CopyFrame(frmMain& main, Binder& binder) {
+/// Greys the caption of a box that is not ticked, though it can be.
+void GreyUnlessTicked(QCheckBox& box) {
+    const QPalette normal = QApplication::palette(&box);
+    QPalette shown = normal;
+    if (!box.isChecked()) {
+        shown.setColor(QPalette::WindowText, normal.color(QPalette::Disabled, QPalette::WindowText));
+    }
+    if (box.palette() != shown) box.setPalette(shown);
+}
+
+QWidget* CopyFrame(frmMain& main, Binder& binder, Presenter& presenter) {
     Frame frame(QStringLiteral("Format des listes"), QStringLiteral("frameOutFormat"));
     std::vector<QRadioButton*> separators{new QRadioButton, new QRadioButton};
     binder.Bind(separators, main.optTabSpace);
@@ -15,14 +27,19 @@ QWidget* CopyFrame(frmMain& main, Binder& binder) {
     frame.grid->addWidget(separators[1], 0, 2);
     frame.grid->addWidget(NewCheckBox(binder, main.chkIncludeHeaders), 1, 0, 1, 4);
     auto* index = NewTextBox(binder, main.txtINDEX, 4);
-    frame.grid->addWidget(NewLabel(QStringLiteral("Index HTML"), index), 2, 0);
+    QLabel* const labels[] = {NewLabel(QStringLiteral("Index HTML"), index),
+                              NewLabel(QStringLiteral("caractère(s)"))};
+    frame.grid->addWidget(labels[0], 2, 0);
     frame.grid->addWidget(index, 2, 1);
-    frame.grid->addWidget(NewLabel(QStringLiteral("caractère(s)")), 2, 2);
+    frame.grid->addWidget(labels[1], 2, 2);
+    for (QLabel* label : labels) {
+        presenter.OnRefresh([label, &main] { label->setEnabled(main.txtINDEX.Enabled); });
+    }
     frame.grid->setColumnStretch(3, 1);
     return frame.box;
 }
 
-QWidget* ExtensionFrame(frmMain& main, Binder& binder) {
+QWidget* ExtensionFrame(frmMain& main, Binder& binder, Presenter& presenter) {
     Frame frame(QStringLiteral("Extension des Listes en sortie"), QStringLiteral("frameFileExt"));
     std::vector<QRadioButton*> formats{new QRadioButton, new QRadioButton, new QRadioButton};
     binder.Bind(formats, main.optOutExtension);
@@ -35,11 +52,14 @@ QWidget* ExtensionFrame(frmMain& main, Binder& binder) {
         frame.grid->addWidget(NewTextBox(binder, main.txtOutExtension[i], 6,
                                          QStringLiteral("Extension de la liste en sortie, ") + format),
                               row, 1);
-        frame.grid->addWidget(NewTextBox(binder, main.txtModelExtension[i], 6,
-                                         QStringLiteral("Extension du modèle en entrée, ") + format),
-                              row, 2);
+        auto* model = NewTextBox(binder, main.txtModelExtension[i], 6,
+                                 QStringLiteral("Extension du modèle en entrée, ") + format);
+        SetHelpTopic(*model, Topic::Models);
+        frame.grid->addWidget(model, row, 2);
     }
-    frame.grid->addWidget(NewCheckBox(binder, main.chkGenerXSL), 3, 3);
+    QCheckBox* stylesheet = NewCheckBox(binder, main.chkGenerXSL);
+    presenter.OnRefresh([stylesheet] { GreyUnlessTicked(*stylesheet); });
+    frame.grid->addWidget(stylesheet, 3, 3);
     frame.grid->setColumnStretch(4, 1);
     return frame.box;
 }
@@ -52,6 +72,7 @@ QWidget* PlacesFrame(frmMain& main, Binder& binder) {
     binder.Bind(*list, main.lbOuputPlacesOrder);
     list->setFixedHeight(3 * (list->fontMetrics().height() + 6) + 2 * list->frameWidth());
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setToolTipDuration(kTipMilliseconds);
     order.grid->addWidget(list, 0, 0);
 
     Frame parts(QStringLiteral("Dans le lieu complet, prendre :"), QStringLiteral("frameFormatPlace"));
@@ -92,15 +113,15 @@ QWidget* ReadingFrame(frmMain& main, Binder& binder) {
 
 }  // namespace
 
-QWidget* BuildFormatTab(frmMain& main, Binder& binder) {
+QWidget* BuildFormatTab(frmMain& main, Binder& binder, Presenter& presenter) {
     auto* page = new QWidget;
     auto* grid = new QGridLayout(page);
     grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     grid->setSpacing(kSpacing);
     grid->addWidget(PlacesFrame(main, binder), 0, 0, 2, 1);
     grid->addWidget(ReadingFrame(main, binder), 2, 0);
-    grid->addWidget(ExtensionFrame(main, binder), 0, 1);
-    grid->addWidget(CopyFrame(main, binder), 1, 1);
+    grid->addWidget(ExtensionFrame(main, binder, presenter), 0, 1);
+    grid->addWidget(CopyFrame(main, binder, presenter), 1, 1);
     grid->addWidget(ColumnsFrame(main, binder), 2, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);

@@ -4,6 +4,11 @@
 #include <QTextStream>
 
 namespace swiftroll::ui {
+namespace {
+
+constexpr const char* kTopicProperty = "helpTopic";
+
+}  // namespace
 
 int TopicOf(Tab tab) {
     switch (tab) {
@@ -25,6 +30,15 @@ int TopicOf(Tab tab) {
             break;
     }
     return Topic::Options;
+}
+
+void SetHelpTopic(QWidget& widget, int topic) { widget.setProperty(kTopicProperty, topic); }
+
+int HelpTopicOf(const QWidget* widget) {
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (const int topic = widget->property(kTopicProperty).toInt(); topic > 0) return topic;
+    }
+    return 0;
 }
 
 QString PageOfTopic(const QString& helpFolder, int topic) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QWidget>
 
 #include "app/application.h"
 
@@ -31,6 +32,10 @@ enum : int {
 
 /// The topic of a tab of the main window.
 int TopicOf(Tab tab);
+/// Gives a widget, and what stands in it, a topic of its own.
+void SetHelpTopic(QWidget& widget, int topic);
+/// The topic of a widget, or else of the nearest one around it that has one; 0 for none.
+int HelpTopicOf(const QWidget* widget);
 /// Page and anchor of a topic in the folder of the manual, "page.html#anchor"; empty for an unknown one.
 QString PageOfTopic(const QString& helpFolder, int topic);
 

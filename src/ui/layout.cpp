@@ -1,7 +1,8 @@
 #include "layout.h"
 
-#include <QEvent>
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QTimer>
 
 #include "themed_icon.h"
@@ -9,17 +10,44 @@
 namespace swiftroll::ui {
 namespace {
 
+/// Selects the text of a box that takes the focus. The click that gives the focus does not undo it, unless
+/// the mouse is dragged over a part of the text.
 class FocusSelector : public QObject {
   public:
-    explicit FocusSelector(QLineEdit& edit) : QObject(&edit) { edit.installEventFilter(this); }
-    bool eventFilter(QObject* object, QEvent* event) override {
-        // After the press of the mouse, which would put the cursor in the text.
-        if (event->type() == QEvent::FocusIn) {
-            auto* edit = static_cast<QLineEdit*>(object);
-            QTimer::singleShot(0, edit, [edit] { edit->selectAll(); });
-        }
-        return false;
+    explicit FocusSelector(QLineEdit& edit) : QObject(&edit), edit_(edit) {
+        edit.installEventFilter(this);
+        // The text of a combo leaves the focus to the combo.
+        if (edit.focusProxy() != nullptr) edit.focusProxy()->installEventFilter(this);
     }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn) TakeFocus(static_cast<QFocusEvent*>(event)->reason());
+        if (object != &edit_ || !isFirstClick_) return false;
+        const auto place = [event] { return static_cast<QMouseEvent*>(event)->position().toPoint(); };
+        if (event->type() == QEvent::MouseButtonPress) pressedAt_ = place();
+        if (event->type() == QEvent::MouseButtonRelease) isFirstClick_ = false;
+        return event->type() == QEvent::MouseMove && !StartsDrag(place());
+    }
+
+  private:
+    void TakeFocus(Qt::FocusReason reason) {
+        // A menu that closes, or another window, only gives back the focus that it had borrowed.
+        if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
+            reason == Qt::ActiveWindowFocusReason)
+            return;
+        isFirstClick_ = reason == Qt::MouseFocusReason;
+        // After the press of the mouse, which would put the cursor in the text.
+        QTimer::singleShot(0, &edit_, [this] { edit_.selectAll(); });
+    }
+    bool StartsDrag(const QPoint& place) {
+        if ((place - pressedAt_).manhattanLength() < QApplication::startDragDistance()) return false;
+        isFirstClick_ = false;
+        edit_.setCursorPosition(edit_.cursorPositionAt(pressedAt_));
+        return true;
+    }
+
+    QLineEdit& edit_;
+    QPoint pressedAt_;
+    bool isFirstClick_ = false;
 };
 
 }  // namespace

@@ -12,6 +12,8 @@ namespace swiftroll::ui {
 /// The one spacing of the window, in pixels.
 inline constexpr int kSpacing = 6;
 inline constexpr int kMargin = 9;
+/// How long the tips stay that tell how a list works.
+inline constexpr int kTipMilliseconds = 20000;
 
 /// A box with a caption around a grid.
 struct Frame {

@@ -114,7 +114,7 @@ QWidget* MainWindow::BuildTabs() {
                               TablePage({&main_.lvwXref, &main_.lvwXref1}),
                               TablePage({&main_.lvwFamily}),
                               TablePage({&main_.lvwKinship}),
-                              Scrolled(BuildFormatTab(main_, binder_)),
+                              Scrolled(BuildFormatTab(main_, binder_, presenter_)),
                               Scrolled(BuildLinksTab(main_, binder_, presenter_)),
                               Scrolled(BuildOptionsTab(main_, binder_))};
     for (std::size_t i = 0; i < std::size(pages); ++i) {
@@ -258,11 +258,17 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     presenter_.Act([this] { main_.Form_QueryUnload(); });
 }
 
+/// That of what has the focus, or else of the tab.
+int MainWindow::HelpTopic() const {
+    const int topic = HelpTopicOf(focusWidget());
+    return topic > 0 ? topic : TopicOf(main_.SSTab1);
+}
+
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         presenter_.Act([this] { main_.RequestAbort(); });
     } else if (event->key() == Qt::Key_F1) {
-        presenter_.Act([this] { main_.LaunchHTMLHelp(TopicOf(main_.SSTab1)); });
+        presenter_.Act([this] { main_.LaunchHTMLHelp(HelpTopic()); });
     } else {
         QMainWindow::keyPressEvent(event);
     }

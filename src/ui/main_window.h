@@ -41,6 +41,7 @@ class MainWindow : public QMainWindow {
     void Refresh();
     void RefreshTab();
     void OnTabChosen(int index);
+    int HelpTopic() const;
 
     Presenter& presenter_;
     frmMain& main_;

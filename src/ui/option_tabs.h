@@ -7,7 +7,7 @@
 namespace swiftroll::ui {
 
 /// The pages of the options: formats of lists, drawings of kinship, and the rest.
-QWidget* BuildFormatTab(frmMain& main, Binder& binder);
+QWidget* BuildFormatTab(frmMain& main, Binder& binder, Presenter& presenter);
 QWidget* BuildLinksTab(frmMain& main, Binder& binder, Presenter& presenter);
 QWidget* BuildOptionsTab(frmMain& main, Binder& binder);
 

@@ -12,6 +12,7 @@
 
 #include "colours.h"
 #include "column_marks.h"
+#include "layout.h"
 #include "list_keys.h"
 #include "qt_text.h"
 
@@ -19,7 +20,6 @@ namespace swiftroll::ui {
 namespace {
 
 constexpr int kCellMargin = 4;
-constexpr int kTipMilliseconds = 20000;
 /// Columns count their width in hundredths of a millimetre, the screen in 96ths of an inch.
 constexpr int kPixelsPerInch = 96, kUnitsPerInch = 2540;
 

@@ -1,4 +1,7 @@
 // The options as a user sets them: buttons, fields and what they tell.
+#include <QDesktopServices>
+#include <QTextBrowser>
+
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -45,6 +48,97 @@ TEST_F(Options, TheFirstClickOnAButtonOfAGroupChoosesIt) {
             Release(Button(group, i));
             EXPECT_TRUE(Button(group, i).isChecked()) << group << i;
         }
+    }
+}
+
+TEST_F(Options, CaptionsAreGreyWhereTheirOptionsRest) {
+    Start();
+    ShowTab(6);
+    const auto areIndexLabelsOn = [&] {
+        int on = 0;
+        for (const QLabel* label : Window().findChildren<QLabel*>()) {
+            const bool isOfIndex = label->text() == QStringLiteral("Index HTML") ||
+                                   label->text() == QStringLiteral("caractère(s)");
+            if (isOfIndex && label->isEnabled()) ++on;
+        }
+        return on;
+    };
+    EXPECT_EQ(areIndexLabelsOn(), 0) << "Texte";
+    ClickSlowly(Button("optOutExtension", 2));
+    EXPECT_EQ(areIndexLabelsOn(), 2);
+    auto& stylesheet = Find<QCheckBox>("chkGenerXSL");
+    const auto colour = [&] { return stylesheet.palette().color(QPalette::Active, QPalette::WindowText); };
+    const QColor normal = colour();
+    Click("chkGenerXSL");
+    EXPECT_TRUE(stylesheet.isEnabled());
+    EXPECT_EQ(colour(), QApplication::palette().color(QPalette::Disabled, QPalette::WindowText));
+    Click("chkGenerXSL");
+    EXPECT_EQ(colour(), normal);
+    EXPECT_TRUE(Find<QLineEdit>("txtINDEX").toolTip().contains(QStringLiteral("%INDEX%")));
+    EXPECT_EQ(Find<QListWidget>("lbOuputPlacesOrder").toolTipDuration(), 20000);
+}
+
+TEST_F(Options, AClickIntoATextSelectsItAndItsOwnMenuDoesNot) {
+    Start();
+    ShowTab(6);
+    for (const char* name : {"cboGedIn", "cboOutPlace"}) {
+        QLineEdit& text = *Find<QComboBox>(name).lineEdit();
+        ClickSlowly(text);
+        EXPECT_EQ(text.selectedText(), text.text()) << name;
+        EXPECT_FALSE(text.text().isEmpty()) << name;
+        ClickSlowly(text);
+        EXPECT_FALSE(text.hasSelectedText()) << name << ": the second click places the cursor";
+    }
+    // The hand shakes a little.
+    auto& format = Find<QLineEdit>("txtPlaceFormat");
+    const QPoint start(6, format.height() / 2);
+    QTest::mousePress(&format, Qt::LeftButton, {}, start);
+    QTest::qWait(20);
+    QTest::mouseMove(&format, start + QPoint(2, 0));
+    QTest::mouseRelease(&format, Qt::LeftButton, {}, start + QPoint(2, 0));
+    EXPECT_EQ(format.selectedText(), format.text());
+    // A text that was left alone stays so when its own menu closes.
+    QTest::mouseClick(&format, Qt::LeftButton, {}, start);
+    ASSERT_FALSE(format.hasSelectedText());
+    OnDialog([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, start, format.mapToGlobal(start));
+    QApplication::sendEvent(&format, &menu);
+    Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return format.hasFocus(); }));
+    QTest::qWait(20);
+    EXPECT_FALSE(format.hasSelectedText());
+}
+
+TEST_F(Options, TheManualOpensAtWhatHasTheFocus) {
+    Start();
+    ShowTab(6);
+    QTextBrowser reader;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &reader, "setSource");
+    const std::pair<const char*, const char*> cases[] = {{"cboGedOut", "extrait.html"},
+                                                         {"cboFileModel", "modeles.html"},
+                                                         {"txtModelExtension(1)", "modeles.html"},
+                                                         {"txtPlaceFormat", "releve.html"},
+                                                         {"cboGedIn", "releve.html"}};
+    for (const auto& [name, page] : cases) {
+        auto& field = Find<QWidget>(name);
+        ClickSlowly(field);
+        QTest::keyClick(&field, Qt::Key_F1);
+        EXPECT_EQ(reader.source().fileName().toStdString(), page) << name;
+    }
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+}
+
+TEST_F(Options, AnyKeyButF1ClosesTheAboutWindow) {
+    Start();
+    auto* about = Window().findChild<QDialog*>(QStringLiteral("frmSplash"));
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Down, Qt::Key_A, Qt::Key_Return}) {
+        QTest::keyClick(&Window(), Qt::Key_F12);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(about));
+        QWidget* const receiver = about->focusWidget() != nullptr ? about->focusWidget() : about;
+        QTest::keyClick(receiver, key);
+        QTest::qWait(20);
+        EXPECT_FALSE(about->isVisible()) << key;
+        about->hide();
     }
 }
 
