@@ -92,7 +92,11 @@ void frmFind::cmdFindNext_Click() {
     Search("?1");
 }
 
-void frmFind::FindNext() { Search("?N"); }
+/// A right click since then has another column.
+void frmFind::FindNext() {
+    engine_.context.iClickedCol = static_cast<std::int16_t>(cboColumns[0].ListIndex());
+    Search("?N");
+}
 
 void frmFind::Search(TextView sMode) {
     engine_.find.first = ConditionOf(cboTextToFind[0], optSearch[0], optSearch[1]);

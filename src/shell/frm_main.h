@@ -26,6 +26,8 @@ struct ListKey {
     Code code = Code::Other;
     char letter = 0;  // in capitals
     bool shift = false, ctrl = false, alt = false;
+    /// Whether it opens the context menu.
+    bool OpensMenu() const { return code == Code::ContextMenu || (code == Code::F10 && shift) || alt; }
 };
 
 /// The main window without a screen: owner of all tables, options and commands. Loading it starts the
@@ -95,9 +97,10 @@ class frmMain : public Application, public ListCommands {
     // The lists
     /// A table has taken the focus: the list commands work on it from now on.
     void TableGotFocus(Table& table);
-    /// Tells the row and the column under the pointer, from 0; -1 for none.
+    /// Tells the row and the column that a button of the mouse, or a key of the menu, was pressed on, from 0;
+    /// -1 for none.
     void HitTest(std::int32_t lRow, std::int32_t lCol);
-    /// What the last hit test told.
+    /// What the last hit test told, or the row that `mnuNextSelected` went to since.
     std::int32_t lHitRow = -1, lHitCol = -1;
 
     /// The context menu of the tables.
@@ -109,7 +112,8 @@ class frmMain : public Application, public ListCommands {
     /// Shows, or shows no more, which cells of the column the commands of the menu would work on. With them
     /// the clicked row becomes `Selected`, until the end if a command changed the marks meanwhile.
     void MarkSubItems(std::int32_t iCol, bool bMark);
-    /// A key that was pressed in the active table, whose hit test stands for the place of the pointer.
+    /// A key that was pressed in the active table. Its commands work on the cell of the last hit test, which
+    /// is made anew for a key that opens the menu, and for no other.
     void lvw_KeyDown(const ListKey& key);
     /// Goes to the individual or the family that the cell of the last hit test names; in lvwOut, marks the
     /// individuals of the marked groups.

@@ -138,12 +138,11 @@ void frmMain::MarkSubItems(std::int32_t iCol, bool bMark) {
 
 void frmMain::lvw_KeyDown(const ListKey& key) {
     using Code = ListKey::Code;
-    if (key.code == Code::ContextMenu || (key.code == Code::F10 && key.shift) || key.alt) {
-        lvw_MouseUp(MouseButton::Right);
-    }
+    if (key.OpensMenu()) lvw_MouseUp(MouseButton::Right);
     if (!key.ctrl || key.code != Code::Letter) return;
-    for (Command* command : {&mnuSelectAll, &mnuDeselectAll, &mnuNextSelected, &mnuInvertSelection,
-                             &mnuDeselectCurrent, &mnuCopy, &mnuDeselectIn, &mnuFind, &mnuFindNext}) {
+    for (Command* command :
+         {&mnuAddFavorite, &mnuSelectAll, &mnuDeselectAll, &mnuNextSelected, &mnuInvertSelection,
+          &mnuDeselectCurrent, &mnuCopy, &mnuDeselectIn, &mnuFind, &mnuFindNext}) {
         if (command->Key == Concat({"Ctrl+", TextView(&key.letter, 1)})) return command->Click();
     }
 }

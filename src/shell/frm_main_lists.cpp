@@ -191,12 +191,14 @@ void frmMain::mnuResetCol_Click() {
     });
 }
 
+/// The dialog looks in the column that was clicked last, with whatever button.
 void frmMain::mnuFind_Click() {
     Text sCell;
     OnActiveTable("mnuFind_Click", [&](Table& table) {
-        const bool isCell =
-            lHitRow >= 0 && lHitRow < table.Count() && lHitCol >= 0 && lHitCol < table.ColumnCount();
-        if (isCell) sCell = table.Item(lHitRow + 1).SubItems(static_cast<std::int16_t>(lHitCol));
+        if (lHitCol < 0 || lHitCol >= table.ColumnCount()) return;
+        const auto column = static_cast<std::int16_t>(lHitCol);
+        modSelectionIn.context.iClickedCol = column;
+        if (lHitRow >= 0 && lHitRow < table.Count()) sCell = table.Item(lHitRow + 1).SubItems(column);
     });
     frmFind.Open(sCell);
 }

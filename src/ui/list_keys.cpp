@@ -23,9 +23,8 @@ std::optional<ListKey> ListKeyOf(const QKeyEvent& event) {
             key.code = Code::Letter;
             key.letter = static_cast<char>('A' + (event.key() - Qt::Key_A));
     }
-    const bool isMenu = key.code == Code::ContextMenu || (key.code == Code::F10 && key.shift) || key.alt;
     const bool isCommand = key.code == Code::Letter && key.ctrl;
-    return isMenu || isCommand ? std::optional(key) : std::nullopt;
+    return key.OpensMenu() || isCommand ? std::optional(key) : std::nullopt;
 }
 
 }  // namespace swiftroll::ui

@@ -190,6 +190,10 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
         presenter_.Act([this] { main_.StatusBar1_DblClick(); });
         return true;
     }
+    if (object == tabs_->tabBar() && event->type() == QEvent::MouseButtonPress) {
+        // No cell of the list that comes to the front was clicked.
+        presenter_.Act([this] { main_.HitTest(-1, -1); });
+    }
     if (object == tabs_->tabBar() && event->type() == QEvent::MouseButtonRelease) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         const int tab = tabs_->tabBar()->tabAt(mouse->position().toPoint());

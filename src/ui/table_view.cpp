@@ -103,15 +103,25 @@ int TableView::RowHeight() const {
 }
 
 int TableView::RowAt(const QPoint& point) const {
-    if (point.y() < 0) return -1;
+    if (!viewport()->rect().contains(point) || header_->logicalIndexAt(point.x()) < 0) return -1;
     const int row = verticalScrollBar()->value() + point.y() / RowHeight();
     return row < model_.rowCount() ? row : -1;
 }
 
 void TableView::HitTest(const QPoint& point) {
     const int row = RowAt(point);
-    const int column = row < 0 ? -1 : header_->logicalIndexAt(point.x());
-    presenter_.Main().HitTest(column < 0 ? -1 : row, column);
+    presenter_.Main().HitTest(row, row < 0 ? -1 : header_->logicalIndexAt(point.x()));
+}
+
+/// The cell that the menu of the keyboard is about: the one under the pointer, or where the pointer is not
+/// over the list, one of the current row, in the column that was clicked last.
+void TableView::HitTestOfKeyboard() {
+    const QPoint point = viewport()->mapFromGlobal(QCursor::pos());
+    if (viewport()->rect().contains(point)) return HitTest(point);
+    const int row = CurrentRow(), clicked = presenter_.Main().lHitCol;
+    const bool isColumn = clicked >= 0 && clicked < header_->count();
+    presenter_.Main().HitTest(row, row < 0 ? -1 : isColumn ? clicked : header_->logicalIndex(0));
+    scrollTo(model_.index(row, 0));
 }
 
 QRect TableView::visualRect(const QModelIndex& index) const {
@@ -136,8 +146,8 @@ void TableView::scrollTo(const QModelIndex& index, ScrollHint) {
 }
 
 QModelIndex TableView::indexAt(const QPoint& point) const {
-    const int row = RowAt(point), column = header_->logicalIndexAt(point.x());
-    return row < 0 || column < 0 ? QModelIndex() : model_.index(row, column);
+    const int row = RowAt(point);
+    return row < 0 ? QModelIndex() : model_.index(row, header_->logicalIndexAt(point.x()));
 }
 
 QModelIndex TableView::moveCursor(CursorAction, Qt::KeyboardModifiers) { return currentIndex(); }
@@ -392,13 +402,12 @@ void TableView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// The keys of the list commands and of the context menu. The menu of the keyboard opens where the pointer
-/// is, over the cell there.
+/// The keys of the list commands, which work on the cell that was clicked last, and of the context menu.
 bool TableView::OnListKey(const QKeyEvent& event) {
     const std::optional<ListKey> key = ListKeyOf(event);
     if (!key) return false;
     presenter_.ActLater([this, key = *key] {
-        HitTest(viewport()->mapFromGlobal(QCursor::pos()));
+        if (key.OpensMenu()) HitTestOfKeyboard();
         presenter_.Main().lvw_KeyDown(key);
     });
     return true;

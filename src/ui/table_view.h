@@ -20,7 +20,7 @@ class TableView : public QAbstractItemView {
     void SetHint(const QString& hint) { hint_ = hint; }
     /// Height of a row in pixels.
     int RowHeight() const;
-    /// The row at a point of the viewport, -1 for none.
+    /// The row at a point of the viewport, -1 for none and outside of the viewport.
     int RowAt(const QPoint& point) const;
     /// Tells the core which cell stands at a point of the viewport.
     void HitTest(const QPoint& point);
@@ -66,6 +66,7 @@ class TableView : public QAbstractItemView {
     void ToggleTick(int row);
     void MoveTo(int row, Qt::KeyboardModifiers modifiers);
     bool OnListKey(const QKeyEvent& event);
+    void HitTestOfKeyboard();
     void StartDrag();
 
     Presenter& presenter_;

@@ -84,12 +84,20 @@ TEST_F(Find, GoesOnFromTheRowFoundAndKeepsOtherMarks) {
     EXPECT_EQ(Marks(main.lvwIn), "s.ssb");
     Dialog().cmdDeselectAll.Click();
     EXPECT_EQ(Marks(main.lvwIn), ".....");
+    // A right click in another column does not change what the menu goes on with.
+    Dialog().cboTextToFind[0].SetText("dupont");
+    Dialog().cmdFind.Click();
+    Point(main.lvwIn, 3, In::FirstName - 1);
+    main.ModifyContextMenu();
+    main.mnuFindNext.Click();
+    EXPECT_EQ(Marks(main.lvwIn), "s.s..");
+    Dialog().cboTextToFind[0].SetText("le gall");
     // The table that is active at the moment is searched, with the clicked column.
     main.ShowTab(Tab::Out);
     Dialog().cmdFind.Click();
     EXPECT_EQ(Marks(main.lvwOut), ".s.");
     main.ShowTab(Tab::FamilyXref);
-    main.modSelectionIn.context.iClickedCol = 10;
+    Dialog().cboColumns[0].SetListIndex(10);
     main.modSelectionIn.find.lFindNext = 0;
     main.mnuFindNext.Click();
     ASSERT_EQ(dialogs.boxes.size(), 1u) << "a column that the table lacks is told";

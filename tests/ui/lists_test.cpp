@@ -128,6 +128,86 @@ TEST_F(Lists, MouseAndKeysMarkRowsAsListsDo) {
     EXPECT_EQ(QApplication::clipboard()->text().count(QLatin1Char('\n')), 6);
 }
 
+TEST_F(Lists, KeysWorkOnTheCellThatWasClickedLast) {
+    StartWithFamily();
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    for (const int row : {1, 3}) table.Item(row + 1).SetChecked(true);
+    const auto press = [&](Qt::Key key) {
+        QTest::keyClick(&View(table), key, Qt::ControlModifier);
+        QTest::qWait(20);
+    };
+    QTest::mouseClick(Viewport(table), Qt::LeftButton, {}, CellAt(table, 0, In::FirstName - 1));
+    QTest::mouseMove(Viewport(table), CellAt(table, 2, In::LastName - 1));
+    press(Qt::Key_J);
+    EXPECT_EQ(Find<QComboBox>("cboFavorites(0)").currentText(), QStringLiteral("@I1@^"));
+    press(Qt::Key_N);
+    EXPECT_TRUE(table.Item(2).Selected());
+    EXPECT_FALSE(table.Item(4).Selected());
+    press(Qt::Key_N);
+    EXPECT_TRUE(table.Item(4).Selected());
+    press(Qt::Key_W);
+    EXPECT_FALSE(table.Item(4).Marked());
+    EXPECT_TRUE(table.Item(2).Marked());
+    // The search looks in the column of the last click, and goes on there when others are clicked.
+    QTest::mouseClick(Viewport(table), Qt::LeftButton, {}, CellAt(table, 4, In::FirstName - 1));
+    press(Qt::Key_F);
+    auto* dialog = Window().findChild<QDialog*>(QStringLiteral("frmFind"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    QTest::qWait(20);
+    auto* text = dialog->findChild<QComboBox*>(QStringLiteral("cboTextToFind(0)"));
+    EXPECT_EQ(text->currentText(), QStringLiteral("Luc"));
+    EXPECT_EQ(text->lineEdit()->selectedText(), QStringLiteral("Luc"));
+    EXPECT_EQ(dialog->findChild<QComboBox*>(QStringLiteral("cboColumns(0)"))->currentText(),
+              QStringLiteral("Prénom"));
+    const QSize size = dialog->size();
+    dialog->resize(size + QSize(80, 60));
+    EXPECT_EQ(dialog->size(), size);
+    QTest::keyClicks(text->lineEdit(), QStringLiteral("paul"));
+    Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    QTest::mouseClick(Viewport(table), Qt::LeftButton, {}, CellAt(table, 0, In::LastName - 1));
+    press(Qt::Key_S);
+    EXPECT_TRUE(table.Item("@I3@").Selected());
+    EXPECT_EQ(dialog->size(), size);
+}
+
+TEST_F(Lists, TheMenuOfTheKeyboardIsAboutThePointerOrElseTheCurrentRow) {
+    StartWithFamily();
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    QTest::mouseClick(Viewport(table), Qt::LeftButton, Qt::ControlModifier,
+                      CellAt(table, 0, In::FirstName - 1));
+    QTest::mouseClick(Viewport(table), Qt::LeftButton, Qt::ControlModifier,
+                      CellAt(table, 0, In::FirstName - 1));
+    QTest::keyClick(&View(table), Qt::Key_Down, Qt::ControlModifier);
+    const auto menuIsAbout = [&](QWidget& under, const QPoint& place) {
+        QString rows;
+        OnDialog([&](QWidget& popup) {
+            for (int i = 1; i <= table.Count(); ++i) {
+                rows += QLatin1Char(table.Item(i).Selected() ? 'x' : '.');
+            }
+            rows += popup.findChild<QAction*>(QStringLiteral("mnuAddFavorite"))->isEnabled() ? "+" : "-";
+            popup.close();
+        });
+        QTest::mouseMove(&under, place);
+        QTest::keyClick(&View(table), Qt::Key_F10, Qt::ShiftModifier);
+        QTest::qWait(50);
+        return rows.toStdString();
+    };
+    QWidget& list = *Viewport(table);
+    EXPECT_EQ(menuIsAbout(list, CellAt(table, 3, 0)), "...x.+");
+    EXPECT_EQ(menuIsAbout(list, QPoint(20, list.height() - 2)), ".....-") << "below the rows";
+    EXPECT_EQ(menuIsAbout(Find<QWidget>("cmdHelp"), QPoint(5, 5)), ".x...+") << "the current row";
+    // What lies below the viewport is no row, nor is what lies right of the columns.
+    View(table).resize(View(table).width(), View(table).Header().height() + View(table).RowHeight() + 30);
+    EXPECT_EQ(View(table).RowAt(QPoint(20, list.height() + 1)), -1);
+    EXPECT_GE(View(table).RowAt(QPoint(20, list.height() - 1)), 0);
+    View(table).Header().resizeSections(QHeaderView::Fixed);
+    for (int i = 0; i < View(table).Header().count(); ++i) View(table).Header().resizeSection(i, 20);
+    EXPECT_EQ(View(table).RowAt(QPoint(20 * View(table).Header().count() + 5, 5)), -1);
+}
+
 TEST_F(Lists, AHeaderSortsAndItsBorderIsTheWidth) {
     StartWithFamily();
     ShowTab(0);
@@ -186,8 +266,8 @@ TEST_F(Lists, TheSearchGoesFromMatchToMatch) {
     StartWithFamily();
     ShowTab(0);
     QTest::mouseClick(Viewport(Main().lvwIn), Qt::LeftButton, {}, CellAt(Main().lvwIn, 0, In::LastName - 1));
-    Main().HitTest(0, In::LastName - 1);
-    program_->ThePresenter().Act([this] { Main().mnuFind.Click(); });
+    QTest::keyClick(&View(Main().lvwIn), Qt::Key_F, Qt::ControlModifier);
+    QTest::qWait(20);
     auto* dialog = Window().findChild<QDialog*>(QStringLiteral("frmFind"));
     ASSERT_TRUE(dialog->isVisible());
     auto* text = dialog->findChild<QComboBox*>(QStringLiteral("cboTextToFind(0)"));
@@ -195,9 +275,6 @@ TEST_F(Lists, TheSearchGoesFromMatchToMatch) {
     dialog->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
     QTest::qWait(20);
-    auto* column = dialog->findChild<QComboBox*>(QStringLiteral("cboColumns(0)"));
-    column->setCurrentIndex(In::LastName - 1);
-    Q_EMIT column->activated(In::LastName - 1);
     text->lineEdit()->selectAll();
     QTest::keyClicks(text->lineEdit(), QStringLiteral("dup"));
     auto* find = dialog->findChild<QWidget*>(QStringLiteral("cmdFind"));
