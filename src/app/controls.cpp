@@ -134,6 +134,11 @@ void ComboBox::SetItems(std::vector<Text> items) {
     listIndex_ = -1;
 }
 
+void ComboBox::SetItem(int index, TextView text) {
+    if (index < 0 || index >= static_cast<int>(items_.size())) throw Failure(FailureKind::IndexOutOfRange);
+    items_[static_cast<std::size_t>(index)] = text;
+}
+
 void ComboBox::SetListIndex(int index) {
     if (index < 0 || index >= static_cast<int>(items_.size())) throw Failure(FailureKind::IndexOutOfRange);
     listIndex_ = index;

@@ -210,6 +210,8 @@ class ComboBox : public Control {
     void SetText(TextView text);
     const std::vector<Text>& Items() const { return items_; }
     void SetItems(std::vector<Text> items);
+    /// Writes an item anew; the picked one stays the same. @throws Failure IndexOutOfRange
+    void SetItem(int index, TextView text);
     /// 0-based place of the picked item, -1 for none.
     int ListIndex() const { return listIndex_; }
     /// Picks an item. @throws Failure IndexOutOfRange

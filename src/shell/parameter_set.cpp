@@ -26,7 +26,18 @@ ParameterSet::ParameterSet(Application& app, ComboBox& combo, Command& save, Par
 /// A "\" would begin a sub-section.
 Text ParameterSet::SetKey(TextView name) const { return Concat({"\\", ReplaceAll(name, "\\", "*")}); }
 
-Text ParameterSet::SectionOf(TextView name) const { return Concat({parts_.section, SetKey(name)}); }
+/// Names are the same whatever their capitals; the key has those with which the set was saved.
+Text ParameterSet::StoredKey(TextView name) const {
+    const Text wanted = SetKey(name);
+    Text key = wanted;
+    for (const auto& [saved, value] : app_.ports.settings.GetAllSettings(parts_.section)) {
+        if (saved == wanted) return wanted;
+        if (SameButCase(saved, wanted)) key = saved;
+    }
+    return key;
+}
+
+Text ParameterSet::SectionOf(TextView name) const { return Concat({parts_.section, StoredKey(name)}); }
 
 void ParameterSet::Load() {
     app_.trail.Guard(
@@ -44,13 +55,20 @@ void ParameterSet::LoadFields() {
     SettingsStore& store = app_.ports.settings;
     const Text typed = combo_.Get(), section = SectionOf(typed);
     const Text name = store.GetSetting(section, kNameKey, typed);
-    if (name != typed) combo_.SetText(name);
+    if (name != typed) ShowName(name);
     for (const Field& field : parts_.fields) {
         const Text present = field.get();
         const Text stored = store.GetSetting(section, field.key, present);
         if (stored != present) field.set(stored);
     }
     if (parts_.loadMore) parts_.loadMore(section);
+}
+
+/// The capitals with which the set was saved come back, in the list too.
+void ParameterSet::ShowName(TextView name) {
+    const int picked = combo_.ListIndex();
+    if (picked < 0 || !SameButCase(combo_.Get(), name)) return combo_.SetText(name);
+    combo_.SetItem(picked, name);
 }
 
 void ParameterSet::Save() {
@@ -70,7 +88,7 @@ void ParameterSet::Save() {
 void ParameterSet::SaveFields(TextView name) {
     SettingsStore& store = app_.ports.settings;
     const Text section = SectionOf(name);
-    store.SaveSetting(parts_.section, SetKey(name), name);
+    store.SaveSetting(parts_.section, StoredKey(name), name);
     store.SaveSetting(section, kNameKey, name);
     for (const Field& field : parts_.fields) store.SaveSetting(section, field.key, field.get());
     if (parts_.saveMore) parts_.saveMore(section);

@@ -32,9 +32,11 @@ class ParameterSet {
 
   private:
     Text SetKey(TextView name) const;
+    Text StoredKey(TextView name) const;
     Text SectionOf(TextView name) const;
     void Load();
     void LoadFields();
+    void ShowName(TextView name);
     void Save();
     void SaveFields(TextView name);
 

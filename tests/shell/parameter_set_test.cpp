@@ -139,6 +139,27 @@ TEST_F(ParameterSets, ASetOfPlacesHoldsTheirOrder) {
     EXPECT_EQ(main.lbOuputPlacesOrder.Items()[0].value, 3);
 }
 
+TEST_F(ParameterSets, NamesAreTheSameWhateverTheirCapitals) {
+    main.txtPlaceFormat.SetText("%2");
+    SaveAs(main.cboOutPlace, "Tout Petit", main.cmdSavePlace);
+    main.cboOutPlace.SetFromText("autre");
+    main.txtPlaceFormat.SetText("%0");
+    main.cboOutPlace.SetFromText("TOUT petit");
+    EXPECT_EQ(main.txtPlaceFormat.Get(), "%2");
+    EXPECT_EQ(main.cboOutPlace.Get(), "Tout Petit");
+    EXPECT_EQ(main.cboOutPlace.Items(), (Texts{"Tout Petit", "autre"}));
+    main.txtPlaceFormat.SetText("%3");
+    main.cmdSavePlace.Click();
+    EXPECT_EQ(Section("OutPlace"), (Values{{"\\Tout Petit", "Tout Petit"}}));
+    EXPECT_EQ(Section("OutPlace\\Tout Petit")["Format"], "%3");
+    // A list that another run saved.
+    main.cboOutPlace.SetItems({"autre", "tout PETIT"});
+    main.txtPlaceFormat.SetText("%0");
+    main.cboOutPlace.SetListIndex(1);
+    EXPECT_EQ(main.txtPlaceFormat.Get(), "%3");
+    EXPECT_EQ(main.cboOutPlace.Items(), (Texts{"autre", "Tout Petit"}));
+}
+
 struct Favourites : ParameterSets {
     Favourites() {
         Read("0 @I1@ INDI\r\n1 NAME A /B/\r\n0 @I2@ INDI\r\n1 NAME C /D/\r\n0 TRLR\r\n");
