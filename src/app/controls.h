@@ -20,6 +20,8 @@ struct WindowPlace {
     bool resizable = true;
     /// Whether there is a place: a window that was never on a screen has none, unless one was restored.
     bool known = false;
+    /// Place and size are then those that the window takes when it is maximised no more.
+    bool maximised = false;
 };
 
 /// A window without a screen: the ordered list of its controls. Presentations, settings and the headless

@@ -184,6 +184,7 @@ class Desktop {
 
 struct SettingEntry {
     Text section, key, value;
+    bool operator==(const SettingEntry&) const = default;
 };
 
 /// The user's settings, kept from one run to the next: texts by section and key. A section may have

@@ -40,6 +40,13 @@ void SetIcon(Column& column, TextView value) {
 
 }  // namespace
 
+ColumnEntries EntriesOf(const Column& column, TextView sSection) {
+    const Text name = NameOf(column);
+    return {{Concat({sSection, kPosition}), name, Decimal(column.Position)},
+            {Concat({sSection, kWidth}), name, Decimal(column.Width)},
+            {Concat({sSection, kIcon}), name, column.Icon}};
+}
+
 bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection) {
     Text sName;
     return app.trail.Guard(
@@ -47,10 +54,11 @@ bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection) 
         [&] {
             SettingsStore& store = app.ports.settings;
             for (const Column& column : lvw.Columns()) {
-                sName = NameOf(column);
-                store.SaveSetting(Concat({sSection, kPosition}), sName, Decimal(column.Position));
-                store.SaveSetting(Concat({sSection, kWidth}), sName, Decimal(column.Width));
-                store.SaveSetting(Concat({sSection, kIcon}), sName, column.Icon);
+                const ColumnEntries entries = EntriesOf(column, sSection);
+                sName = entries.position.key;
+                for (const SettingEntry* entry : {&entries.position, &entries.width, &entries.icon}) {
+                    store.SaveSetting(entry->section, entry->key, entry->value);
+                }
             }
             return true;
         },

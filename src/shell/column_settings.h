@@ -4,6 +4,12 @@
 
 namespace swiftroll::modCommon {
 
+/// The place, the width and the icon of a column as they stand below the section of its table.
+struct ColumnEntries {
+    SettingEntry position, width, icon;
+};
+ColumnEntries EntriesOf(const Column& column, TextView sSection);
+
 /// Writes the places, widths and icons of the columns of a table below a section; false after a failure,
 /// which is reported.
 bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection);

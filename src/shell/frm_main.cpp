@@ -144,6 +144,7 @@ void frmMain::Form_Load(TextView sCommandLine) {
             // The check may have to wait for the network, and the user can end the wait.
             Show();
             if (chkCheckUpdates.Checked()) frmUpdates.GetUpdates(true);
+            RepeatNotice();
             bStarting = false;
         },
         [&] {

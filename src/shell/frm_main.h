@@ -13,7 +13,7 @@
 #include "shell/frm_splash.h"
 #include "shell/list_commands.h"
 #include "shell/parameter_set.h"
-#include "shell/settings_walk.h"
+#include "shell/setting_parts.h"
 #include "update/frm_updates.h"
 
 namespace swiftroll {
@@ -177,6 +177,8 @@ class frmMain : public Application, public ListCommands {
 
     std::vector<modCommon::SavedWindow> SavedWindows();
     void RestoreSettings();
+    /// Puts the notice about the store back before what the start wrote over it.
+    void RepeatNotice();
     void ShowFavorites(Tab tab);
     void cboFavorites_GotFocus(std::size_t Index);
     void cboFavorites_LostFocus(std::size_t Index);
@@ -262,6 +264,8 @@ class frmMain : public Application, public ListCommands {
     /// The key part of the favourites' combo that has the focus.
     Text sFavoriteKey_;
     std::deque<modCommon::ParameterSet> parameterSets_;
+    /// What the windows held after the restore, or the last save: what differs from it is new.
+    modCommon::SettingParts shownSettings_;
     /// The row that was clicked for the context menu, and whether it was `Selected` before.
     struct ClickedRow {
         Table* table = nullptr;

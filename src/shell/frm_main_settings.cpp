@@ -23,36 +23,29 @@ void DeleteFormerOrder(SettingsStore& store, TextView section) {
     }
 }
 
-/// Takes away what restoring appended to the fixed items of a selector.
-void CutBack(ComboBox& selector, std::size_t fixedItems) {
-    std::vector<Text> items = selector.Items();
-    items.resize(fixedItems);
-    selector.SetItems(std::move(items));
-}
-
 }  // namespace
 
 std::vector<SavedWindow> frmMain::SavedWindows() {
     return {{*this, All()}, {frmFind}, {frmPreview}, {frmKinshipSelect}, {frmSplash}, {frmUpdates}};
 }
 
-void frmMain::SaveAllControls() { modCommon::SaveAllControls(*this, SavedWindows()); }
+void frmMain::SaveAllControls() { modCommon::SaveAllControls(*this, SavedWindows(), shownSettings_); }
 
 void frmMain::RestoreSettings() {
-    const std::size_t loads = cboLoad.Items().size(), formats = cboSaveSwift.Items().size(),
-                      drawings = cboDrawKinship.Items().size(), zooms = frmPreview.cboZoom.Items().size();
-    modCommon::GetAllControls(*this, SavedWindows());
-    CutBack(cboLoad, loads);
-    CutBack(frmPreview.cboZoom, zooms);
+    shownSettings_ = modCommon::GetAllControls(*this, SavedWindows());
     frmPreview.cboZoom.SetListIndex(0);
     cboLoad.SetListIndex(chkProcFamilies.Checked() ? 0 : 1);
-    CutBack(cboSaveSwift, formats);
     bFormLoading = true;  // no file name follows the format yet
     optOutExtension_Click(optOutExtension.Index());
     bFormLoading = false;
     cmdSaveSwift.Caption = cboSaveSwift.Get();
-    CutBack(cboDrawKinship, drawings);
     if (const Text notice = ports.settings.Notice(); !notice.empty()) pnlMessage.Set(notice);
+}
+
+void frmMain::RepeatNotice() {
+    const Text notice = ports.settings.Notice(), message = pnlMessage.Get();
+    if (notice.empty() || message == notice) return;
+    pnlMessage.Set(message.empty() ? notice : Concat({notice, " ", message}));
 }
 
 void frmMain::BindParameterSets() {
@@ -116,7 +109,10 @@ void frmMain::BindParameterSets() {
                 },
             .saveMore =
                 [this](const Text& section) {
-                    SaveListOrder(ports.settings, lbOuputPlacesOrder, Concat({section, kOrderSubSection}));
+                    const Text below = Concat({section, kOrderSubSection});
+                    for (const SettingEntry& entry : ListOrderEntries(lbOuputPlacesOrder, below)) {
+                        ports.settings.SaveSetting(entry.section, entry.key, entry.value);
+                    }
                 },
             .tidy = [this](const Text& section) { DeleteFormerOrder(ports.settings, section); }});
 }

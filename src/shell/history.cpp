@@ -5,11 +5,6 @@
 #include "text/edit.h"
 
 namespace swiftroll::modCommon {
-namespace {
-
-constexpr std::size_t kLongestHistory = 10;
-
-}  // namespace
 
 void cboAdd(ComboBox& cbo) {
     const Text text(Trim(cbo.Get()));

@@ -16,17 +16,20 @@ TextView TextOf(TextView key) { return key.substr(std::min(kTextStart, key.size(
 
 }  // namespace
 
-void SaveListOrder(SettingsStore& store, const OrderedList& list, TextView sSection) {
-    std::int64_t place = 0;
+std::vector<SettingEntry> ListOrderEntries(const OrderedList& list, TextView sSection) {
+    std::vector<SettingEntry> entries;
     for (const OrderedList::Item& item : list.Items()) {
-        store.SaveSetting(sSection, Concat({Decimal(item.value, kDigits), " ", item.text}), Decimal(++place));
+        const Text key = Concat({Decimal(item.value, kDigits), " ", item.text});
+        entries.push_back({Text(sSection), key, Decimal(static_cast<std::int64_t>(entries.size()) + 1)});
     }
+    return entries;
 }
 
-bool SetListOrder(Application& app, OrderedList& list, const SettingsStore::Pairs& pairs) {
+ListOrder SetListOrder(Application& app, OrderedList& list, const SettingsStore::Pairs& pairs) {
     const std::vector<OrderedList::Item>& items = list.Items();
-    if (pairs.size() != items.size()) return false;
+    if (pairs.size() != items.size()) return ListOrder::OfOtherItems;
     const std::vector<Text> keys = SortMySettings(app, pairs);
+    if (keys.empty()) return ListOrder::Unreadable;
     std::vector<OrderedList::Item> ordered;
     for (const Text& key : keys) {
         // Numbers that no item has would choose places that there are not.
@@ -40,8 +43,9 @@ bool SetListOrder(Application& app, OrderedList& list, const SettingsStore::Pair
             return std::any_of(ordered.begin(), ordered.end(),
                                [&](const auto& other) { return other.text == item.text; });
         });
-    if (isComplete) list.SetItems(std::move(ordered));
-    return isComplete;
+    if (!isComplete) return ListOrder::OfOtherItems;
+    list.SetItems(std::move(ordered));
+    return ListOrder::ItsOwn;
 }
 
 }  // namespace swiftroll::modCommon

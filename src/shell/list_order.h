@@ -4,11 +4,14 @@
 
 namespace swiftroll::modCommon {
 
-/// Writes the order of a list into a section.
-void SaveListOrder(SettingsStore& store, const OrderedList& list, TextView sSection);
+/// The order of a list as it stands in a section.
+std::vector<SettingEntry> ListOrderEntries(const OrderedList& list, TextView sSection);
 
-/// Puts a list in the order that the pairs of a section tell; false, and the list stays as it is, when they
-/// do not name just its items.
-bool SetListOrder(Application& app, OrderedList& list, const SettingsStore::Pairs& pairs);
+/// What the pairs of a section are to a list.
+enum class ListOrder { ItsOwn, OfOtherItems, Unreadable };
+
+/// Puts a list in the order that the pairs tell. The list stays as it is when they do not name just its
+/// items, and when a value is no place in it, which is reported.
+ListOrder SetListOrder(Application& app, OrderedList& list, const SettingsStore::Pairs& pairs);
 
 }  // namespace swiftroll::modCommon

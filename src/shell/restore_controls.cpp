@@ -5,6 +5,7 @@
 #include "shell/column_settings.h"
 #include "shell/ignoring_failures.h"
 #include "shell/list_order.h"
+#include "shell/setting_parts.h"
 #include "shell/settings_sections.h"
 #include "shell/settings_walk.h"
 #include "shell/sorted_settings.h"
@@ -14,21 +15,35 @@ namespace {
 
 constexpr std::int32_t kSmallestRestored = 1000;  // twips
 
-void RestorePlace(SettingsStore& store, Window& window) {
+/// Reads a value, and passes over one that means nothing.
+template <class Read>
+void ReadValue(Application& app, TextView section, TextView key, Read&& read) {
+    app.trail.Guard("ReadValue", std::forward<Read>(read), [&] {
+        return Concat({"Load/", section, "/", key});
+    });
+}
+
+int PixelsOf(TextView twips, std::int32_t smallest) {
+    return std::max(ToLong(twips), smallest) / kTwipsPerPixel;
+}
+
+void RestoreSide(WindowPlace& place, TextView key, TextView value) {
+    if (key == kTopKey) place.top = PixelsOf(value, 0);
+    if (key == kLeftKey) place.left = PixelsOf(value, 0);
+    if (key == kWidthKey) place.width = PixelsOf(value, kSmallestRestored);
+    if (key == kHeightKey) place.height = PixelsOf(value, kSmallestRestored);
+    if (key == kMaximisedKey) place.maximised = ToBoolean(value);
+}
+
+void RestorePlace(Application& app, Window& window) {
     WindowPlace& place = window.Place;
-    const auto pixelsOf = [](const Text& value, std::int32_t smallest) {
-        return std::max(ToLong(value), smallest) / kTwipsPerPixel;
-    };
-    for (const auto& [key, value] : store.GetAllSettings(WindowSection(window))) {
-        const bool isSize = key == kWidthKey || key == kHeightKey;
+    const Text section = WindowSection(window);
+    for (const auto& [key, value] : app.ports.settings.GetAllSettings(section)) {
+        const bool isSize = key == kWidthKey || key == kHeightKey || key == kMaximisedKey;
         const bool isPlace = key == kTopKey || key == kLeftKey;
         if (!isPlace && !(isSize && place.resizable)) continue;
-        int& field = key == kTopKey     ? place.top
-                     : key == kLeftKey  ? place.left
-                     : key == kWidthKey ? place.width
-                                        : place.height;
-        field = pixelsOf(value, isSize ? kSmallestRestored : 0);
         place.known = true;
+        ReadValue(app, section, key, [&, &key = key, &value = value] { RestoreSide(place, key, value); });
     }
 }
 
@@ -37,26 +52,29 @@ void RestoreCombo(Application& app, ComboBox& combo, TextView section) {
     if (pairs.empty()) return;
     const std::vector<Text> saved = SortMySettings0(app, pairs);
     if (Trim(saved.front()).empty()) return;
-    std::vector<Text> items = combo.Items();
-    for (const Text& item : saved) {
-        if (!Trim(item).empty()) items.push_back(item);
+    // The items of a selector are fixed: what was saved of them is no more than a copy.
+    if (!combo.IsSelector()) {
+        std::vector<Text> items = combo.Items();
+        for (const Text& item : saved) {
+            if (!Trim(item).empty()) items.push_back(item);
+        }
+        combo.SetItems(std::move(items));
     }
-    combo.SetItems(std::move(items));
     combo.SetListIndex(0);
 }
 
 void RestoreList(Application& app, OrderedList& list, TextView section) {
     SettingsStore& store = app.ports.settings;
-    // The next save writes a fresh section.
-    if (SetListOrder(app, list, store.GetAllSettings(section))) return;
+    if (SetListOrder(app, list, store.GetAllSettings(section)) != ListOrder::OfOtherItems) return;
+    // It is of another version; the next save writes a fresh section.
     IgnoringFailures([&] { store.DeleteSetting(section); });
 }
 
 void RestoreControl(Application& app, Control& control, TextView section) {
-    SettingsStore& store = app.ports.settings;
     const auto withFirstValue = [&](TextView from, const auto& use) {
-        const auto pairs = store.GetAllSettings(from);
-        if (!pairs.empty()) use(pairs.front().second);
+        const auto pairs = app.ports.settings.GetAllSettings(from);
+        if (pairs.empty()) return;
+        ReadValue(app, from, pairs.front().first, [&] { use(pairs.front().second); });
     };
     switch (control.Kind()) {
         case ControlKind::ComboBox:
@@ -96,7 +114,7 @@ void RestoreControl(Application& app, Control& control, TextView section) {
 
 }  // namespace
 
-void GetAllControls(Application& app, const std::vector<SavedWindow>& windows) {
+SettingParts GetAllControls(Application& app, const std::vector<SavedWindow>& windows) {
     Text sName;
     app.trail.Guard(
         "GetAllControls",
@@ -105,7 +123,7 @@ void GetAllControls(Application& app, const std::vector<SavedWindow>& windows) {
             const Moment now = app.ports.clock.Now();
             app.sRunStart = Concat({ShortDate(now), " ", LongTime(now)});
             for (const SavedWindow& saved : windows) {
-                RestorePlace(app.ports.settings, saved.window);
+                RestorePlace(app, saved.window);
                 for (Control* control : saved.window.Controls()) {
                     sName = ControlSection(saved.window, control->Name());
                     RestoreControl(app, *control, sName);
@@ -120,6 +138,7 @@ void GetAllControls(Application& app, const std::vector<SavedWindow>& windows) {
             return Concat({"Load/", sName});
         });
     app.bFormLoading = false;
+    return PartsOf(windows);
 }
 
 }  // namespace swiftroll::modCommon

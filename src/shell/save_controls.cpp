@@ -1,17 +1,11 @@
 // The walk that saves the settings.
-#include "shell/column_settings.h"
 #include "shell/ignoring_failures.h"
-#include "shell/list_order.h"
+#include "shell/setting_parts.h"
 #include "shell/settings_sections.h"
 #include "shell/settings_walk.h"
-#include "shell/sorted_settings.h"
 
 namespace swiftroll::modCommon {
 namespace {
-
-/// No history is longer, so that no item stands behind it.
-constexpr int kMostItems = 10;
-constexpr int kSmallestSaved = 200;
 
 void SaveProduct(Application& app) {
     SettingsStore& store = app.ports.settings;
@@ -23,89 +17,39 @@ void SaveProduct(Application& app) {
     });
 }
 
-void SavePlace(SettingsStore& store, const Window& window) {
-    const WindowPlace& place = window.Place;
-    if (!place.known) return;
-    const Text section = WindowSection(window);
-    const auto save = [&](TextView key, int pixels, bool isUsable, std::int64_t fallback) {
-        store.SaveSetting(section, key, Decimal(isUsable ? std::int64_t{pixels} * kTwipsPerPixel : fallback));
+/// False after a failure in the columns of a table, which is reported with the column.
+bool SaveOne(Application& app, const SettingPart& part, const SettingPart& shown) {
+    const auto save = [&] {
+        SavePart(app.ports.settings, part, shown);
+        return true;
     };
-    // A minimised window has no honest place.
-    save(kTopKey, place.top, place.top >= 0, 0);
-    save(kLeftKey, place.left, place.left >= 0, 0);
-    save(kWidthKey, place.width, place.width > 0, kSmallestSaved);
-    save(kHeightKey, place.height, place.height > 0, kSmallestSaved);
-}
-
-void SaveCombo(SettingsStore& store, const ComboBox& combo, TextView section) {
-    int number = 0;
-    for (const Text& item : combo.Items()) {
-        if (!Trim(item).empty()) store.SaveSetting(section, Decimal(number++, kItemDigits), item);
-    }
-    // The list was longer once, perhaps.
-    for (; number < kMostItems; ++number) {
-        IgnoringFailures([&] { store.DeleteSetting(section, Decimal(number, kItemDigits)); });
-    }
-}
-
-void SaveControl(SettingsStore& store, const Control& control, TextView section) {
-    switch (control.Kind()) {
-        case ControlKind::ComboBox:
-            SaveCombo(store, dynamic_cast<const ComboBox&>(control), section);
-            break;
-        case ControlKind::OrderedList:
-            SaveListOrder(store, dynamic_cast<const OrderedList&>(control), section);
-            break;
-        case ControlKind::CheckBox: {
-            const bool checked = dynamic_cast<const CheckBox&>(control).Checked();
-            store.SaveSetting(section, kCheckOrOptionKey, checked ? "1" : "0");
-            break;
-        }
-        case ControlKind::OptionButton: {
-            const bool value = dynamic_cast<const OptionButton&>(control).Value();
-            store.SaveSetting(section, kCheckOrOptionKey, BooleanText(value));
-            break;
-        }
-        case ControlKind::OptionGroup: {
-            const auto& group = dynamic_cast<const OptionGroup&>(control);
-            for (int i = 0; i < static_cast<int>(group.Captions().size()); ++i) {
-                store.SaveSetting(MemberSection(section, i), kCheckOrOptionKey,
-                                  BooleanText(group.Index() == i));
-            }
-            break;
-        }
-        case ControlKind::TextBox:
-            store.SaveSetting(section, kTextKey, dynamic_cast<const TextBox&>(control).Get());
-            break;
-        case ControlKind::Colour:
-        case ControlKind::Label:
-        case ControlKind::Command:
-            break;
-    }
+    if (part.table.empty()) return save();
+    return app.trail.Guard("SaveColumnsSettings", save, [&] {
+        return Concat({part.table, "/", part.section, "/", part.column});
+    });
 }
 
 }  // namespace
 
-void SaveAllControls(Application& app, const std::vector<SavedWindow>& windows) {
-    SettingsStore& store = app.ports.settings;
+void SaveAllControls(Application& app, const std::vector<SavedWindow>& windows, SettingParts& shown) {
+    SettingParts parts = PartsOf(windows);
+    // Where nothing was restored, all is new.
+    shown.resize(parts.size());
     Text sForm, sName;
     const auto walk = [&] {
         SaveProduct(app);
-        for (const SavedWindow& saved : windows) {
-            sForm = saved.window.Name();
-            SavePlace(store, saved.window);
-            for (const Control* control : saved.window.Controls()) {
-                sName = ControlSection(saved.window, control->Name());
-                SaveControl(store, *control, sName);
-            }
-            for (const Table* table : saved.tables) {
-                sName = ControlSection(saved.window, table->Name());
-                if (!SaveColumnsSettings(app, *table, sName)) return;
-            }
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            sForm = parts[i].window;
+            sName = parts[i].section;
+            if (!SaveOne(app, parts[i], shown[i])) return;
         }
     };
     app.trail.Guard(
-        "SaveAllControls", [&] { store.Together(walk); },
+        "SaveAllControls",
+        [&] {
+            app.ports.settings.Together(walk);
+            shown = std::move(parts);
+        },
         [&] {
             return Concat({"Forms=", sForm, "/sName=", sName});
         });

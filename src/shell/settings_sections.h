@@ -12,6 +12,8 @@ inline constexpr TextView kProductSection = "Product";
 inline constexpr TextView kVersionKey = "Version", kLastRunKey = "LastRun";
 inline constexpr TextView kTopKey = "WinTop", kLeftKey = "WinLeft";
 inline constexpr TextView kWidthKey = "WinWidth", kHeightKey = "WinHeight";
+/// Stands only for a window that is maximised.
+inline constexpr TextView kMaximisedKey = "WinMaximised";
 inline constexpr TextView kCheckOrOptionKey = "CheckOrOptionBox", kTextKey = "TextBox";
 inline constexpr TextView kArrayMark = "°"_t;
 /// Digits of the running number of an item of a combo.

@@ -23,7 +23,7 @@ std::vector<Text> Sorted(Application& app, const char* sProc, const Pairs& a, Fi
         },
         [&] {
             return Concat({Decimal(static_cast<std::int64_t>(a.size()) - 1), "/",
-                           Decimal(static_cast<std::int64_t>(i))});
+                           Decimal(static_cast<std::int64_t>(i)), "/", a[i].first});
         });
 }
 

@@ -135,7 +135,7 @@ TEST_F(SavedSettings, StandUnderTheNamesOfTheirControls) {
         run.main.lvwOut.ColumnAt(3).Key.clear();
         run.main.frmKinshipSelect.chkInverted.SetChecked(true);
         run.main.Place = {-32000, 7, 0, 800, true, true};
-        Section("Settings\\frmMain\\cboGedIn") = {{"002", "old"}, {"004", "old"}, {"010", "unknown"}};
+        Section("Settings\\frmMain\\cboGedIn") = {{"002", " "}, {"004", "B"}, {"010", "unknown"}};
         run.main.SaveAllControls();
     });
     const TextView array = "°"_t;
@@ -207,10 +207,11 @@ TEST_F(SavedSettings, AnOrderOfOtherItemsIsDropped) {
             ASSERT_EQ(items.size(), 3u);
             EXPECT_EQ(items[0].text, "Naissance");
             EXPECT_EQ(items[1].value, 2);
-            EXPECT_EQ(store.sections.count(section), 0u);
+            // Only a place that the list does not have is a failure, and kept.
+            const std::size_t failures = &order == &orders[4] ? 1 : 0;
+            EXPECT_EQ(store.sections.count(section), failures);
             EXPECT_EQ(store.sections.count(section + "s"), 1u);
-            // Only a place that the list does not have is a failure.
-            EXPECT_EQ(run.dialogs.boxes.size(), &order == &orders[4] ? 1u : 0u);
+            EXPECT_EQ(run.dialogs.boxes.size(), failures);
         });
     }
 }
@@ -232,17 +233,123 @@ TEST_F(SavedSettings, ColumnsThatAreNotKnownAreSkipped) {
     });
 }
 
-TEST_F(SavedSettings, AValueThatMeansNothingEndsTheRestoreAndNotTheStart) {
+TEST_F(SavedSettings, AValueThatMeansNothingIsPassedOverAndKept) {
+    const Text tabs = "Settings\\frmMain\\optTabSpace" + Text("°"_t);
+    const Text order = "Settings\\frmMain\\lbOuputPlacesOrder";
+    const Values unreadable = {
+        {"001 Naissance", "x"}, {Text("002 Décès"_t), "1"}, {"003 Mariage, Divorce,...", "2"}};
+    Section("Settings\\frmMain") = {{"WinTop", "300"}, {"WinWidth", "large"}, {"WinHeight", "12000"}};
     Section("Settings\\frmMain\\chkTips") = {{"CheckOrOptionBox", "perhaps"}};
     Section("Settings\\frmMain\\chkInvertNames") = {{"CheckOrOptionBox", "1"}};
+    Section(tabs + "0") = {{"CheckOrOptionBox", ""}};
+    Section(order) = unreadable;
+    Section("Settings\\frmMain\\lvwXref1\\Width") = {{"Type", "wide"}};
+    Section("Settings\\frmMain\\lvwXref1\\Position") = {{"Type", "first"}};
+    Section("Settings\\frmMain\\cboGedOut") = {{"000", " "}, {"001", "hidden"}};
+    Section("Settings\\frmMain\\txtKinV") = {{"TextBox", "31"}};
+    Start([&](OneRun& run) {
+        Text told;
+        for (const MessageBox& box : run.dialogs.boxes) told += box.text;
+        for (const TextView key : {"|Load/Settings\\frmMain/WinWidth|", "chkTips/CheckOrOptionBox|"}) {
+            EXPECT_NE(told.find(key), Text::npos) << key;
+        }
+        EXPECT_EQ(run.dialogs.boxes.size(), 5u) << told;
+        EXPECT_EQ(run.main.Place.top, 20);
+        EXPECT_EQ(run.main.Place.height, 800);
+        EXPECT_TRUE(run.main.chkTips.Checked() && run.main.chkInvertNames.Checked());
+        EXPECT_EQ(run.main.txtKinV.Get(), "31");
+        run.main.txtKinH.SetText("7");
+        run.main.SaveAllControls();
+    });
+    EXPECT_EQ(Section("Settings\\frmMain")["WinWidth"], "large");
+    EXPECT_EQ(Section("Settings\\frmMain\\chkTips")["CheckOrOptionBox"], "perhaps");
+    EXPECT_EQ(Section(tabs + "0")["CheckOrOptionBox"], "");
+    EXPECT_EQ(Section(order), unreadable);
+    EXPECT_EQ(Section("Settings\\frmMain\\lvwXref1\\Width")["Type"], "wide");
+    EXPECT_EQ(Section("Settings\\frmMain\\lvwXref1\\Position")["Type"], "first");
+    EXPECT_EQ(Section("Settings\\frmMain\\cboGedOut"), (Values{{"000", "hidden"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\txtKinV")["TextBox"], "31");
+    EXPECT_EQ(Section("Settings\\frmMain\\txtKinH")["TextBox"], "7");
+    // What the user sets is written, with all that belongs to it.
+    Start([&](OneRun& run) {
+        run.main.chkTips.SetChecked(false);
+        run.main.optTabSpace.SetIndex(1);
+        run.main.lbOuputPlacesOrder.Move(2, 0);
+        run.main.lvwXref1.MoveColumn(3, 1);
+        run.main.Place.width = 1000;
+        run.main.SaveAllControls();
+    });
+    Start([](OneRun& run) {
+        EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
+        EXPECT_FALSE(run.main.chkTips.Checked());
+        EXPECT_EQ(run.main.optTabSpace.Index(), 1);
+        EXPECT_EQ(run.main.lbOuputPlacesOrder.Items()[0].value, 3);
+        EXPECT_EQ(run.main.lvwXref1.ColumnAt(3).Position, 1);
+        EXPECT_EQ(run.main.Place.width, 1000);
+    });
+}
+
+TEST_F(SavedSettings, TwoProgramsAtATimeKeepWhatBothDid) {
+    Section("Settings\\frmMain\\cboGedIn") = {{"000", "a"}, {"001", "b"}, {"002", "c"}};
+    Section("Settings\\frmMain\\cboFavorites°5"_t) = {{"000", "k^old"}};
+    for (int i = 0; i < 10; ++i) {
+        Section("Settings\\frmMain\\cboGedOut")["00" + std::to_string(i)] = "o" + std::to_string(i);
+    }
+    OneRun first(store), second(store);
+    first.Start();
+    second.Start();
+    second.main.chkTips.SetChecked(false);
+    second.main.optOutExtension.SetIndex(2);
+    second.main.cboGedIn.SetItems({"n", "a", "c"});
+    second.main.cboFavorites[5].SetItems({"k^new"});
+    second.main.cboGedOut.SetFromText("second");
+    first.main.chkMaxLinks.SetChecked(true);
+    first.main.cboGedIn.SetItems({"m", "A", "b"});
+    first.main.cboGedOut.SetFromText("o9");
+    second.main.SaveAllControls();
+    // A second save of the same run meets the same.
+    for (int i = 0; i < 2; ++i) first.main.SaveAllControls();
+    EXPECT_EQ(Section("Settings\\frmMain\\cboGedIn"), (Values{{"000", "m"}, {"001", "A"}, {"002", "n"}}));
+    EXPECT_EQ(Section("Settings\\frmMain\\cboFavorites°5"_t), (Values{{"000", "k^new"}}));
+    const Values& out = Section("Settings\\frmMain\\cboGedOut");
+    EXPECT_EQ(out.size(), 10u);
+    EXPECT_EQ(out.at("000"), "o9") << "in use, though it had left the other list";
+    EXPECT_EQ(out.at("001"), "o0");
+    Start([](OneRun& run) {
+        EXPECT_FALSE(run.main.chkTips.Checked());
+        EXPECT_TRUE(run.main.chkMaxLinks.Checked());
+        EXPECT_EQ(run.main.optOutExtension.Index(), 2);
+    });
+}
+
+TEST_F(SavedSettings, SelectorsKeepTheirItemsAndStoresThatGrewShrink) {
+    const Text section = "Settings\\frmFind\\cboColumns" + Text("°"_t) + "0";
+    Start([&](OneRun& run) {
+        for (int generation = 0; generation < 30; ++generation) {
+            for (const Text& item : run.main.frmFind.cboColumns[0].Items()) {
+                const std::string number = std::to_string(Section(section).size());
+                Section(section)[std::string(3 - std::min<std::size_t>(3, number.size()), '0') + number] =
+                    item;
+            }
+        }
+    });
+    ASSERT_EQ(Section(section).size(), 510u);
+    Section(section)["other"] = "x";
+    for (int generation = 0; generation < 2; ++generation) {
+        Start([&](OneRun& run) {
+            EXPECT_EQ(run.main.frmFind.cboColumns[0].Items().size(), 17u);
+            EXPECT_EQ(run.main.frmFind.cboColumns[0].ListIndex(), 0);
+            run.main.SaveAllControls();
+            EXPECT_EQ(Section(section).size(), 18u);
+        });
+    }
+}
+
+TEST_F(SavedSettings, TheNoticeOfADamagedStoreOutlivesTheCheckOfUpdates) {
+    Section("Settings\\frmMain\\chkCheckUpdates") = {{"CheckOrOptionBox", "1"}};
     store.notice = "Le fichier des paramètres était endommagé."_t;
     Start([&](OneRun& run) {
-        ASSERT_EQ(run.dialogs.boxes.size(), 1u);
-        EXPECT_TRUE(run.dialogs.boxes[0].text.ends_with("|Load/Settings\\frmMain\\chkTips|"));
-        EXPECT_TRUE(run.main.chkInvertNames.Checked());
-        EXPECT_FALSE(run.main.bFormLoading);
-        EXPECT_EQ(run.main.cboGedIn.Get(), "/docs/.ged");
-        EXPECT_EQ(run.main.pnlMessage.Get(), store.notice);
+        EXPECT_EQ(run.main.pnlMessage.Get(), store.notice + Text(" Vous avez la dernière version."_t));
     });
 }
 

@@ -1,0 +1,117 @@
+// How what this program holds meets what stands in the store.
+#include <algorithm>
+
+#include "shell/history.h"
+#include "shell/ignoring_failures.h"
+#include "shell/setting_parts.h"
+#include "shell/settings_sections.h"
+
+namespace swiftroll::modCommon {
+namespace {
+
+using Kind = SettingPart::Kind;
+using Names = std::vector<Text>;
+
+bool IsStored(SettingsStore& store, const SettingEntry& entry) {
+    const auto pairs = store.GetAllSettings(entry.section);
+    return std::any_of(pairs.begin(), pairs.end(), [&](const auto& pair) { return pair.first == entry.key; });
+}
+
+void Save(SettingsStore& store, const SettingEntry& entry) {
+    store.SaveSetting(entry.section, entry.key, entry.value);
+}
+
+void Delete(SettingsStore& store, TextView section, TextView key) {
+    IgnoringFailures([&] { store.DeleteSetting(section, key); });
+}
+
+void SaveValue(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
+    const bool isChanged = part.entries != shown.entries;
+    if (isChanged && part.kind == Kind::Order) {
+        IgnoringFailures([&] { store.DeleteSetting(part.section); });
+    }
+    if (part.entries.empty()) {
+        for (const SettingEntry& gone : shown.entries) Delete(store, gone.section, gone.key);
+    }
+    for (const SettingEntry& entry : part.entries) {
+        if (isChanged || !IsStored(store, entry)) Save(store, entry);
+    }
+}
+
+/// All items that a selector had once and has no more go.
+void SaveSelector(SettingsStore& store, const SettingPart& part) {
+    for (const SettingEntry& entry : part.entries) Save(store, entry);
+    for (const auto& [key, value] : store.GetAllSettings(part.section)) {
+        const auto number = ParseDecimal(key);
+        if (number && *number >= static_cast<std::int64_t>(part.entries.size())) {
+            Delete(store, part.section, key);
+        }
+    }
+}
+
+Names NamesOf(const SettingPart& part) {
+    Names names;
+    for (const SettingEntry& entry : part.entries) names.push_back(entry.value);
+    return names;
+}
+
+Names StoredNames(SettingsStore& store, TextView section) {
+    const auto pairs = store.GetAllSettings(section);
+    Names names;
+    for (std::size_t i = 0; i < kLongestHistory; ++i) {
+        const Text key = Decimal(static_cast<std::int64_t>(i), kItemDigits);
+        for (const auto& pair : pairs) {
+            if (pair.first == key && !Trim(pair.second).empty()) names.push_back(pair.second);
+        }
+    }
+    return names;
+}
+
+bool Holds(const Names& names, TextView name) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const Text& other) { return SameButCase(other, name); });
+}
+
+/// What this program has, without what another one removed since, and behind it what another one added.
+Names Merged(const Names& own, const Names& shown, const Names& stored) {
+    Names merged;
+    // A name that was put on top since is in use, whatever became of it elsewhere.
+    const bool hasNewTop = !own.empty() && (shown.empty() || !SameButCase(own.front(), shown.front()));
+    for (const Text& name : own) {
+        const bool isOnTop = hasNewTop && &name == &own.front();
+        if (isOnTop || !Holds(shown, name) || Holds(stored, name)) merged.push_back(name);
+    }
+    for (const Text& name : stored) {
+        if (!Holds(shown, name) && !Holds(merged, name)) merged.push_back(name);
+    }
+    merged.resize(std::min(merged.size(), kLongestHistory));
+    return merged;
+}
+
+void SaveHistory(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
+    const Names names = Merged(NamesOf(part), NamesOf(shown), StoredNames(store, part.section));
+    for (std::size_t i = 0; i < kLongestHistory; ++i) {
+        const Text key = Decimal(static_cast<std::int64_t>(i), kItemDigits);
+        if (i < names.size()) {
+            store.SaveSetting(part.section, key, names[i]);
+        } else {
+            Delete(store, part.section, key);
+        }
+    }
+}
+
+}  // namespace
+
+void SavePart(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
+    switch (part.kind) {
+        case Kind::Value:
+        case Kind::Order:
+            return SaveValue(store, part, shown);
+        case Kind::History:
+            return SaveHistory(store, part, shown);
+        case Kind::Selector:
+            return SaveSelector(store, part);
+    }
+}
+
+}  // namespace swiftroll::modCommon
