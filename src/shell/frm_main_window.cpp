@@ -64,6 +64,7 @@ void frmMain::mnuContext2_Click() {
 }
 
 void frmMain::cmdExit_Click() {
+    LeaveFocus();  // a name that was just typed enters its history
     SaveAllControls();
     bExiting = true;
     for (Window* window : SecondaryWindows()) window->Hide();

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 
 #include "colours.h"
+#include "drop_down.h"
 #include "ordered_list_widget.h"
 #include "qt_text.h"
 
@@ -131,6 +132,7 @@ void Binder::Bind(QLineEdit& widget, TextBox& control, const QString& descriptio
 void Binder::Bind(QComboBox& widget, ComboBox& control, const QString& description, bool isFile) {
     BindCommon(widget, control, description);
     widget.setEditable(!control.IsSelector());
+    FitDropDown(widget);
     presenter_.OnRefresh([&widget, &control, isFile] { ShowCombo(widget, control, isFile); });
     if (widget.isEditable()) {
         widget.setInsertPolicy(QComboBox::NoInsert);

@@ -4,6 +4,7 @@
 #include "dialogs.h"
 #include "help_topics.h"
 #include "layout.h"
+#include "window_place.h"
 
 namespace swiftroll::ui {
 namespace {
@@ -79,8 +80,9 @@ SecondaryDialog* BuildKinshipDialog(Presenter& presenter, QtDialogs& dialogs, QW
 
     form.OnHide = [dialog] { dialog->done(QDialog::Accepted); };
     dialog->onClose = [&form] { form.cmdCancel.Click(); };
-    dialogs.ShowWith(form, [&presenter, dialog] {
+    dialogs.ShowWith(form, [&presenter, &form, dialog] {
         presenter.Refresh();
+        RestorePlace(*dialog, form);
         dialog->exec();
     });
     return dialog;

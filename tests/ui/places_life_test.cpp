@@ -1,0 +1,167 @@
+// Two lives of the program: where its windows stand, and what was typed last.
+#include <QAbstractItemView>
+#include <QPushButton>
+#include <QScreen>
+
+#include "platform/settings_store.h"
+#include "window_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+class Places : public WindowTest {
+  protected:
+    /// Closes the window by its cross, saves, and starts the program again.
+    void Restart() {
+        OnBox(QMessageBox::Yes);
+        Window().close();
+        ASSERT_TRUE(Main().bEnded);
+        program_ = std::make_unique<ui::DesktopApplication>();
+        Start();
+    }
+    SettingsStore::Pairs Stored(TextView section) {
+        return platform::SettingsFile(platform::UserFolders().Settings()).GetAllSettings(section);
+    }
+    void Type(const char* combo, const QString& text) {
+        QLineEdit* edit = Find<QComboBox>(combo).lineEdit();
+        QTest::mouseClick(edit, Qt::LeftButton);
+        QTest::keySequence(edit, QKeySequence::SelectAll);
+        QTest::keyClicks(edit, text);
+    }
+    /// Opens the dialog of the search with two people, and gives its place.
+    QRect KinshipPlace(const std::function<void(QWidget&)>& look = {}) {
+        QRect place;
+        Read(kFamily);
+        ShowTab(0);
+        QTest::mouseClick(View(Main().lvwIn).viewport(), Qt::LeftButton, {}, CellAt(Main().lvwIn, 0, 1));
+        QTest::mouseClick(View(Main().lvwIn).viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          CellAt(Main().lvwIn, 4, 1));
+        OnDialog([&](QWidget& dialog) {
+            if (look) look(dialog);
+            place = QRect(dialog.pos(), dialog.size());
+            QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("cmdCancel")), Qt::LeftButton);
+        });
+        Click("cmdFindPath");
+        return place;
+    }
+};
+
+TEST_F(Places, ATypedNameIsKeptWhenTheWindowIsClosed) {
+    Start();
+    Type("cboGedOut", Path(QStringLiteral("extrait neuf.ged")));
+    Restart();
+    EXPECT_EQ(Find<QComboBox>("cboGedOut").currentText(), Path(QStringLiteral("extrait neuf.ged")));
+}
+
+TEST_F(Places, TheDialogOfTheSearchComesBackToItsPlace) {
+    Start();
+    KinshipPlace([](QWidget& dialog) {
+        dialog.move(123, 75);
+        QTest::qWait(20);
+    });
+    Restart();
+    const auto stored = Stored("Settings\\frmKinshipSelect");
+    EXPECT_EQ(stored.size(), 4u);
+    // A life in which it is never shown.
+    Restart();
+    EXPECT_EQ(Stored("Settings\\frmKinshipSelect"), stored);
+    EXPECT_EQ(KinshipPlace().topLeft(), QPoint(123, 75));
+}
+
+TEST_F(Places, AWindowIsMaximisedAgainAndFindsItsFormerSize) {
+    Start();
+    Window().move(0, 45);
+    Window().resize(Window().width(), 720);
+    QTest::qWait(20);
+    const QRect normal(Window().pos(), Window().size());
+    Window().showMaximized();
+    QTest::qWait(20);
+    for (int life = 0; life < 2; ++life) {
+        Restart();
+        QTest::qWait(20);
+        EXPECT_TRUE(Window().isMaximized());
+    }
+    Window().showNormal();
+    QTest::qWait(20);
+    EXPECT_EQ(QRect(Window().pos(), Window().size()), normal);
+    Restart();
+    EXPECT_FALSE(Window().isMaximized());
+    EXPECT_EQ(Stored("Settings\\frmMain").size(), 4u);
+}
+
+TEST_F(Places, AWindowLargerThanTheScreenIsFittedToIt) {
+    Start();
+    Window().move(30, 45);
+    Window().resize(3000, 2000);
+    QTest::qWait(20);
+    Restart();
+    const QRect screen = Window().screen()->availableGeometry();
+    EXPECT_EQ(Window().pos(), screen.topLeft());
+    EXPECT_EQ(Window().width(), std::max(screen.width(), Window().minimumWidth()));
+    EXPECT_LE(Window().height(), screen.height());
+    EXPECT_GT(Window().height(), screen.height() - 100);
+}
+
+TEST_F(Places, AWidthThatCannotBeReadIsKeptUntilTheUserChangesIt) {
+    Start();
+    Restart();
+    platform::SettingsFile(platform::UserFolders().Settings())
+        .SaveSetting("Settings\\frmMain", "WinWidth", "large");
+    const auto width = [&] {
+        for (const auto& [key, value] : Stored("Settings\\frmMain")) {
+            if (key == "WinWidth") return value;
+        }
+        return Text();
+    };
+    OnBox(QMessageBox::No);
+    Window().close();
+    program_ = std::make_unique<ui::DesktopApplication>();
+    OnBox(QMessageBox::Ok);
+    Start();
+    EXPECT_TRUE(boxes.last().contains(QStringLiteral("Settings\\frmMain/WinWidth")));
+    OnBox(QMessageBox::Yes);
+    Window().close();
+    EXPECT_EQ(width(), "large");
+    program_ = std::make_unique<ui::DesktopApplication>();
+    OnBox(QMessageBox::Ok);
+    Start();
+    QTest::qWait(20);
+    Window().resize(Window().size() + QSize(15, 0));
+    QTest::qWait(20);
+    const int chosen = Window().width();
+    OnBox(QMessageBox::Yes);
+    Window().close();
+    EXPECT_EQ(width(), std::to_string(chosen * 15));
+}
+
+TEST_F(Places, AnOpenListIsAsWideAsItsLongestItem) {
+    Start();
+    const QString longName = Path(QString(40, QLatin1Char('W')) + QStringLiteral(".ged"));
+    for (const QString& name : {longName, Path(QString(400, QLatin1Char('W')))}) {
+        Type("cboGedOut", name);
+        Type("cboKinship", Path(QStringLiteral("k.html")));
+        auto& combo = Find<QComboBox>("cboGedOut");
+        OnDialog([&](QWidget& popup) {
+            const auto* list = popup.findChild<QAbstractItemView*>();
+            const int screen = combo.screen()->availableGeometry().width();
+            EXPECT_GE(list->viewport()->width(), std::min(list->sizeHintForColumn(0), screen - 20));
+            EXPECT_LE(popup.width(), screen);
+            EXPECT_GE(popup.x(), 0);
+            QTest::keyClick(&popup, Qt::Key_Escape);
+        });
+        QTest::mouseClick(&combo, Qt::LeftButton, {}, QPoint(combo.width() - 8, combo.height() / 2));
+        QTest::qWait(100);
+    }
+    // The list of a selector that is no wider than its arrow.
+    auto& action = Find<QComboBox>("cboLoad");
+    OnDialog([&](QWidget& popup) {
+        const auto* list = popup.findChild<QAbstractItemView*>();
+        EXPECT_GE(list->viewport()->width(), list->sizeHintForColumn(0));
+        QTest::keyClick(&popup, Qt::Key_Escape);
+    });
+    QTest::mouseClick(&action, Qt::LeftButton);
+    QTest::qWait(100);
+}
+
+}  // namespace
+}  // namespace swiftroll::test
