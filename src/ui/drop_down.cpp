@@ -42,8 +42,9 @@ class DropDownWidth : public QObject {
         const int bar = combo_.count() > kItemsWithoutBar
                             ? style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &combo_)
                             : 0;
+        const int frame = 2 * style.pixelMetric(QStyle::PM_ComboBoxFrameWidth, nullptr, &combo_);
         const int screen = combo_.screen()->availableGeometry().width();
-        list.setMinimumWidth(std::min(std::max(widest, 0) + kMargin + bar, screen));
+        list.setMinimumWidth(std::min(std::max(widest, 0) + kMargin + bar, screen - frame));
     }
 
     QComboBox& combo_;

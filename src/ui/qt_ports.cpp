@@ -84,7 +84,9 @@ void QtDialogs::Attach(Presenter& presenter, QWidget& owner) {
 
 QWidget* QtDialogs::Owner() const {
     QWidget* modal = QApplication::activeModalWidget();
-    return modal != nullptr ? modal : owner_;
+    if (modal != nullptr) return modal;
+    // A box before the window would fix its place on the screen without its frame.
+    return owner_->isVisible() ? owner_ : nullptr;
 }
 
 BoxAnswer QtDialogs::Show(const MessageBox& box) {

@@ -12,7 +12,6 @@ namespace {
 struct Shown {
     QRect place;
     bool isMaximised = false;
-    bool operator==(const Shown&) const = default;
 };
 
 class PlaceKeeper : public QObject {
@@ -41,29 +40,29 @@ class PlaceKeeper : public QObject {
         return {QRect(widget_.pos(), widget_.size()), false};
     }
 
-    /// A window that was restored keeps the place that it had then until the user gives it another one. The
-    /// frame around a window that was just shown is known only after its first move: what it got is known,
-    /// and what is noted then is mended, when it is painted.
+    /// Notes the sides that changed. A window that was restored keeps what the settings told of a side until
+    /// the user changes it: what it got instead on this screen is looked at, and not noted, when it is
+    /// painted first. The frame is known only after the first move; what it changes is noted later.
     void Note(QEvent::Type type) {
-        const Shown now = ShownNow();
-        if (!window_.Place.known) isUsersOwn_ = true;
-        if (!restored_ && type == QEvent::Paint) restored_ = now;
-        if (restored_ && now != *restored_) isUsersOwn_ = true;
-        if (!isUsersOwn_) return;
         WindowPlace& place = window_.Place;
-        place.top = now.place.top();
-        place.left = now.place.left();
-        place.width = now.place.width();
-        place.height = now.place.height();
-        place.maximised = now.isMaximised;
+        if (place.known && !last_ && type != QEvent::Paint) return;
+        const Shown now = ShownNow(), last = last_.value_or(now);
+        const auto note = [&](auto& side, auto present, auto before) {
+            if (!place.known || present != before) side = present;
+        };
+        note(place.top, now.place.top(), last.place.top());
+        note(place.left, now.place.left(), last.place.left());
+        note(place.width, now.place.width(), last.place.width());
+        note(place.height, now.place.height(), last.place.height());
+        note(place.maximised, now.isMaximised, last.isMaximised);
         place.known = true;
+        last_ = now;
     }
 
     QWidget& widget_;
     Window& window_;
     QPoint frame_;
-    std::optional<Shown> restored_;  // what became of the restored place on this screen
-    bool isUsersOwn_ = false;
+    std::optional<Shown> last_;
 };
 
 /// What fits on a screen of a window with its frame.
