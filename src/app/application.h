@@ -42,7 +42,8 @@ class Application : public TableSet, public OptionRecord, public StatusBar, publ
 
     const Text sProduct{"SwiftRoll"};
     const Text sVersion{SWIFTROLL_VERSION};
-    const Text sWebAddress{SWIFTROLL_WEB};
+    /// The maker's site, without a closing "/"; what stands there by default is no site.
+    Text sWebAddress{SWIFTROLL_WEB};
     const Text sMailAddress{SWIFTROLL_MAIL};
     /// Time at which the settings were restored, in the short form.
     Text sRunStart;
@@ -70,6 +71,8 @@ class Application : public TableSet, public OptionRecord, public StatusBar, publ
     /// The table that last had the focus.
     Table* lvwActiveListView = nullptr;
 
+    /// Whether the program was built for a site that can be asked.
+    bool HasWebSite() const { return !sWebAddress.empty() && sWebAddress != SWIFTROLL_NO_WEB; }
     /// Caption of the main window, which begins the title of every box.
     Text MainCaption() const;
     /// Shows a box titled with the main caption and `suffix`.

@@ -30,8 +30,7 @@ void Trail::MakeRoom() {
     aTrace.resize(std::min(deepest + 1, std::max<std::size_t>(aTrace.size(), 1) + kTraceStep));
 }
 
-void Trail::ErrorLog(TextView sReport) {
-    ++reports_;
+Trail::Account Trail::AccountOf(TextView sReport) const {
     Text message =
         Concat({Decimal(failure_.Number()), ": ", failure_.What(), " (L:", Decimal(failure_.Line()), ")"});
     message += Concat({kLineEnd, kLineEnd, "Appellé par : "_t});
@@ -40,24 +39,32 @@ void Trail::ErrorLog(TextView sReport) {
     }
     message += Concat({kLineEnd, kLineEnd, "Paramètres : "_t, ParameterLines(sReport)});
     const TextView name = iTraceDepth > 0 ? aTrace[static_cast<std::size_t>(iTraceDepth)] : "";
-    const Text title = Concat({context_.caption(), " - Erreur \"", name});
+    return {Concat({context_.caption(), " - Erreur \"", name}), message};
+}
+
+void Trail::ErrorLog(TextView sReport) {
+    ++reports_;
+    const Account account = AccountOf(sReport);
     // The box comes first, so that a full disk does not hide the failure from the user.
-    ports_.dialogs.Show({title, message});
+    ports_.dialogs.Show({account.title, account.message});
+    AppendToLog(account);
+}
+
+void Trail::LogOnly(TextView sReport) { AppendToLog(AccountOf(sReport)); }
+
+void Trail::AppendToLog(const Account& account) {
     try {
-        AppendToLog(title, message);
+        const auto log = ports_.files.Open(context_.logFile(), Files::Mode::Append);
+        log->Write(
+            Concat({kLineEnd, "--------------- (", context_.runStart(), ") ", LongTime(ports_.clock.Now()),
+                    " : ", account.title, " : ", account.message, kLineEnd}));
+        for (const Table* table : tables_.All()) {
+            log->Write(Concat({PadRight(table->Name(), 14), "= ", Decimal(table->Count()), kLineEnd}));
+        }
+        log->Close();
     } catch (const std::exception&) {
         // A log that cannot be written costs nothing more.
     }
-}
-
-void Trail::AppendToLog(TextView title, TextView message) {
-    const auto log = ports_.files.Open(context_.logFile(), Files::Mode::Append);
-    log->Write(Concat({kLineEnd, "--------------- (", context_.runStart(), ") ", LongTime(ports_.clock.Now()),
-                       " : ", title, " : ", message, kLineEnd}));
-    for (const Table* table : tables_.All()) {
-        log->Write(Concat({PadRight(table->Name(), 14), "= ", Decimal(table->Count()), kLineEnd}));
-    }
-    log->Close();
 }
 
 }  // namespace swiftroll

@@ -58,9 +58,11 @@ class Trail {
 
     /// Shows the failure being handled in a box and appends it to the log.
     void ErrorLog(TextView sReport);
+    /// Appends it to the log alone, for work that the user did not ask for at this moment.
+    void LogOnly(TextView sReport);
     /// The failure that the running handler was called for.
     const Failure& LastFailure() const { return failure_; }
-    /// Number of reports since the start.
+    /// Number of boxes since the start.
     int Reports() const { return reports_; }
 
   private:
@@ -86,7 +88,12 @@ class Trail {
     }
     void MakeRoom();
     void TracePop() { --iTraceDepth; }
-    void AppendToLog(TextView title, TextView message);
+    /// The failure being handled as the box and the log tell it.
+    struct Account {
+        Text title, message;
+    };
+    Account AccountOf(TextView sReport) const;
+    void AppendToLog(const Account& account);
 
     Ports& ports_;
     TableSet& tables_;

@@ -37,6 +37,11 @@ class UpdatesDialog : public SecondaryDialog {
              {&form.lblDownloadBeta, &form.lblDownloadLastFull, &form.lblDownloadLastUpd}) {
             AddLink(*column, binder, *label);
         }
+        // The check waits for the site no longer than the user does.
+        onClose = [this] {
+            if (form_.bWaitCursor) presenter_.Main().RequestAbort();
+            form_.Hide();
+        };
         form.OnInvertCaption = [this, &form](bool inverted) {
             setWindowTitle(inverted ? QStringLiteral("» %1 «").arg(ToQt(form.Caption)) : ToQt(form.Caption));
         };
@@ -91,6 +96,9 @@ class UpdatesDialog : public SecondaryDialog {
         return item;
     }
     void Refresh() {
+        if (std::exchange(hasWaitCursor_, form_.bWaitCursor) != form_.bWaitCursor) {
+            form_.bWaitCursor ? setCursor(Qt::WaitCursor) : unsetCursor();
+        }
         if (std::exchange(shownChanges_, form_.tvwUpdates.Changes()) == form_.tvwUpdates.Changes()) return;
         tree_->clear();
         for (const auto& node : form_.tvwUpdates.Nodes()) {
@@ -104,6 +112,7 @@ class UpdatesDialog : public SecondaryDialog {
     frmUpdates& form_;
     QTreeWidget* tree_;
     int shownChanges_ = 0;
+    bool hasWaitCursor_ = false;
 };
 
 }  // namespace

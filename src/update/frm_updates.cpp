@@ -11,9 +11,28 @@ namespace {
 
 constexpr TextView kTitle = " - Updates.ini", kFile = "Updates.ini";
 constexpr int kBlinks = 101, kBlinkMilliseconds = 50;
-constexpr std::uint32_t kWhite = 0xFFFFFF, kBlack = 0;
+constexpr std::uint32_t kWhite = 0xFFFFFF, kBlack = 0, kRed = 0x0000FF;
 /// Keys of a list end in two digits.
 constexpr int kMostValues = 100;
+
+/// The comparison key of a version of the list. What lies beyond all keys has the least one: it never counts
+/// as newer, and does not keep the rest of the list from being read.
+Text KeyOf(TextView version) {
+    try {
+        return AdjustVersion(version);
+    } catch (const Failure& failure) {
+        if (failure.Kind() != FailureKind::Overflow) throw;
+        return {};
+    }
+}
+
+/// Whether a browser is to open an address: the list comes from outside and may name anything.
+bool IsWebAddress(TextView address) {
+    const auto begins = [&](TextView scheme) {
+        return SameButCase(address.substr(0, scheme.size()), scheme);
+    };
+    return begins("http://") || begins("https://");
+}
 
 Text FileNameOfAddress(TextView address) { return Text(address.substr(address.rfind('/') + 1)); }
 
@@ -28,22 +47,38 @@ frmUpdates::frmUpdates(Application& app)
       ini_(app.ports.files, app.ports.folders.Separator()) {
     for (DownloadLabel* label : {&lblDownloadBeta, &lblDownloadLastFull, &lblDownloadLastUpd}) {
         label->Operation = [this, label] {
-            if (!label->Caption.empty()) app_.ports.desktop.OpenAddress(label->Tag);
+            if (!label->Tag.empty()) app_.ports.desktop.OpenAddress(label->Tag);
         };
     }
 }
 
 void frmUpdates::GetUpdates(bool bSilent) {
-    app_.trail.Through("GetUpdates", [&] { CheckVersions(bSilent); });
+    const auto check = [&] {
+        try {
+            CheckVersions(bSilent);
+        } catch (const std::exception&) {
+            ShowImpossible({CurrentFailure().What()});
+            throw;
+        }
+    };
+    if (!bSilent) return app_.trail.Through("GetUpdates", check);
+    app_.trail.GuardElse("GetUpdates", check, [&] { app_.trail.LogOnly(ini_.INIFile()); });
 }
 
 void frmUpdates::CheckVersions(bool bSilent) {
     const Text sLocal = app_.PathOf(app_.sUserAppData, kFile);
+    isListShown_ = false;
     const auto warn = [&](TextView first) {
-        app_.Box(kTitle, Concat({first, kLineEnd, "ou pas de connection Internet..."}), BoxButtons::Ok,
-                 BoxIcon::Exclamation);
+        constexpr TextView kSecond = "ou pas de connection Internet...";
+        ShowImpossible({first, kSecond});
+        app_.Box(kTitle, Concat({first, kLineEnd, kSecond}), BoxButtons::Ok, BoxIcon::Exclamation);
     };
     Caption = app_.MainCaption();
+    if (!app_.HasWebSite()) {
+        constexpr auto kNoSite = "Aucun site n'est défini pour les mises-à-jour."_t;
+        ShowImpossible({kNoSite});
+        return app_.pnlMessage.Set(Concat({kNoSite, " ", app_.pnlMessage.Get()}));
+    }
     app_.pnlMessage.Set("Teste si une nouvelle version est disponible..."_t);
     if (!DownloadFile(Concat({app_.sWebAddress, "/", kFile}), sLocal)) {
         return warn("Fichier de màj non trouvé. C'est pas normal..."_t);
@@ -51,7 +86,7 @@ void frmUpdates::CheckVersions(bool bSilent) {
     ini_.CreateIni(app_.sUserAppData, kFile);
     const std::vector<Text> asVers = GetKeyValues(Concat({"-", app_.sProduct}), "VERS");
     if (asVers.front().empty()) return warn("Pas de version trouvée, c'est pas normal..."_t);
-    if (bSilent && AdjustVersion(ini_.GetFile(asVers.back(), "VERS")) <= AdjustVersion(app_.sVersion)) {
+    if (bSilent && KeyOf(ini_.GetFile(asVers.back(), "VERS")) <= AdjustVersion(app_.sVersion)) {
         app_.pnlMessage.Set("Vous avez la dernière version."_t);
         return;
     }
@@ -63,6 +98,20 @@ void frmUpdates::CheckVersions(bool bSilent) {
     if (isNew) BlinkWindow(kBlinks, kBlinkMilliseconds);
     FillLabels();
     app_.pnlMessage.Set("");
+}
+
+void frmUpdates::ShowImpossible(std::initializer_list<TextView> lines) {
+    if (!isListShown_) {
+        tvwUpdates.Clear();
+        AddRoot();
+    }
+    for (const TextView line : lines) {
+        tvwUpdates.AddBelowFirst(line, {.foreColour = kRed, .bold = true});
+    }
+    for (DownloadLabel* label : {&lblDownloadBeta, &lblDownloadLastFull, &lblDownloadLastUpd}) {
+        Fill(*label, {}, {}, {});
+    }
+    app_.pnlMessage.Set("Vérification impossible."_t);
 }
 
 bool frmUpdates::DownloadFile(TextView sUrl, TextView sLocal) {
@@ -104,16 +153,20 @@ std::vector<Text> frmUpdates::GetKeyValues(TextView sSection, TextView sKey) {
 void frmUpdates::ShowVersions(const std::vector<Text>& asVers) {
     for (Text* best : {&sBestVers, &sBestFile, &sBestSize, &sBestFileUpd, &sBestSizeUpd}) best->clear();
     tvwUpdates.Clear();
-    UpdateNode& root = tvwUpdates.Add("Root", app_.sProduct, {.bold = true, .expanded = true});
-    AddComments(root, Concat({"-", app_.sProduct}), true);
+    AddRoot();
+    isListShown_ = true;
+    AddComments(*tvwUpdates.Nodes().front(), Concat({"-", app_.sProduct}), true);
     for (const Text& section : asVers) AddVersion(section);
 }
+
+void frmUpdates::AddRoot() { tvwUpdates.Add("Root", app_.sProduct, {.bold = true, .expanded = true}); }
 
 void frmUpdates::AddVersion(TextView sSection) {
     const auto read = [&](TextView key) { return ini_.GetFile(sSection, key); };
     const Text vers = read("VERS"), file = read("FILE"), size = read("SIZE");
     const Text fileUpd = read("FILE_UPD"), sizeUpd = read("SIZE_UPD");
-    if (AdjustVersion(sBestVers) < AdjustVersion(vers)) {
+    const Text key = KeyOf(vers);
+    if (AdjustVersion(sBestVers) < key) {
         sBestVers = vers;
         sBestFile = file;
         sBestSize = size;
@@ -121,7 +174,7 @@ void frmUpdates::AddVersion(TextView sSection) {
         sBestSizeUpd = sizeUpd;
     }
     NodeLook look;
-    if (AdjustVersion(vers) > AdjustVersion(app_.sVersion)) {
+    if (key > AdjustVersion(app_.sVersion)) {
         look = {.foreColour = kWhite, .backColour = kBlack, .expanded = true};
     }
     UpdateNode& node =
@@ -159,7 +212,7 @@ void frmUpdates::FillLabels() {
 }
 
 void frmUpdates::Fill(DownloadLabel& label, TextView sTag, TextView sCaption, TextView sNothing) {
-    label.Tag = sTag;
+    label.Tag = IsWebAddress(sTag) ? sTag : TextView();
     label.Caption = sTag.empty() ? sNothing : sCaption;
 }
 

@@ -9,7 +9,7 @@ namespace swiftroll {
 /// A label that opens an address.
 struct DownloadLabel : Command {
     using Command::Command;
-    /// The address; empty when there is nothing to download.
+    /// The address that a browser opens; empty when there is none.
     Text Tag;
 };
 
@@ -27,12 +27,16 @@ class frmUpdates : public Window {
     /// For the presentation, which draws the title of the window in the other state.
     std::function<void(bool inverted)> OnInvertCaption;
 
-    /// Looks whether there is a newer version. With `bSilent` nothing is shown unless there is one.
-    /// @throws Failure for a list with a version that is none, or with a section named twice
+    /// Looks whether there is a newer version. With `bSilent` nothing is shown unless there is one, and a
+    /// failure is an entry of the log and a line in the message.
+    /// @throws Failure unless silent, for a list with a version that is none, or with a section named twice
     void GetUpdates(bool bSilent);
 
   private:
     void CheckVersions(bool bSilent);
+    /// Tells in the window and in the message why the check could not be made.
+    void ShowImpossible(std::initializer_list<TextView> lines);
+    void AddRoot();
     bool DownloadFile(TextView sUrl, TextView sLocal);
     std::vector<Text> GetKeyValues(TextView sSection, TextView sKey);
     void ShowVersions(const std::vector<Text>& asVers);
@@ -44,6 +48,8 @@ class frmUpdates : public Window {
 
     Application& app_;
     cIniFile ini_;
+    // Whether the tree holds the list of the check that runs, as far as it came.
+    bool isListShown_ = false;
     // The highest version of the check that runs.
     Text sBestVers, sBestFile, sBestSize, sBestFileUpd, sBestSizeUpd;
 };

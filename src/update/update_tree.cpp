@@ -21,6 +21,11 @@ UpdateNode& UpdateTree::AddBehindFirst(TextView key, TextView text, const NodeLo
     return Insert(std::min<std::size_t>(1, nodes_.size()), key, text, look);
 }
 
+void UpdateTree::AddBelowFirst(TextView text, const NodeLook& look) {
+    ++changes_;
+    nodes_.front()->children.push_back({Text(text), look, {}});
+}
+
 UpdateNode& UpdateTree::Insert(std::size_t place, TextView key, TextView text, const NodeLook& look) {
     if (!keys_.insert(UpperCase(key)).second) throw Failure(FailureKind::DuplicateKey, key);
     ++changes_;

@@ -31,6 +31,9 @@ class UpdateTree {
     UpdateNode& Add(TextView key, TextView text, const NodeLook& look);
     UpdateNode& AddBehindFirst(TextView key, TextView text, const NodeLook& look);
 
+    /// Adds a line below the first node.
+    void AddBelowFirst(TextView text, const NodeLook& look);
+
     const std::vector<std::unique_ptr<UpdateNode>>& Nodes() const { return nodes_; }
     /// Grows with every change.
     int Changes() const { return changes_; }

@@ -19,6 +19,7 @@ struct Updates : testing::Test {
         if (silent) return t.main.frmUpdates.GetUpdates(true);
         t.main.mnuCheckUpdate.Click();
     }
+    Updates() { t.main.sWebAddress = "https://maker.test"; }
     /// Texts of the nodes of the first level, and those below a node.
     std::vector<Text> Versions() {
         std::vector<Text> texts;
@@ -33,6 +34,17 @@ struct Updates : testing::Test {
         return texts;
     }
     TestMain t;
+};
+
+/// A start that checks, with this list from an earlier run and no network.
+struct CheckingStart : TestPorts {
+    explicit CheckingStart(TextView manifest) : main(All()) {
+        settings.SaveSetting("Settings\\frmMain\\chkCheckUpdates", "CheckOrOptionBox", "1");
+        files.contents[Text(kManifest)] = manifest;
+        main.sWebAddress = "https://maker.test";
+        main.Form_Load({});
+    }
+    frmMain main;
 };
 
 TEST_F(Updates, ShowTheNewestVersionFirstWithWhatItChanged) {
@@ -83,15 +95,75 @@ TEST_F(Updates, HostileListsEndInAReport) {
         {"[-SwiftRoll]\nVERS_00=Root\n[Root]\nVERS=1.0.0\n", "457: "},
         {"[-SwiftRoll]\nVERS_00=a\nVERS_01=A\n[a]\nVERS=1.0.0\n", "457: "},
         {"[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=abc\n", "13: "},
-        {"[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=4.0\n", "9: "},
-        {"[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=99.0.0\n", "6: "}};
+        {"[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=4.0\n", "9: "}};
     for (const auto& [manifest, number] : manifests) {
         t.dialogs.boxes.clear();
         Check(manifest);
         ASSERT_EQ(t.dialogs.boxes.size(), 1u) << manifest;
         EXPECT_TRUE(t.dialogs.boxes[0].text.starts_with(number)) << t.dialogs.boxes[0].text;
         EXPECT_TRUE(t.dialogs.boxes[0].title.ends_with("\"GetUpdates")) << t.dialogs.boxes[0].title;
+        EXPECT_NE(t.dialogs.boxes[0].text.find(Below(0).back()), Text::npos) << "the window tells it too";
+        EXPECT_EQ(t.main.pnlMessage.Get(), "Vérification impossible."_t);
     }
+}
+
+TEST_F(Updates, AListThatCannotBeReadDoesNotEndAStart) {
+    for (const char* version : {"4.0", "abc", "3.x.0"}) {
+        CheckingStart start(Concat({"[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=", version, "\n"}));
+        EXPECT_FALSE(start.main.bStarting);
+        EXPECT_TRUE(start.dialogs.boxes.empty());
+        EXPECT_FALSE(start.main.frmUpdates.Visible());
+        EXPECT_EQ(start.main.pnlMessage.Get(), "Vérification impossible."_t);
+        const Text& log = start.files.contents["/data/SwiftRoll/SwiftRoll.log"];
+        EXPECT_NE(log.find("SwiftRoll (v3.4.0) - Erreur \"GetUpdates : "), Text::npos) << log;
+    }
+}
+
+TEST_F(Updates, VersionsBeyondAllKeysAreShownButNeverNewer) {
+    for (const char* version : {"4.0.0", "3.27.68", "40000.0.0", "99999999999.0.0"}) {
+        const Text section = Concat({"[b]\nVERS=", version, "\nDATE=2030\nDESCR=Far\nFILE=far.zip\n"});
+        CheckingStart start(Concat({"[-SwiftRoll]\nVERS_00=b\n", section}));
+        EXPECT_EQ(start.main.pnlMessage.Get(), "Vous avez la dernière version."_t);
+        EXPECT_FALSE(start.main.frmUpdates.Visible());
+        Check(Concat({"[-SwiftRoll]\nDIR_FILE=https://maker.test/\nVERS_00=a\nVERS_01=b\n",
+                      "[a]\nVERS=3.5.0\nFILE=a.zip\n", section}));
+        EXPECT_EQ(Versions().at(1), Concat({version, " - 2030 - Far"}));
+        EXPECT_FALSE(t.main.frmUpdates.tvwUpdates.Nodes()[1]->look.expanded);
+        EXPECT_EQ(t.main.frmUpdates.lblDownloadLastFull.Tag, "https://maker.test/a.zip");
+    }
+    EXPECT_TRUE(t.dialogs.boxes.empty());
+}
+
+TEST_F(Updates, OnlyAddressesOfTheWebBecomeLinks) {
+    for (const char* address :
+         {"file:///etc/passwd", "ssh://x/y", "/usr/bin/x", "-x", "javascript:http://x"}) {
+        Check(Concat({"[-SwiftRoll]\nVERS_00=a\nURL_BETA=", address, "\nDIR_FILE=", address,
+                      "\n[a]\nVERS=3.5.0\nFILE=/f\nFILE_UPD=/u\n"}));
+        const std::size_t opened = t.desktop.opened.size();
+        for (DownloadLabel* label :
+             {&t.main.frmUpdates.lblDownloadBeta, &t.main.frmUpdates.lblDownloadLastFull,
+              &t.main.frmUpdates.lblDownloadLastUpd}) {
+            label->Click();
+            EXPECT_FALSE(label->Caption.starts_with("Pas de ")) << "it is text";
+            EXPECT_EQ(label->Tag, "");
+        }
+        EXPECT_EQ(t.desktop.opened.size(), opened) << address;
+    }
+    Check("[-SwiftRoll]\nVERS_00=a\nURL_BETA=HTTPS://x.test/b\n");
+    t.main.frmUpdates.lblDownloadBeta.Click();
+    EXPECT_EQ(t.desktop.opened.back(), "HTTPS://x.test/b");
+}
+
+TEST_F(Updates, WithoutASiteNothingIsFetched) {
+    TestMain unset;
+    unset.main.mnuCheckUpdate.Click();
+    EXPECT_TRUE(unset.desktop.opened.empty());
+    EXPECT_EQ(unset.main.pnlMessage.Get(),
+              "Aucun site n'est défini pour les mises-à-jour. Vérification impossible."_t);
+    EXPECT_EQ(unset.main.frmUpdates.tvwUpdates.Nodes().at(0)->children.at(0).text,
+              "Aucun site n'est défini pour les mises-à-jour."_t);
+    t.main.mnuCheckUpdate.Click();
+    EXPECT_EQ(t.desktop.opened, Rows({"https://maker.test/Updates.ini"}));
 }
 
 TEST_F(Updates, ALongListEndsAtTheLastTwoDigitsAndLongValuesAreCut) {
