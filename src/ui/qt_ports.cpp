@@ -82,9 +82,11 @@ void QtDialogs::Attach(Presenter& presenter, QWidget& owner) {
     owner_ = &owner;
 }
 
+/// A dialog belongs to the window that the user works with, which has the keyboard again afterwards.
 QWidget* QtDialogs::Owner() const {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal != nullptr) return modal;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    QWidget* active = QApplication::activeWindow();
+    if (active != nullptr && active->parentWidget() == owner_) return active;
     // A box before the window would fix its place on the screen without its frame.
     return owner_->isVisible() ? owner_ : nullptr;
 }

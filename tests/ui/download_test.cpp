@@ -1,9 +1,9 @@
 // The list of versions over a real connection.
-#include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTreeWidget>
 
+#include "text/literal.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -23,7 +23,8 @@ class Server : public QTcpServer {
             });
         });
     }
-    Text Address() const { return "http://127.0.0.1:" + std::to_string(serverPort()) + "/Updates.ini"; }
+    Text Site() const { return "http://127.0.0.1:" + std::to_string(serverPort()); }
+    Text Address() const { return Site() + "/Updates.ini"; }
 };
 
 QByteArray Answer(const QByteArray& content, const QByteArray& status = "200 OK", qsizetype length = -1) {
@@ -33,10 +34,17 @@ QByteArray Answer(const QByteArray& content, const QByteArray& status = "200 OK"
 
 class Download : public WindowTest {
   protected:
-    void Fetch(const Server& server) { Fetch(server, ui::FromQt(Local())); }
-    void Fetch(const Server& server, TextView file) {
-        program_->ThePresenter().Act([&] { Main().ports.network.Download(server.Address(), file); });
+    void Fetch(const Server& server) {
+        program_->ThePresenter().Act(
+            [&] { Main().ports.network.Download(server.Address(), ui::FromQt(Local())); });
     }
+    /// Checks at a site, as the button at the corner of the window does.
+    void Check(const Server& server) {
+        Main().sWebAddress = server.Site();
+        Click("PicturepicKeepUpdated");
+    }
+    QDialog& Versions() { return Find<QDialog>("frmUpdates"); }
+    QTreeWidget& Tree() { return Find<QTreeWidget>("tvwUpdates"); }
     QString Local() const { return Path(QStringLiteral("Updates.ini")); }
     QByteArray Content() const {
         QFile file(Local());
@@ -61,29 +69,52 @@ TEST_F(Download, OnlyAWholeAnswerTakesThePlaceOfTheFormerCopy) {
 
 TEST_F(Download, HostileListsAreShownOrReported) {
     Start();
-    auto& tree = Find<QTreeWidget>("tvwUpdates");
     const auto check = [&](const QByteArray& list) {
-        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
-        Fetch(Server(Answer("[-SwiftRoll]\r\n" + list), true),
-              Main().PathOf(Main().sUserAppData, "Updates.ini"));
-        // What the program asks for by itself does not come, so that it reads what was fetched before.
-        QNetworkProxy::setApplicationProxy(
-            QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 1));
-        program_->ThePresenter().Act([this] { Main().mnuCheckUpdate.Click(); });
+        Check(Server(Answer("[-SwiftRoll]\r\n" + list), true));
     };
     QByteArray many;
     for (int i = 0; i < 10000; ++i)
         many += QStringLiteral("VERS_%1=s%2\r\n").arg(i, 2, 10, QLatin1Char('0')).arg(i).toUtf8();
     check(many);
-    EXPECT_EQ(tree.topLevelItemCount(), 101) << "the product, and numbers of two digits";
+    EXPECT_EQ(Tree().topLevelItemCount(), 101) << "the product, and numbers of two digits";
     check("VERS_00=a\r\n[a]\r\nDESCR=\x01\x02\x7F <b>x</b>\xFF\r\n");
-    EXPECT_EQ(tree.topLevelItemCount(), 2);
+    EXPECT_EQ(Tree().topLevelItemCount(), 2);
     OnBox(QMessageBox::Ok);
     check("VERS_00=Root\r\n");
-    EXPECT_EQ(tree.topLevelItemCount(), 1) << "as far as it came";
+    EXPECT_EQ(Tree().topLevelItemCount(), 1) << "as far as it came";
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_TRUE(boxes[0].startsWith(QStringLiteral("457: ")));
-    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+}
+
+TEST_F(Download, ACheckThatFailsIsToldInItsWindowWhichEscapeCloses) {
+    Start();
+    OnDialog([this](QWidget& box) {
+        EXPECT_EQ(box.parentWidget(), &Versions()) << "whose window has the keyboard again";
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    Check(Server(Answer("not found", "404 Not Found"), true));
+    ASSERT_TRUE(Versions().isVisible());
+    ASSERT_EQ(Tree().topLevelItemCount(), 1);
+    EXPECT_EQ(Tree().topLevelItem(0)->child(0)->text(0), boxes.at(0).section(QStringLiteral("\r\n"), 0, 0));
+    EXPECT_EQ(Main().pnlMessage.Get(), "Vérification impossible."_t);
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton);
+    QTest::keyClick(&Tree(), Qt::Key_Escape);
+    EXPECT_FALSE(Versions().isVisible());
+    EXPECT_FALSE(Main().bAbort) << "it was meant for the window of the versions";
+}
+
+TEST_F(Download, TheWindowOfTheVersionsWaitsNoLongerThanItsUser) {
+    Start();
+    Qt::CursorShape pointer{};
+    QTimer::singleShot(200, &Window(), [&] {
+        pointer = Tree().viewport()->cursor().shape();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    });
+    OnBox(QMessageBox::Ok);
+    Check(Server("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nslow", false));
+    EXPECT_EQ(pointer, Qt::WaitCursor);
+    EXPECT_EQ(Tree().viewport()->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_FALSE(Versions().isVisible());
 }
 
 TEST_F(Download, EscapeEndsTheWaitForASlowServer) {
@@ -102,11 +133,8 @@ TEST_F(Download, AStartThatChecksShowsTheWindowWhileItWaits) {
     Click("chkCheckUpdates");
     Click("cmdExit");
     program_ = std::make_unique<ui::DesktopApplication>();
-    // Whatever address the program asks for, a server stands before it that never answers.
-    QTcpServer silent;
-    silent.listen(QHostAddress::LocalHost);
-    QNetworkProxy::setApplicationProxy(
-        QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), silent.serverPort()));
+    const Server silent({}, false);
+    Main().sWebAddress = silent.Site();
     bool wasVisible = false;
     QTimer::singleShot(300, qApp, [&] {
         wasVisible = Window().isVisible();
@@ -114,7 +142,6 @@ TEST_F(Download, AStartThatChecksShowsTheWindowWhileItWaits) {
     });
     OnBox(QMessageBox::Ok);
     Start();
-    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
     EXPECT_TRUE(wasVisible);
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_TRUE(boxes[0].startsWith(QStringLiteral("Pas de version trouvée")));
