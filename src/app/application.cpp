@@ -19,8 +19,9 @@ Application::Application(const Ports& applicationPorts)
 
 Text Application::MainCaption() const { return Concat({sProduct, " (v", sVersion, ")"}); }
 
-BoxAnswer Application::Box(TextView suffix, TextView text, BoxButtons buttons, BoxIcon icon, BoxTopic topic) {
-    return ports.dialogs.Show({Concat({MainCaption(), suffix}), Text(text), buttons, icon, topic});
+BoxAnswer Application::Box(TextView suffix, TextView text, BoxButtons buttons, BoxIcon icon, BoxTopic topic,
+                           std::optional<BoxAnswer> preset) {
+    return ports.dialogs.Show({Concat({MainCaption(), suffix}), Text(text), buttons, icon, topic, preset});
 }
 
 void Application::InitIndexes() { positions.InitIndexes(*this, ports.dialogs, MainCaption()); }

@@ -77,7 +77,8 @@ class Application : public TableSet, public OptionRecord, public StatusBar, publ
     Text MainCaption() const;
     /// Shows a box titled with the main caption and `suffix`.
     BoxAnswer Box(TextView suffix, TextView text, BoxButtons buttons = BoxButtons::Ok,
-                  BoxIcon icon = BoxIcon::None, BoxTopic topic = BoxTopic::Message);
+                  BoxIcon icon = BoxIcon::None, BoxTopic topic = BoxTopic::Message,
+                  std::optional<BoxAnswer> preset = {});
     /// Refreshes the position tables.
     void InitIndexes();
     /// `folder` and `name` with the platform's separator between them.

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -34,6 +35,8 @@ struct MessageBox {
     BoxButtons buttons = BoxButtons::Ok;
     BoxIcon icon = BoxIcon::None;
     BoxTopic topic = BoxTopic::Message;
+    /// What the Enter key answers, where it is not the first button.
+    std::optional<BoxAnswer> preset = {};
 };
 
 class Window;

@@ -90,6 +90,7 @@ void frmMain::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& docume
 }
 
 /// In a drawing with spouses a child's box stands in the gap between its parents, so that both must be equal.
+/// The usual gap is too small for a box and the answer lasts, so that a hasty one changes the gap.
 bool frmMain::CheckWidths() {
     const bool across = txtKinshipLandscape.Checked();
     TextBox& box = across ? txtKinWidth : txtKinHeight;
@@ -122,7 +123,7 @@ bool frmMain::CheckWidths() {
                     " entre les boîtes"_t,
                     kLineEnd,
                     "Cancel = Arrêter la génération"_t}),
-            BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::UnequalSizes);
+            BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::UnequalSizes, BoxAnswer::No);
     if (answer == BoxAnswer::Yes) box.SetText(gap.Get());
     if (answer == BoxAnswer::No) gap.SetText(box.Get());
     return answer != BoxAnswer::Cancel;

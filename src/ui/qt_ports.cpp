@@ -40,6 +40,19 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
     }
 }
 
+QMessageBox::StandardButton ButtonOf(BoxAnswer answer) {
+    switch (answer) {
+        case BoxAnswer::Yes:
+            return QMessageBox::Yes;
+        case BoxAnswer::No:
+            return QMessageBox::No;
+        case BoxAnswer::Cancel:
+            return QMessageBox::Cancel;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
 QMessageBox::Icon IconOf(BoxIcon icon) {
     switch (icon) {
         case BoxIcon::Exclamation:
@@ -98,6 +111,7 @@ BoxAnswer QtDialogs::Show(const MessageBox& box) {
     dialog.setObjectName(QStringLiteral("box"));
     dialog.setTextFormat(Qt::PlainText);
     dialog.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (box.preset) dialog.setDefaultButton(ButtonOf(*box.preset));
     QApplication::setOverrideCursor(Qt::ArrowCursor);
     const int answer = dialog.exec();
     QApplication::restoreOverrideCursor();

@@ -38,6 +38,16 @@ TEST_F(Preview, IsOfferedForPathsThatWereFound) {
     EXPECT_FALSE(Find<QToolButton>("cmdPrintKinship").isEnabled()) << "no path";
 }
 
+TEST_F(Preview, AHastyAnswerToUnequalSizesKeepsTheBoxes) {
+    StartWithPaths();
+    ShowTab(0);
+    ShowTab(5);
+    OnDialog([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    Click("cmdPrintKinship");
+    ASSERT_TRUE(boxes.last().contains(QStringLiteral("(=50)"))) << boxes.last().toStdString();
+    EXPECT_EQ(Main().txtKinWidth.Get() + "/" + Main().txtKinH.Get(), "150/150");
+}
+
 TEST_F(Preview, ShowsPrintsAndExportsTheDrawing) {
     StartWithPaths();
     Print();
