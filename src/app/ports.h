@@ -197,6 +197,8 @@ class SettingsStore {
     virtual ~SettingsStore() = default;
     /// @throws Failure FileAccess when the store cannot be written
     virtual void SaveSetting(TextView section, TextView key, TextView value) = 0;
+    /// The same where there is no value yet, not even one that cannot be read. @throws Failure FileAccess
+    virtual void AddSetting(TextView section, TextView key, TextView value) = 0;
     /// The value, or `fallback` where there is none. @throws Failure FileAccess
     virtual Text GetSetting(TextView section, TextView key, TextView fallback) = 0;
     using Pairs = std::vector<std::pair<Text, Text>>;
@@ -278,6 +280,7 @@ struct NoDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
 /// The settings of a program that keeps none: every run begins with the defaults.
 struct NoSettings : SettingsStore {
     void SaveSetting(TextView, TextView, TextView) override {}
+    void AddSetting(TextView, TextView, TextView) override {}
     Text GetSetting(TextView, TextView, TextView fallback) override { return Text(fallback); }
     Pairs GetAllSettings(TextView) override { return {}; }
     void DeleteSetting(TextView, TextView) override {}

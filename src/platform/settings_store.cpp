@@ -22,6 +22,8 @@ constexpr const char* kCreate =
 constexpr const char* kSave =
     "INSERT INTO settings (section, key, value) VALUES (?1, ?2, ?3) "
     "ON CONFLICT (section, key) DO UPDATE SET value = ?3";
+constexpr const char* kAdd =
+    "INSERT INTO settings (section, key, value) VALUES (?1, ?2, ?3) ON CONFLICT (section, key) DO NOTHING";
 constexpr const char* kGet = "SELECT value FROM settings WHERE section = ?1 AND key = ?2";
 constexpr const char* kGetAll = "SELECT key, value FROM settings WHERE section = ?1";
 constexpr const char* kEverything = "SELECT section, key, value FROM settings ORDER BY section, key";
@@ -98,7 +100,8 @@ void SettingsFile::OpenFile() {
     database_->CheckWhole();
     database_->Execute(kCreate);
     // A file of another program has no table that these fit.
-    for (const char* sql : {kSave, kGet, kGetAll, kDelete, kDeleteSection}) SqliteStatement(*database_, sql);
+    for (const char* sql : {kSave, kAdd, kGet, kGetAll, kDelete, kDeleteSection})
+        SqliteStatement(*database_, sql);
 }
 
 void SettingsFile::Write(const char* sql, std::initializer_list<TextView> parameters) {
@@ -114,6 +117,10 @@ void SettingsFile::Write(const char* sql, std::initializer_list<TextView> parame
 
 void SettingsFile::SaveSetting(TextView section, TextView key, TextView value) {
     Write(kSave, {section, key, value});
+}
+
+void SettingsFile::AddSetting(TextView section, TextView key, TextView value) {
+    Write(kAdd, {section, key, value});
 }
 
 void SettingsFile::DeleteSetting(TextView section, TextView key) { Write(kDelete, {section, key}); }

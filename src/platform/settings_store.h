@@ -18,6 +18,7 @@ class SettingsFile : public SettingsStore {
     ~SettingsFile() override;
 
     void SaveSetting(TextView section, TextView key, TextView value) override;
+    void AddSetting(TextView section, TextView key, TextView value) override;
     Text GetSetting(TextView section, TextView key, TextView fallback) override;
     Pairs GetAllSettings(TextView section) override;
     void DeleteSetting(TextView section, TextView key) override;

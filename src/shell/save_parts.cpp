@@ -12,13 +12,12 @@ namespace {
 using Kind = SettingPart::Kind;
 using Names = std::vector<Text>;
 
-bool IsStored(SettingsStore& store, const SettingEntry& entry) {
-    const auto pairs = store.GetAllSettings(entry.section);
-    return std::any_of(pairs.begin(), pairs.end(), [&](const auto& pair) { return pair.first == entry.key; });
-}
-
 void Save(SettingsStore& store, const SettingEntry& entry) {
     store.SaveSetting(entry.section, entry.key, entry.value);
+}
+
+void Add(SettingsStore& store, const SettingEntry& entry) {
+    store.AddSetting(entry.section, entry.key, entry.value);
 }
 
 void Delete(SettingsStore& store, TextView section, TextView key) {
@@ -34,7 +33,7 @@ void SaveValue(SettingsStore& store, const SettingPart& part, const SettingPart&
         for (const SettingEntry& gone : shown.entries) Delete(store, gone.section, gone.key);
     }
     for (const SettingEntry& entry : part.entries) {
-        if (isChanged || !IsStored(store, entry)) Save(store, entry);
+        isChanged ? Save(store, entry) : Add(store, entry);
     }
 }
 
@@ -55,13 +54,13 @@ Names NamesOf(const SettingPart& part) {
     return names;
 }
 
-Names StoredNames(SettingsStore& store, TextView section) {
-    const auto pairs = store.GetAllSettings(section);
+Text KeyOf(std::size_t number) { return Decimal(static_cast<std::int64_t>(number), kItemDigits); }
+
+Names StoredNames(const SettingsStore::Pairs& pairs) {
     Names names;
     for (std::size_t i = 0; i < kLongestHistory; ++i) {
-        const Text key = Decimal(static_cast<std::int64_t>(i), kItemDigits);
-        for (const auto& pair : pairs) {
-            if (pair.first == key && !Trim(pair.second).empty()) names.push_back(pair.second);
+        for (const auto& [key, name] : pairs) {
+            if (key == KeyOf(i) && !Trim(name).empty()) names.push_back(name);
         }
     }
     return names;
@@ -89,15 +88,11 @@ Names Merged(const Names& own, const Names& shown, const Names& stored) {
 }
 
 void SaveHistory(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
-    const Names names = Merged(NamesOf(part), NamesOf(shown), StoredNames(store, part.section));
-    for (std::size_t i = 0; i < kLongestHistory; ++i) {
-        const Text key = Decimal(static_cast<std::int64_t>(i), kItemDigits);
-        if (i < names.size()) {
-            store.SaveSetting(part.section, key, names[i]);
-        } else {
-            Delete(store, part.section, key);
-        }
-    }
+    const auto pairs = store.GetAllSettings(part.section);
+    const Names names = Merged(NamesOf(part), NamesOf(shown), StoredNames(pairs));
+    for (std::size_t i = 0; i < names.size(); ++i) store.SaveSetting(part.section, KeyOf(i), names[i]);
+    // The list was longer once, perhaps.
+    for (std::size_t i = names.size(); i < kLongestHistory; ++i) Delete(store, part.section, KeyOf(i));
 }
 
 }  // namespace

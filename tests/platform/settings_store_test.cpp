@@ -51,6 +51,16 @@ struct SettingsFileTest : testing::Test {
     const fs::path file_;
 };
 
+TEST_F(SettingsFileTest, WhatStandsThereIsKeptEvenWhenItCannotBeRead) {
+    SettingsFile store = Open();
+    store.AddSetting("s", "k", "first");
+    store.AddSetting("s", "k", "second");
+    EXPECT_EQ(Saved(), "first");
+    SqliteFile(file_.string()).Execute("UPDATE settings SET value = CAST(x'FF' AS TEXT)");
+    store.AddSetting("s", "k", "default");
+    EXPECT_EQ(Saved(), "none");
+}
+
 TEST_F(SettingsFileTest, AnyTextsComeBackAfterAnyOrderOfWrites) {
     std::mt19937 random(7);
     const auto upTo = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };

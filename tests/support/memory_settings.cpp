@@ -15,6 +15,11 @@ void MemorySettings::SaveSetting(TextView section, TextView key, TextView value)
     sections[Text(section)][Text(key)] = value;
 }
 
+void MemorySettings::AddSetting(TextView section, TextView key, TextView value) {
+    Use();
+    sections[Text(section)].emplace(Text(key), Text(value));
+}
+
 Text MemorySettings::GetSetting(TextView section, TextView key, TextView fallback) {
     for (const auto& [name, value] : GetAllSettings(section)) {
         if (name == key) return value;
