@@ -72,7 +72,7 @@ TextView KinshipDocument::ClassOf(const GridCell& cell) const {
 
 Text KinshipDocument::TextOf(const GridCell& cell) const {
     if (cell.kind == CellKind::Person) return texts_.IndividualInfos(cell.id);
-    if (cell.kind == CellKind::UnknownPerson) return "<p>?</p>";
+    if (cell.kind == CellKind::UnknownPerson) return Text(kUnknownPartner);
     if (cell.kind == CellKind::Marriage) return texts_.FamilyInfos(cell.id);
     return {};
 }

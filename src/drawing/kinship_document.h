@@ -18,6 +18,9 @@ class KinshipDocument {
     bool DisplayKinship(int iStage, const KinshipGrid& grid);
 
   protected:
+    /// The text of a partner who is not known.
+    static constexpr TextView kUnknownPartner = "<p>?</p>";
+
     virtual void Begin(const CellSizes& sizes) = 0;
     virtual void WriteCell(TextView sClass, TextView sText, const CellRectangle& place,
                            const CellSizes& sizes) = 0;

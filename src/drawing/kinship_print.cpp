@@ -61,8 +61,12 @@ void KinshipPrint::WriteBox(const Frame& frame, std::uint32_t colour, TextView s
     const std::int64_t width = frame.right - frame.left, height = frame.bottom - frame.top;
     device.FillRectangle(frame.left, frame.top, width, height, colour);
     DrawEdges(frame, {true, true, true, true});
+    // Tags that no text of a person has would be printed.
     const Text text =
-        ReplaceAll(ReplaceAll(sText, "<p class=Right style=\"text-align: right\">", "<RIGHT>"), "</p>", "");
+        sText == kUnknownPartner
+            ? Text("?")
+            : ReplaceAll(ReplaceAll(sText, "<p class=Right style=\"text-align: right\">", "<RIGHT>"), "</p>",
+                         "");
     const std::int64_t lineBreak = ParseDecimal(font_.size).value_or(0);
     std::vector<PrintedText> texts(1);
     for (const modPreview::TextPiece& piece : modPreview::SplitTags(text)) {
@@ -71,6 +75,7 @@ void KinshipPrint::WriteBox(const Frame& frame, std::uint32_t colour, TextView s
         if (piece.text.empty()) continue;
         next.text = piece.text;
         next.font = font_;
+        next.font.strikethrough = false;  // the page of HTML has none either
         next.font.bold = piece.bold;
         next.font.underline = piece.underline;
         next.font.italic = piece.italic;
@@ -86,9 +91,11 @@ void KinshipPrint::EndDrawing(std::int64_t lTop, std::int64_t) {
 
 void KinshipPrint::End(std::int64_t) { app_.ports.preview.Close(); }
 
-void KinshipPrint::Fail(const Failure& failure) {
-    app_.Box(" - Kinship",
-             Concat({"Erreor d'impression", kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
+void KinshipPrint::Fail(const Failure& failure) { TellPrintFailure(app_, failure); }
+
+void TellPrintFailure(Application& app, const Failure& failure) {
+    app.Box(" - Kinship",
+            Concat({"Erreor d'impression", kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
 }
 
 }  // namespace swiftroll::modPrint

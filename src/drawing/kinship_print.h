@@ -4,6 +4,9 @@
 
 namespace swiftroll::modPrint {
 
+/// Tells in a box why drawings could not be printed.
+void TellPrintFailure(Application& app, const Failure& failure);
+
 /// The drawings on an A4 sheet, at the places of the page of HTML: pixels of the screen as twips.
 class KinshipPrint : public modKinshipOutput::KinshipDocument {
   public:

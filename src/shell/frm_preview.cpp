@@ -80,6 +80,11 @@ int frmPreview::Page() const {
 
 void frmPreview::GoToPage(int page) { txtPageNr.SetText(Decimal(std::clamp(page, 1, pageCount_))); }
 
+void frmPreview::Open() {
+    GoToPage(1);
+    Show();
+}
+
 void frmPreview::SetPageCount(int count) {
     pageCount_ = std::max(count, 1);
     lblPageOn.Caption = Concat({"sur ", Decimal(pageCount_)});

@@ -26,6 +26,8 @@ class frmPreview : public Window {
     /// The page that is shown, from 1 to `PageCount`.
     int Page() const;
     int PageCount() const { return pageCount_; }
+    /// Comes to the screen with new drawings, at their first page.
+    void Open();
     /// Tells how many sheets the drawings take.
     void SetPageCount(int count);
 

@@ -37,6 +37,8 @@ TextView Description(FailureKind kind) {
             return "Erreur d'accès au fichier"_t;
         case FailureKind::DuplicateKey:
             return "Clé déjà présente"_t;
+        case FailureKind::Printer:
+            return "Erreur d'imprimante"_t;
     }
     return {};
 }

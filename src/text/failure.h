@@ -19,6 +19,7 @@ enum class FailureKind : std::int32_t {
     FileNotFound = 53,
     FileAccess = 57,
     DuplicateKey = 457,
+    Printer = 482,
 };
 
 /// The French description of a kind of failure.

@@ -36,6 +36,7 @@ void DrawingRecorder::Open(TextView title, std::int64_t width, std::int64_t heig
     extent_ = {};
     seams_.clear();
     drawn_.clear();
+    lastBox_ = {};
     if (OnOpen) OnOpen();
 }
 
@@ -47,22 +48,31 @@ void DrawingRecorder::FillRectangle(std::int64_t left, std::int64_t top, std::in
                                     std::int64_t height, std::uint32_t colour) {
     const QRectF place(static_cast<qreal>(left), static_cast<qreal>(top), static_cast<qreal>(width),
                        static_cast<qreal>(height));
-    drawn_.push_back(Fill{place, ColourOf(colour)});
+    lastBox_ = place.normalized();
+    drawn_.push_back(Fill{lastBox_, ColourOf(colour)});
     Reach(place.right(), place.bottom());
 }
 
 void DrawingRecorder::DrawLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2,
                                std::uint32_t colour) {
-    const QLineF place(static_cast<qreal>(x1), static_cast<qreal>(y1), static_cast<qreal>(x2),
-                       static_cast<qreal>(y2));
-    drawn_.push_back(Line{place, ColourOf(colour)});
-    Reach(std::max(place.x1(), place.x2()), std::max(place.y1(), place.y2()));
+    const QLineF line(static_cast<qreal>(x1), static_cast<qreal>(y1), static_cast<qreal>(x2),
+                      static_cast<qreal>(y2));
+    drawn_.push_back(Line{line, ColourOf(colour), OwnerOf(line)});
+    Reach(std::max(line.x1(), line.x2()), std::max(line.y1(), line.y2()));
+}
+
+QRectF DrawingRecorder::OwnerOf(const QLineF& line) const {
+    const QRectF own = QRectF(line.p1(), line.p2()).normalized();
+    const bool isEdge = own.united(lastBox_) == lastBox_ &&
+                        (own.height() == lastBox_.height() || own.width() == lastBox_.width());
+    return isEdge ? lastBox_ : own;
 }
 
 void DrawingRecorder::PrintTexts(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height,
                                  const std::vector<PrintedText>& texts) {
-    const QRectF room(static_cast<qreal>(left) + kTextMargin, static_cast<qreal>(top),
-                      static_cast<qreal>(width) - 2 * kTextMargin, static_cast<qreal>(height));
+    const QRectF box(static_cast<qreal>(left), static_cast<qreal>(top), static_cast<qreal>(width),
+                     static_cast<qreal>(height));
+    const QRectF room = box.adjusted(kTextMargin, kTextMargin, -kTextMargin, -kTextMargin);
     std::optional<std::vector<Words>> words;
     for (qreal scale = 1; !words && scale > kSmallestScale; scale -= kScaleStep) {
         words = Fit(room, texts, scale, false);
@@ -104,7 +114,7 @@ std::vector<DrawingRecorder::Place> DrawingRecorder::Places() const {
         if (const auto* fill = std::get_if<Fill>(&item)) {
             places.push_back({fill->place, true});
         } else if (const auto* line = std::get_if<Line>(&item)) {
-            places.push_back({QRectF(line->place.p1(), line->place.p2()).normalized(), false});
+            places.push_back({line->place, false});
         }
     }
     std::sort(places.begin(), places.end(),
@@ -112,18 +122,24 @@ std::vector<DrawingRecorder::Place> DrawingRecorder::Places() const {
     return places;
 }
 
+bool DrawingRecorder::BelongsTo(const QRectF& area, const QRectF& place) {
+    const auto overlaps = [](qreal begin, qreal end, qreal first, qreal last) {
+        return first < end && (last > begin || (first == last && first >= begin));
+    };
+    return overlaps(area.left(), area.right(), place.left(), place.right()) &&
+           overlaps(area.top(), area.bottom(), place.top(), place.bottom());
+}
+
 void DrawingRecorder::Paint(QPainter& painter, const QRectF& area) const {
-    const QRectF wider = area.adjusted(-kLineWidth, -kLineWidth, kLineWidth, kLineWidth);
     const auto paint = [&](const auto& item) {
         using Item = std::decay_t<decltype(item)>;
+        if (!BelongsTo(area, item.place)) return;
         if constexpr (std::is_same_v<Item, Fill>) {
-            if (wider.intersects(item.place)) painter.fillRect(item.place, item.colour);
+            painter.fillRect(item.place, item.colour);
         } else if constexpr (std::is_same_v<Item, Line>) {
-            const QRectF box = QRectF(item.place.p1(), item.place.p2()).normalized().adjusted(-1, -1, 1, 1);
-            if (!wider.intersects(box)) return;
             painter.setPen(QPen(item.colour, kLineWidth));
-            painter.drawLine(item.place);
-        } else if (wider.intersects(item.place)) {
+            painter.drawLine(item.line);
+        } else {
             painter.setPen(item.colour);
             painter.setFont(item.font);
             painter.drawText(item.place, item.flags, item.text);

@@ -32,13 +32,18 @@ class DrawingRecorder : public DrawingDevice {
     QSizeF Extent() const { return extent_; }
     /// Where one drawing ends and the next one begins, from the top.
     const std::vector<qreal>& Seams() const { return seams_; }
-    /// The place of everything that was drawn, from the top down; the boxes are the ground of the texts.
+    /// The place of everything that was drawn, from the top down; the boxes are the ground of the texts, and
+    /// their edges count as part of them.
     struct Place {
         QRectF rectangle;
         bool isBox;
     };
     std::vector<Place> Places() const;
-    /// Paints what touches `area`; both the painter and the area count in twips.
+    /// Whether something at `place` belongs to `area`: what only touches it from outside does not, and what
+    /// has no width lies in the area that it begins.
+    static bool BelongsTo(const QRectF& area, const QRectF& place);
+    /// Paints what belongs to `area`, which reaches beyond it where it is cut; both the painter and the area
+    /// count in twips.
     void Paint(QPainter& painter, const QRectF& area) const;
 
   private:
@@ -47,8 +52,9 @@ class DrawingRecorder : public DrawingDevice {
         QColor colour;
     };
     struct Line {
-        QLineF place;
+        QLineF line;
         QColor colour;
+        QRectF place;  // of the box that it is an edge of, or its own
     };
     struct Words {
         QRectF place;
@@ -62,11 +68,14 @@ class DrawingRecorder : public DrawingDevice {
     static std::optional<std::vector<Words>> Fit(const QRectF& room, const std::vector<PrintedText>& texts,
                                                  qreal scale, bool must);
     void Reach(qreal right, qreal bottom);
+    /// The place of the box that was begun last, if the line is one of its edges; else that of the line.
+    QRectF OwnerOf(const QLineF& line) const;
 
     QString title_;
     QSizeF sheet_, extent_;
     std::vector<qreal> seams_;
     std::vector<std::variant<Fill, Line, Words>> drawn_;
+    QRectF lastBox_;
 };
 
 }  // namespace swiftroll::ui

@@ -9,6 +9,7 @@
 #include <QSvgGenerator>
 #include <QVBoxLayout>
 
+#include "drawing/kinship_print.h"
 #include "help_topics.h"
 #include "layout.h"
 #include "preview_canvas.h"
@@ -91,7 +92,7 @@ void PreviewDialog::BindCommands() {
     drawing_.OnOpen = [this] {
         const bool landscape = drawing_.Sheet().width() > drawing_.Sheet().height();
         layout_.setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-        form_.Show();
+        form_.Open();
     };
     drawing_.OnClose = [this] { LayOut(); };
     form_.chkFitToPage.OnClick = [this] { LayOut(); };
@@ -104,6 +105,8 @@ void PreviewDialog::BindCommands() {
 void PreviewDialog::LayOut() {
     sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, form_.chkFitToPage.Checked());
     form_.SetPageCount(sheets_->Count());
+    // The canvas may be painted before the next refresh, and must not hold the former sheets.
+    Refresh();
 }
 
 void PreviewDialog::Refresh() {
@@ -115,17 +118,19 @@ void PreviewDialog::resizeEvent(QResizeEvent* event) {
     Refresh();
 }
 
-/// Prints the sheets from `first` to `last`, numbered from 1.
-void PreviewDialog::PrintOn(QPagedPaintDevice& device, int first, int last) {
-    QPainter painter(&device);
-    const qreal scale = painter.device()->logicalDpiX() / kTwipsPerInch;
-    for (int sheet = first; sheet <= last && painter.isActive(); ++sheet) {
-        if (sheet != first) device.newPage();
+/// Prints the sheets from `first` to `last`, numbered from 1; false when the device fails.
+bool PreviewDialog::PrintOn(QPagedPaintDevice& device, int first, int last) {
+    QPainter painter;
+    if (!painter.begin(&device)) return false;
+    const qreal scale = device.logicalDpiX() / kTwipsPerInch;
+    for (int sheet = first; sheet <= last; ++sheet) {
+        if (sheet != first && !device.newPage()) return false;
         painter.save();
         painter.scale(scale, scale);
         sheets_->Paint(painter, sheet - 1);
         painter.restore();
     }
+    return painter.end();
 }
 
 void PreviewDialog::Print() {
@@ -136,9 +141,15 @@ void PreviewDialog::Print() {
     QPrintDialog dialog(&printer, this);
     dialog.setMinMax(1, sheets_->Count());
     if (dialog.exec() != QDialog::Accepted) return;
+    Print(printer);
+}
+
+void PreviewDialog::Print(QPrinter& printer) {
     const bool all = printer.fromPage() == 0;
-    PrintOn(printer, all ? 1 : printer.fromPage(),
-            all ? sheets_->Count() : std::min(printer.toPage(), sheets_->Count()));
+    const int last = all ? sheets_->Count() : std::min(printer.toPage(), sheets_->Count());
+    if (PrintOn(printer, all ? 1 : printer.fromPage(), last)) return;
+    modPrint::TellPrintFailure(presenter_.Main(),
+                               Failure(FailureKind::Printer, FromQt(printer.printerName())));
 }
 
 void PreviewDialog::SetUp() {
@@ -184,7 +195,7 @@ bool PreviewDialog::WritePdf(const QString& file) {
         writer.setPageLayout(layout);
         writer.setTitle(drawing_.Title());
         writer.setCreator(ToQt(presenter_.Main().MainCaption()));
-        PrintOn(writer, 1, sheets_->Count());
+        if (!PrintOn(writer, 1, sheets_->Count())) return false;
     }
     return target.flush() && target.error() == QFileDevice::NoError;
 }

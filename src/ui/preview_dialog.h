@@ -21,6 +21,8 @@ class PreviewDialog : public SecondaryDialog {
     /// Writes all sheets into a PDF file, or the whole drawing into an SVG file; false when it fails.
     bool WritePdf(const QString& file);
     bool WriteSvg(const QString& file);
+    /// Prints the pages that were asked of the printer; a failure is shown to the user.
+    void Print(QPrinter& printer);
     const PreviewSheets& Sheets() const { return *sheets_; }
 
   protected:
@@ -31,7 +33,7 @@ class PreviewDialog : public SecondaryDialog {
     void BindCommands();
     void LayOut();
     void Refresh();
-    void PrintOn(QPagedPaintDevice& device, int first, int last);
+    bool PrintOn(QPagedPaintDevice& device, int first, int last);
     void Print();
     void SetUp();
     void Export();

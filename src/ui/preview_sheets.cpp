@@ -10,6 +10,8 @@ namespace {
 constexpr qreal kTwipsPerPoint = 20;
 /// What a line at the edge of a sheet may reach beyond it.
 constexpr qreal kEdge = 15;
+/// What the last sheets hold beyond the drawing, so that what ends it lies within.
+constexpr qreal kBeyond = 1;
 /// A drawing that would take more sheets than this is cut there: nobody prints them.
 constexpr int kMostSheets = 10000;
 
@@ -24,7 +26,7 @@ PreviewSheets::PreviewSheets(const DrawingRecorder& drawing, const QPageLayout& 
     const QSizeF extent = drawing.Extent().expandedTo(QSizeF(1, 1));
     if (fitToOne) {
         scale_ = std::min({1.0, printable_.width() / extent.width(), printable_.height() / extent.height()});
-        parts_.emplace_back(QPointF(), extent);
+        parts_.emplace_back(QPointF(), extent + QSizeF(kBeyond, kBeyond));
         return;
     }
     Divide();
@@ -40,29 +42,30 @@ void PreviewSheets::Divide() {
     }
     const QSizeF extent = drawing_.Extent();
     std::vector<qreal> rows = SheetStarts(boxes, drawing_.Seams(), extent.height(), printable_.height());
-    rows.push_back(extent.height());
+    rows.push_back(extent.height() + kBeyond);
     auto first = places.begin();
-    for (std::size_t row = 0; row + 1 < rows.size(); ++row) {
-        const qreal top = rows[row], bottom = rows[row + 1];
+    for (std::size_t i = 0; i + 1 < rows.size(); ++i) {
+        const qreal top = rows[i], bottom = rows[i + 1];
+        const QRectF row(0, top, extent.width() + kBeyond, bottom - top);
         while (first != places.end() && first->rectangle.bottom() < top) ++first;
         std::vector<QRectF> inRow;
         boxes.clear();
         for (auto place = first; place != places.end() && place->rectangle.top() < bottom; ++place) {
             const QRectF& rectangle = place->rectangle;
-            if (rectangle.bottom() <= top && rectangle.top() < top) continue;
+            if (!DrawingRecorder::BelongsTo(row, rectangle)) continue;
             inRow.push_back(rectangle);
             if (place->isBox) boxes.push_back({rectangle.left(), rectangle.right()});
         }
         std::vector<qreal> columns = SheetStarts(boxes, {}, extent.width(), printable_.width());
-        columns.push_back(extent.width());
+        columns.push_back(extent.width() + kBeyond);
         for (std::size_t column = 0; column + 1 < columns.size(); ++column) {
-            const qreal left = columns[column], right = columns[column + 1];
+            const QRectF part(columns[column], top, columns[column + 1] - columns[column], bottom - top);
             const bool isUsed = std::any_of(inRow.begin(), inRow.end(), [&](const QRectF& rectangle) {
-                return rectangle.left() < right && (rectangle.right() > left || rectangle.left() >= left);
+                return DrawingRecorder::BelongsTo(part, rectangle);
             });
             if (!isUsed) continue;
             if (Count() == kMostSheets) return;
-            parts_.emplace_back(left, top, right - left, bottom - top);
+            parts_.push_back(part);
         }
     }
 }
@@ -72,6 +75,7 @@ void PreviewSheets::Paint(QPainter& painter, int index) const {
     painter.save();
     painter.translate(printable_.topLeft());
     painter.scale(scale_, scale_);
+    // Lines are drawn to both sides of their place.
     painter.setClipRect(QRectF(QPointF(), part.size()).adjusted(-kEdge, -kEdge, kEdge, kEdge),
                         Qt::IntersectClip);
     painter.translate(-part.topLeft());

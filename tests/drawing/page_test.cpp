@@ -133,6 +133,24 @@ TEST(KinshipPage, IsWrittenByteForByte) {
     EXPECT_NE(page.find("<b><i>, PÉRON</i></b>"_t), Text::npos);
 }
 
+TEST(KinshipPrint, TextsAreThoseOfThePageWithoutItsTags) {
+    AfterRead t({"A m", "B m"}, {"A - B"});
+    t.Find("A", "B");
+    t.main.txtKinH.SetText("150");
+    t.main.chkIndiID.SetChecked(false);
+    t.main.txtFont.SetText("Arial|9|1|0|1|0|255");
+    t.main.cboDrawKinship.SetListIndex(3);
+    t.main.cmdPrintKinship.Enabled = true;
+    t.main.cmdPrintKinship.Click();
+    std::vector<Text> texts;
+    for (const PrintedText& text : t.preview.texts) {
+        texts.push_back(text.text);
+        EXPECT_FALSE(text.font.strikethrough);
+    }
+    EXPECT_EQ(texts, Rows({"A, DE A", "?", "B, DE B"}));
+    EXPECT_TRUE(t.preview.texts.at(0).font.bold);
+}
+
 TEST(KinshipPage, WithoutPathsNoFileIsCreated) {
     Couple t;
     t.main.FindPathBetween("@I3@", "@I2@");

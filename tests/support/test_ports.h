@@ -117,6 +117,15 @@ struct TestDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
     std::vector<Text> opened;
 };
 
+/// Keeps the texts that reached the sheet.
+struct TestSheet : NoDrawingDevice {
+    void PrintTexts(std::int64_t, std::int64_t, std::int64_t, std::int64_t,
+                    const std::vector<PrintedText>& printed) override {
+        texts.insert(texts.end(), printed.begin(), printed.end());
+    }
+    std::vector<PrintedText> texts;
+};
+
 /// All ports of one application without a screen.
 struct TestPorts {
     ScriptedDialogs dialogs;
@@ -128,7 +137,7 @@ struct TestPorts {
     TestMachine machine;
     TestDesktop desktop;
     MemorySettings settings;
-    NoDrawingDevice preview;
+    TestSheet preview;
     Ports All() {
         return {dialogs, clock,   events,  files,    folders, status,  machine,
                 desktop, desktop, desktop, settings, preview, desktop, desktop};

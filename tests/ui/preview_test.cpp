@@ -1,5 +1,6 @@
 // The preview and what it prints.
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -78,6 +79,84 @@ TEST_F(Preview, ALargeDrawingTakesSheetsOrFitsOne) {
     program_->ThePresenter().Act([this] { Main().frmPreview.chkFitToPage.SetChecked(true); });
     EXPECT_EQ(Dialog().Sheets().Count(), 1);
     EXPECT_EQ(Main().frmPreview.Page(), 1);
+}
+
+TEST_F(Preview, OpensOnTheFirstPageAndTellsOfAPrinterThatFails) {
+    StartWithPaths();
+    program_->ThePresenter().Act([this] {
+        Main().txtKinHeight.SetText("900");
+        Main().txtKinWidth.SetText("1500");
+        Main().frmPreview.SetZoom(75);
+    });
+    Print();
+    Click("cmdNextPage");
+    EXPECT_EQ(Find<QLineEdit>("txtPageNr").text(), QStringLiteral("2"));
+    Click("cmdClose");
+    Print();
+    EXPECT_EQ(Find<QLineEdit>("txtPageNr").text(), QStringLiteral("1"));
+    EXPECT_EQ(Main().frmPreview.Zoom(), 75);
+    QPrinter printer;
+    printer.setOutputFileName(Path(QStringLiteral("no/such/folder/a.pdf")));
+    OnBox(QMessageBox::Ok);
+    Dialog().Print(printer);
+    EXPECT_TRUE(boxes.last().startsWith(QStringLiteral("Erreor d'impression\r\nErreur d'imprimante (")));
+    EXPECT_TRUE(boxes.last().endsWith(QStringLiteral(" (482)")));
+}
+
+/// A drawing on sheets of 6000 twips with margins of 150, as pictures of a pixel for 15 twips.
+struct Sheets {
+    void Box(int left, int top, int width, int height) {
+        drawing.FillRectangle(left, top, width, height, 0xFFFFFF);
+        drawing.DrawLine(left, top, left + width, top, 0);
+        drawing.DrawLine(left, top, left, top + height, 0);
+        drawing.DrawLine(left, top + height, left + width, top + height, 0);
+        drawing.DrawLine(left + width, top, left + width, top + height, 0);
+    }
+    QImage Picture(int sheet) const {
+        const QMarginsF margins(7.5, 7.5, 7.5, 7.5);
+        const QPageLayout layout(QPageSize(QSizeF(300, 300), QPageSize::Point), QPageLayout::Portrait,
+                                 margins);
+        QImage picture(400, 400, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        painter.scale(1 / 15.0, 1 / 15.0);
+        ui::PreviewSheets(drawing, layout, false).Paint(painter, sheet);
+        return picture;
+    }
+    /// What of a sheet is not white, from the corner of its printable area, in pixels.
+    QRect Drawn(int sheet) const {
+        const QImage picture = Picture(sheet);
+        QRect drawn;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixel(x, y) != qRgb(255, 255, 255)) drawn |= QRect(x - 10, y - 10, 1, 1);
+            }
+        }
+        return drawn;
+    }
+    ui::DrawingRecorder drawing;
+};
+
+TEST(PreviewSheets, ShowNothingOfTheBoxesOfTheirNeighbours) {
+    for (const int gap : {0, 900}) {
+        Sheets t;
+        t.Box(0, 0, 3900, 3900);
+        t.Box(3900 + gap, 0, 3900, 3900);
+        t.Box(0, 3900 + gap, 3900, 3900);
+        for (int sheet = 0; sheet < 3; ++sheet) {
+            const QRect drawn = t.Drawn(sheet);
+            EXPECT_TRUE(drawn.width() >= 260 && drawn.width() <= 262)
+                << gap << " " << sheet << " " << drawn.width();
+            EXPECT_TRUE(drawn.height() >= 260 && drawn.height() <= 262) << gap << " " << sheet;
+        }
+    }
+}
+
+TEST(PreviewSheets, TextsKeepAwayFromTheBordersOfTheirBox) {
+    Sheets t;
+    t.drawing.PrintTexts(0, 0, 3000, 3000, {{"\xC9\xC9\xC9", {.name = "Arial", .size = "30"}}});
+    const QRect room(3, 3, 194, 194);
+    EXPECT_TRUE(room.contains(t.Drawn(0))) << t.Drawn(0).top();
 }
 
 TEST(SheetStarts, LieBetweenDrawingsAndBoxesWhereTheyCan) {
