@@ -167,7 +167,8 @@ class frmMain : public Application, public ListCommands {
     void mnuSaveParams_Click();
     void SendReport();
     bool ExportSettings(TextView sRegFile);
-    void SendMail(TextView sRegFile, TextView sLogFile);
+    /// `step` follows how far the mail came, for the report of a failure.
+    void SendMail(TextView sRegFile, TextView sLogFile, TextView& step);
 
     void OpenFile(TextView sFile);
     void mnuContext2_Click();

@@ -11,6 +11,7 @@ namespace {
 
 constexpr TextView kStoreRoot = "HKEY_CURRENT_USER\\Software\\SwiftRoll";
 constexpr TextView kRecipient = "SwiftRoll";
+constexpr auto kNoLog = "\r\n(Ce dernier n'existe pas encore : aucune erreur n'a été notée.)"_t;
 
 }  // namespace
 
@@ -47,11 +48,12 @@ void frmMain::SendReport() {
             const BoxAnswer answer =
                 Box(" - Send Reg",
                     Concat({"En cas de problème, merci de m'envoyer les fichiers :"_t, kLineEnd, kLineEnd,
-                            sRegFile, kLineEnd, "et", kLineEnd, sLogFile}),
+                            sRegFile, kLineEnd, "et", kLineEnd, sLogFile,
+                            ports.files.Exists(sLogFile) ? TextView() : kNoLog}),
                     BoxButtons::OkCancel, BoxIcon::Exclamation);
             if (answer != BoxAnswer::Ok) return;
             step = "SendMail";
-            SendMail(sRegFile, sLogFile);
+            SendMail(sRegFile, sLogFile, step);
         },
         [&] {
             return step == "SaveInFile" ? Concat({step, "/"})
@@ -73,7 +75,7 @@ bool frmMain::ExportSettings(TextView sRegFile) {
     }
 }
 
-void frmMain::SendMail(TextView sRegFile, TextView sLogFile) {
+void frmMain::SendMail(TextView sRegFile, TextView sLogFile, TextView& step) {
     const Moment now = ports.clock.Now();
     MailMessage mail;
     mail.recipient = kRecipient;
@@ -84,6 +86,7 @@ void frmMain::SendMail(TextView sRegFile, TextView sLogFile) {
          kLineEnd, "==> Si les 2 fichiers suivants n'ont pas été joints à cet eMail, merci de le faire :"_t,
          kLineEnd, kLineEnd, "==> 1. ", sRegFile, kLineEnd, "==> 2. ", sLogFile, kLineEnd, kLineEnd,
          "Merci de m'indiquer comment vous pouvez reproduire l'erreur le cas échéant."_t});
+    step = "SendMail Attach";
     mail.attachments = {Text(sRegFile)};
     if (ports.files.Exists(sLogFile)) mail.attachments.emplace_back(sLogFile);
     const Text sDraft = PathOf(sUserAppData, Concat({sProduct, "_Rapport.eml"}));

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "support/test_ports.h"
+#include "text/failure.h"
+#include "text/literal.h"
 
 namespace swiftroll::test {
 namespace {
@@ -32,6 +34,27 @@ TEST(Report, ExportsAllSettingsAndPreparesAMail) {
     t.dialogs.answers = {BoxAnswer::Ok, BoxAnswer::Ok};
     t.main.mnuSaveParams.Click();
     EXPECT_NE(t.dialogs.boxes.back().text.find("SwiftRoll_Rapport.eml"), Text::npos);
+}
+
+TEST(Report, TellsWhatIsMissingAndHowFarTheMailCame) {
+    struct NoAttachments : Mail {
+        bool Compose(const MailMessage&, TextView) override { throw Failure(FailureKind::FileAccess); }
+    } mail;
+    TestPorts t;
+    frmMain main({t.dialogs, t.clock, t.events, t.files, t.folders, t.status, t.machine, t.desktop, t.desktop,
+                  t.desktop, t.settings, t.preview, t.desktop, mail});
+    main.Form_Load({});
+    const Text asked = "log\r\n(Ce dernier n'existe pas encore : aucune erreur n'a été notée.)"_t.data();
+    for (int i = 0; i < 2; ++i) {
+        t.dialogs.boxes.clear();
+        t.dialogs.answers = {BoxAnswer::Ok, BoxAnswer::Ok};
+        main.mnuSaveParams.Click();
+        ASSERT_EQ(t.dialogs.boxes.size(), 2u);
+        EXPECT_EQ(t.dialogs.boxes[0].text.ends_with(asked), i == 0) << "the first failure makes the log";
+        EXPECT_EQ(t.dialogs.boxes[0].text.ends_with("SwiftRoll.log"), i == 1);
+        EXPECT_NE(t.dialogs.boxes[1].text.find("|SendMail Attach//data/SwiftRoll//data/"), Text::npos)
+            << t.dialogs.boxes[1].text;
+    }
 }
 
 TEST(Report, NamesTheSystemsThatTellOnlyNumbers) {
