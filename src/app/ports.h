@@ -175,10 +175,11 @@ class Desktop {
   public:
     virtual ~Desktop() = default;
     enum class OpenResult { Opened, FileNotFound, NoProgram, Refused };
-    /// Opens a file with the program that belongs to it; `number` tells why it was refused.
+    /// Opens a file with the program that belongs to it; `number` tells why it was refused. Waits for the
+    /// answer while events are handled.
     virtual OpenResult Open(TextView file, int& number) = 0;
-    /// Lets the user choose a program for a file that none belongs to.
-    virtual void ChooseProgram(TextView file) = 0;
+    /// Lets the user choose a program for a file that none belongs to; false when that cannot be done.
+    virtual bool ChooseProgram(TextView file) = 0;
     /// Opens the help at the page of a topic, above 0, or at its beginning; false when no program takes it.
     virtual bool OpenHelp(TextView file, int topic) = 0;
     /// Opens a web address, or a new mail for an address that begins with "mailto:".
@@ -270,7 +271,7 @@ struct NoDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
     void SetText(TextView) override {}
     bool IsShiftDown() override { return false; }
     OpenResult Open(TextView, int&) override { return OpenResult::NoProgram; }
-    void ChooseProgram(TextView) override {}
+    bool ChooseProgram(TextView) override { return false; }
     bool OpenHelp(TextView, int) override { return false; }
     void OpenAddress(TextView) override {}
     void Download(TextView, TextView) override {}

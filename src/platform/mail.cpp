@@ -1,15 +1,9 @@
 #include "platform/mail.h"
 
-#ifndef _WIN32
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
-
-#include <chrono>
 #include <fstream>
 #include <sstream>
 
+#include "platform/launcher.h"
 #include "text/code_page.h"
 #include "text/edit.h"
 #include "text/failure.h"
@@ -47,36 +41,17 @@ std::string FileContent(TextView file) {
 
 std::string BaseName(TextView file) { return FileNameFromText(file.substr(file.find_last_of("/\\") + 1)); }
 
-#ifndef _WIN32
 /// Starts the mail program of the desktop; false when there is none, or when it says that it failed.
 bool OpenMailProgram(const MailMessage& message, EventPump& events) {
-    std::vector<std::string> arguments = {
+    std::vector<std::string> command = {
         "xdg-email", "--utf8", "--subject", ToUtf8(message.subject), "--body", ToUtf8(message.body)};
     for (const Text& file : message.attachments) {
-        arguments.emplace_back("--attach");
-        arguments.push_back(FileNameFromText(file));
+        command.emplace_back("--attach");
+        command.push_back(FileNameFromText(file));
     }
-    arguments.push_back(ToUtf8(message.address));
-    std::vector<char*> argv;
-    argv.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    pid_t process = 0;
-    if (posix_spawnp(&process, argv[0], nullptr, nullptr, argv.data(), environ) != 0) return false;
-    // The command hands the message over and ends; a mail program that stays in front goes on by itself.
-    constexpr auto kPatience = std::chrono::seconds(5);
-    constexpr int kGlanceMilliseconds = 20;
-    const auto end = std::chrono::steady_clock::now() + kPatience;
-    int status = 0;
-    while (waitpid(process, &status, WNOHANG) == 0) {
-        if (std::chrono::steady_clock::now() > end) return true;
-        events.YieldFor(kGlanceMilliseconds, false);
-    }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    command.push_back(ToUtf8(message.address));
+    return Launch(std::move(command), events) == 0;
 }
-#else
-bool OpenMailProgram(const MailMessage&, EventPump&) { return false; }
-#endif
 
 }  // namespace
 

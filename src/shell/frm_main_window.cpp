@@ -25,7 +25,12 @@ void frmMain::OpenFile(TextView sFile) {
     trail.Guard(
         "OpenFile",
         [&] {
+            constexpr int kNoAssociation = 31;
             int number = 0;
+            const auto refuse = [&](int why) {
+                Box(" - Fichier Erreur"_t, Concat({"Erreur d'ouverture du Fichier :"_t, kLineEnd, sFile,
+                                                   kLineEnd, "Erreur = ", Decimal(why)}));
+            };
             switch (ports.desktop.Open(sFile, number)) {
                 case Desktop::OpenResult::Opened:
                     break;
@@ -33,11 +38,10 @@ void frmMain::OpenFile(TextView sFile) {
                     Box(" - Fichier non trouvé"_t, Concat({"Fichier non trouvé :"_t, kLineEnd, sFile}));
                     break;
                 case Desktop::OpenResult::NoProgram:
-                    ports.desktop.ChooseProgram(sFile);
+                    if (!ports.desktop.ChooseProgram(sFile)) refuse(kNoAssociation);
                     break;
                 case Desktop::OpenResult::Refused:
-                    Box(" - Fichier Erreur"_t, Concat({"Erreur d'ouverture du Fichier :"_t, kLineEnd, sFile,
-                                                       kLineEnd, "Erreur = ", Decimal(number)}));
+                    refuse(number);
                     break;
             }
         },

@@ -37,7 +37,7 @@ class DesktopApplication {
     platform::UserFolders folders_;
     QtStatus status_;
     platform::ThisMachine machine_;
-    QtDesktop desktop_;
+    QtDesktop desktop_{pump_};
     platform::SettingsFile settings_;
     DrawingRecorder preview_;
     QtNetwork network_;

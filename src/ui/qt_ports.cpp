@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
@@ -16,6 +17,7 @@
 
 #include "colours.h"
 #include "help_topics.h"
+#include "platform/launcher.h"
 #include "qt_text.h"
 #include "text/numbers.h"
 
@@ -26,6 +28,8 @@ constexpr int kPumpMilliseconds = 16;
 /// The clock is only looked at every so many calls: a unit of work takes about a microsecond.
 constexpr int kCallsPerLook = 64;
 constexpr int kShowMilliseconds = 50;
+/// What the launcher of the desktop answers.
+constexpr int kLauncherDone = 0, kLauncherFileNotFound = 2, kLauncherNoProgram = 3;
 
 QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
     switch (buttons) {
@@ -231,16 +235,36 @@ void QtDesktop::SetText(TextView text) { QApplication::clipboard()->setText(ToQt
 
 bool QtDesktop::IsShiftDown() { return (QApplication::keyboardModifiers() & Qt::ShiftModifier) != 0; }
 
-Desktop::OpenResult QtDesktop::Open(TextView file, int&) {
+Desktop::OpenResult QtDesktop::Open(TextView file, int& number) {
     const QFileInfo info(EditableToQt(file));
     if (!info.exists()) return OpenResult::FileNotFound;
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(info.absoluteFilePath())) ? OpenResult::Opened
-                                                                                   : OpenResult::NoProgram;
+    number = OpenLocal(info.absoluteFilePath());
+    switch (number) {
+        case kLauncherDone:
+            return OpenResult::Opened;
+        case kLauncherFileNotFound:
+            return OpenResult::FileNotFound;
+        case kLauncherNoProgram:
+            return OpenResult::NoProgram;
+        default:
+            return OpenResult::Refused;
+    }
 }
 
 /// Desktops let the user choose a program in the file manager.
-void QtDesktop::ChooseProgram(TextView file) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(EditableToQt(file)).absolutePath()));
+bool QtDesktop::ChooseProgram(TextView file) {
+    return OpenLocal(QFileInfo(EditableToQt(file)).absolutePath()) == kLauncherDone;
+}
+
+/// Hands a file or a folder to the desktop; what it answers.
+int QtDesktop::OpenLocal(const QString& path) {
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path)) ? kLauncherDone : kLauncherNoProgram;
+#else
+    // The toolkit would not wait for the answer.
+    return platform::Launch({"xdg-open", QFile::encodeName(path).toStdString()}, pump_)
+        .value_or(kLauncherNoProgram);
+#endif
 }
 
 bool QtDesktop::OpenHelp(TextView file, int topic) {

@@ -65,12 +65,18 @@ class QtStatus : public StatusObserver {
 /// The clipboard, the keyboard and the desktop.
 class QtDesktop : public Clipboard, public Keyboard, public Desktop {
   public:
+    /// `events` are handled while the desktop opens a file.
+    explicit QtDesktop(EventPump& events) : pump_(events) {}
     void SetText(TextView text) override;
     bool IsShiftDown() override;
     OpenResult Open(TextView file, int& number) override;
-    void ChooseProgram(TextView file) override;
+    bool ChooseProgram(TextView file) override;
     bool OpenHelp(TextView file, int topic) override;
     void OpenAddress(TextView address) override;
+
+  private:
+    int OpenLocal(const QString& path);
+    EventPump& pump_;
 };
 
 }  // namespace swiftroll::ui

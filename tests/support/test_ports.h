@@ -90,7 +90,10 @@ struct TestDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
         number = openNumber;
         return openResult;
     }
-    void ChooseProgram(TextView file) override { opened.emplace_back("with:" + Text(file)); }
+    bool ChooseProgram(TextView file) override {
+        opened.emplace_back("with:" + Text(file));
+        return canChoose;
+    }
     bool OpenHelp(TextView file, int topic) override {
         opened.emplace_back(Text(file) + "#" + std::to_string(topic));
         return openResult == OpenResult::Opened;
@@ -114,6 +117,7 @@ struct TestDesktop : Clipboard, Keyboard, Desktop, Network, Mail {
     bool shiftIsDown = false;
     OpenResult openResult = OpenResult::Opened;
     int openNumber = 0;
+    bool canChoose = true;
     std::vector<Text> opened;
 };
 
