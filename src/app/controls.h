@@ -221,6 +221,9 @@ class ComboBox : public Control {
     /// As a user who types the text, or picks the item of a selector by its number or text, and goes on.
     void SetFromText(TextView text) override;
     Event OnClick;
+    /// Whether the settings keep which item of a selector is picked: they hold the items alone, that one
+    /// first.
+    bool KeepsPick = false;
 
   private:
     bool isSelector_;

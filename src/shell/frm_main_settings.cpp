@@ -33,7 +33,6 @@ void frmMain::SaveAllControls() { modCommon::SaveAllControls(*this, SavedWindows
 
 void frmMain::RestoreSettings() {
     shownSettings_ = modCommon::GetAllControls(*this, SavedWindows());
-    frmPreview.cboZoom.SetListIndex(0);
     cboLoad.SetListIndex(chkProcFamilies.Checked() ? 0 : 1);
     bFormLoading = true;  // no file name follows the format yet
     optOutExtension_Click(optOutExtension.Index());

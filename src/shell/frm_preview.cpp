@@ -48,6 +48,7 @@ frmPreview::frmPreview(Application& app)
       cmdHelp(*this, {"cmdHelp", "Aide"}),
       cmdClose(*this, {"cmdClose", "Fermer"}) {
     Caption = Concat({app.MainCaption(), " - Aperçu avant impression"_t});
+    cboZoom.KeepsPick = true;
     cmdZoomMinus.Operation = [this] { Step(-1); };
     Command1.Operation = [this] { Step(1); };
     cmdPreviousPage.Operation = [this] { GoToPage(Page() - 1); };

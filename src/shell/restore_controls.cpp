@@ -53,6 +53,12 @@ void RestoreCombo(Application& app, ComboBox& combo, TextView section) {
     const std::vector<Text> saved = SortMySettings0(app, pairs);
     if (Trim(saved.front()).empty()) return;
     // The items of a selector are fixed: what was saved of them is no more than a copy.
+    if (combo.KeepsPick) {
+        const auto& items = combo.Items();
+        const auto picked = std::find(items.begin(), items.end(), saved.front());
+        if (picked != items.end()) combo.SetListIndex(static_cast<int>(picked - items.begin()));
+        return;
+    }
     if (!combo.IsSelector()) {
         std::vector<Text> items = combo.Items();
         for (const Text& item : saved) {

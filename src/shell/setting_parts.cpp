@@ -1,6 +1,8 @@
 // What a save writes of windows, controls and tables.
 #include "shell/setting_parts.h"
 
+#include <algorithm>
+
 #include "shell/column_settings.h"
 #include "shell/list_order.h"
 #include "shell/settings_sections.h"
@@ -33,8 +35,13 @@ void AddPlace(SettingParts& parts, const Window& window) {
 }
 
 std::vector<SettingEntry> ItemsOf(const ComboBox& combo, TextView section) {
+    std::vector<Text> items = combo.Items();
+    if (combo.KeepsPick && combo.ListIndex() > 0) {
+        const auto picked = items.begin() + combo.ListIndex();
+        std::rotate(items.begin(), picked, picked + 1);
+    }
     std::vector<SettingEntry> entries;
-    for (const Text& item : combo.Items()) {
+    for (const Text& item : items) {
         if (Trim(item).empty()) continue;
         const auto number = static_cast<std::int64_t>(entries.size());
         entries.push_back({Text(section), Decimal(number, kItemDigits), item});

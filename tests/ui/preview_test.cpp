@@ -103,6 +103,22 @@ TEST_F(Preview, OpensOnTheFirstPageAndTellsOfAPrinterThatFails) {
     EXPECT_TRUE(boxes.last().endsWith(QStringLiteral(" (482)")));
 }
 
+TEST_F(Preview, KeepsItsZoomFromOneRunToTheNext) {
+    StartWithPaths();
+    Print();
+    for (int i = 0; i < 3; ++i) Click("Command1");
+    const int zoom = Main().frmPreview.Zoom();
+    ASSERT_GT(zoom, 100);
+    const std::vector<Text> zooms = Main().frmPreview.cboZoom.Items();
+    for (int run = 0; run < 2; ++run) {
+        Click("cmdExit");
+        program_ = std::make_unique<ui::DesktopApplication>();
+        Start();
+        EXPECT_EQ(Main().frmPreview.Zoom(), zoom);
+        EXPECT_EQ(Main().frmPreview.cboZoom.Items(), zooms);
+    }
+}
+
 /// A drawing on sheets of 6000 twips with margins of 150, as pictures of a pixel for 15 twips.
 struct Sheets {
     void Box(int left, int top, int width, int height) {
