@@ -6,7 +6,7 @@
 #include "gedcom/line_scanner.h"
 #include "list/sort_keys.h"
 #include "quiet_main.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "tables/schema.h"
 #include "text/fold.h"
 #include "text/literal.h"
@@ -81,11 +81,11 @@ void ItemByKey(benchmark::State& state) {
 BENCHMARK(ItemByKey)->Arg(1000)->Arg(100000);
 
 /// Sorts by a column, up and down in turn.
-void SortInTurn(benchmark::State& state, Table& table, std::int16_t column) {
+void SortInTurn(benchmark::State& state, Table& table, ColumnId column) {
     std::int16_t order = 0;
     for (auto _ : state) {
         order = static_cast<std::int16_t>(1 - order);
-        table.SortBy(static_cast<std::int16_t>(column - 1), order);
+        table.SortBy(column, order);
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
@@ -123,7 +123,7 @@ void MakeSortKeyIn(benchmark::State& state) {
     TableSet tables;
     bench::QuietDialogs dialogs;
     Positions positions;
-    tables.lvwOut.MoveColumn(4, 3);  // the place before the count
+    tables.lvwOut.MoveColumn(Out::Place, 3);  // the place before the count
     positions.InitIndexes(tables, dialogs, {});
     Row row = tables.lvwIn.Add(std::nullopt, TextView("@I1@"), TextView("@I1@"));
     row.SetCell(In::LastName, "Lefèvre"_t);

@@ -5,6 +5,7 @@
 
 #include "list/calc_output.h"
 #include "quiet_main.h"
+#include "tables/columns.h"
 
 namespace {
 
@@ -17,7 +18,7 @@ class SelectionBench {
     void Read(const char* file) {
         app_.Read(file);
         swiftroll::modCalcOut::CalcOuptut(main_);
-        main_.lvwIn.SortBy(0, 0);
+        main_.lvwIn.SortBy(swiftroll::In::ID, 0);
         std::printf("%s: %d people, %d groups, %d links\n", file, main_.lvwIn.Count(), main_.lvwOut.Count(),
                     main_.lvwXref.Count());
         std::printf("%-28s", "seconds");
@@ -27,7 +28,8 @@ class SelectionBench {
 
     void MeasureAll() {
         for (Table* table : {&main_.lvwIn, &main_.lvwXref, &main_.lvwFamily, &main_.lvwFamilyXref}) {
-            for (const char* sMode : {"I", "P", "S", "C"}) Measure(*table, table->ColumnAt(1).Key, sMode);
+            for (const char* sMode : {"I", "P", "S", "C"})
+                Measure(*table, table->Columns().front().Key, sMode);
         }
         Measure(main_.lvwFamily, "IDHusb", "S");
         Measure(main_.lvwFamily, "IDHusb", "C");
@@ -45,10 +47,10 @@ class SelectionBench {
   private:
     void Measure(Table& table, const swiftroll::Text& key, const char* sMode) {
         auto& engine = main_.modSelectionIn;
-        engine.context.SetClickedCell(main_, table, table.FindColumn(key)->Index - 1);
+        engine.context.SetClickedCell(main_, table, table.FindColumn(key)->Index);
         // Without the column that the mode needs, the command is not offered.
         const bool isOffered =
-            sMode[0] == 'V' || (sMode[0] != 'I' && sMode[0] != 'P') || engine.context.iIndiCol >= 0;
+            sMode[0] == 'V' || (sMode[0] != 'I' && sMode[0] != 'P') || engine.context.iIndiCol;
         if (!isOffered) return;
         main_.lvwActiveListView = &table;
         std::printf("%-13s %-10s %-3s", table.Name().c_str(), key.c_str(), sMode);

@@ -5,7 +5,7 @@
 
 #include "gedcom/links.h"
 #include "kinship/island_links.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/literal.h"
 
 namespace bench {
@@ -113,7 +113,7 @@ std::vector<std::pair<std::string, std::string>> FarPairs(swiftroll::frmMain& ma
     const auto biggest = std::max_element(sizes.begin(), sizes.end(),
                                           [](const auto& a, const auto& b) { return a.second < b.second; });
     swiftroll::modKinship::CopyProgress progress;
-    main.lvwXref.SortBy(0, 0);
+    main.lvwXref.SortBy(swiftroll::Xref::IDIndi1, 0);
     AddLvwXref1(main, biggest->first, progress);
     const swiftroll::modKinship::IslandGraph island(main);
     const auto nodeCount = static_cast<std::size_t>(island.graph.NodeCount());

@@ -8,7 +8,7 @@
 #include "kinship/path_walk.h"
 #include "kinship/remove_islands.h"
 #include "support/plain_kinship.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace bench {
 namespace {
@@ -137,7 +137,7 @@ SearchFigures MeasureSearch(swiftroll::frmMain& main, const std::string& from, c
                             const Limits& limits) {
     SearchFigures figures;
     Stopwatch watch;
-    main.lvwXref.SortBy(0, 0);
+    main.lvwXref.SortBy(swiftroll::Xref::IDIndi1, 0);
     swiftroll::modKinship::CopyProgress progress;
     const std::string islandNr(main.lvwIn.Item(from).Cell(swiftroll::In::IslandNr));
     AddLvwXref1(main, islandNr, progress);

@@ -9,33 +9,47 @@
 namespace swiftroll {
 
 inline constexpr std::int16_t kMaxColumns = 20;
-inline constexpr std::int16_t kNoColumn = -999;
 
-/// One entry for each of at most 20 columns or positions, numbered from 1.
+/// One entry for each of at most 20 columns.
 template <class Value>
 class PerColumn {
   public:
-    explicit PerColumn(Value value = {}) { entries_.fill(value); }
     /// @throws std::out_of_range
-    Value& operator[](std::int16_t i) { return entries_.at(static_cast<std::size_t>(i - 1)); }
-    const Value& operator[](std::int16_t i) const { return entries_.at(static_cast<std::size_t>(i - 1)); }
+    Value& operator[](ColumnId column) { return entries_.at(static_cast<std::size_t>(column.Section())); }
+    const Value& operator[](ColumnId column) const {
+        return entries_.at(static_cast<std::size_t>(column.Section()));
+    }
 
   private:
-    std::array<Value, kMaxColumns> entries_;
+    std::array<Value, kMaxColumns> entries_{};
+};
+
+/// One entry for each of at most 20 places on the screen, numbered from 1.
+template <class Value>
+class PerPosition {
+  public:
+    /// @throws std::out_of_range
+    Value& operator[](std::int16_t position) { return entries_.at(static_cast<std::size_t>(position - 1)); }
+    const Value& operator[](std::int16_t position) const {
+        return entries_.at(static_cast<std::size_t>(position - 1));
+    }
+
+  private:
+    std::array<Value, kMaxColumns> entries_{};
 };
 
 /// Widest text by column index.
 using Widths = PerColumn<std::int32_t>;
 /// Raises the entries of `widths` to the lengths of the row's cells.
 inline void SetMaxLen(const Row& row, Widths& widths) {
-    row.VisitLengths([&](std::int16_t column, std::size_t length) {
+    row.VisitLengths([&](ColumnId column, std::size_t length) {
         std::int32_t& width = widths[column];
         if (static_cast<std::size_t>(width) < length) width = static_cast<std::int32_t>(length);
     });
 }
 
 /// Writes a cell and raises the entry of its column: what `SetMaxLen` does, for one cell.
-inline void SetCell(Row& row, std::int16_t column, TextRef ref, Widths& widths) {
+inline void SetCell(Row& row, ColumnId column, TextRef ref, Widths& widths) {
     const auto length = static_cast<std::int32_t>(row.Write(column, ref));
     std::int32_t& width = widths[column];
     if (width < length) width = length;
@@ -46,9 +60,9 @@ inline void SetCell(Row& row, std::int16_t column, TextRef ref, Widths& widths) 
 class Positions {
   public:
     struct OfTable {
-        /// Position to column index, and column index to position.
-        PerColumn<std::int16_t> iColAtPos{kNoColumn};
-        PerColumn<std::int16_t> iPosOfCol{kNoColumn};
+        /// The column at each position, and the position of each column.
+        PerPosition<ColumnId> iColAtPos;
+        PerColumn<std::int16_t> iPosOfCol;
     };
 
     /// Refreshes everything from the present arrangement of the columns. A column of `lvwOut` with an unknown
@@ -58,16 +72,12 @@ class Positions {
     const OfTable& Of(const Table& table) const { return byTable_.at(&table); }
     /// Position of the column `Number` of `lvwOut`: the columns before it form the groups.
     std::int16_t iPosNumber = 0;
-    /// By position of `lvwOut`: the column index of `lvwIn` or `lvwOut` of a text column that can form the
-    /// group key, negative for a year column, -999 for `Number` or no column.
-    PerColumn<std::int16_t> iKeyColIn{kNoColumn};
-    PerColumn<std::int16_t> iKeyColOut{kNoColumn};
-    /// Position of the `lvwOut` column of a key.
-    std::int16_t OutPosition(TextView key) const;
+    /// By position of `lvwOut`: the column of `lvwIn` or `lvwOut` whose text can form the group key there;
+    /// none for a year, for `Number` and for no column.
+    PerPosition<ColumnId> iKeyColIn, iKeyColOut;
 
   private:
     std::map<const Table*, OfTable> byTable_;
-    std::map<Text, std::int16_t, std::less<>> outPositions_;
 };
 
 }  // namespace swiftroll

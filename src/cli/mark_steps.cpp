@@ -44,7 +44,7 @@ MarkSteps::Selection MarkSteps::SelectionOf(const frmMain& main, const MarkStep&
             std::find_if(columns.begin(), columns.end(), [&](const Column& c) { return c.Key == key; });
         if (column == columns.end()) throw UsageError("colonne inconnue : " + step.value);
         selection.sMode = mode.sMode;
-        selection.column = static_cast<std::int16_t>(column->Index - 1);
+        selection.column = column->Index;
         return selection;
     }
     throw UsageError("mode inconnu : " + step.value);

@@ -22,7 +22,7 @@ class MarkSteps {
         bool bSelect;
         TextView sMode;
         /// Column of the values that are compared, from 0.
-        std::int16_t column = 0;
+        ColumnId column = In::ID;
     };
     static Selection SelectionOf(const frmMain& main, const MarkStep& step);
 

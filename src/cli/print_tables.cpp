@@ -65,7 +65,7 @@ class Printer {
 void PrintTable(Printer& printer, Table& table, bool withKeys) {
     if (withKeys) printer.Raw("Key\tTag\tMarques\t");
     for (const Column& column : table.Columns()) {
-        if (column.Index > 1) printer.Raw("\t");
+        if (column.Index.Section() > 0) printer.Raw("\t");
         printer.Cell(column.Key);
     }
     printer.EndLine();
@@ -78,9 +78,9 @@ void PrintTable(Printer& printer, Table& table, bool withKeys) {
             printer.Raw(row.Selected() ? "\tS" : "\t");
             printer.Raw(row.Checked() ? "C\t" : "\t");
         }
-        for (std::int16_t column = 1; column <= table.ColumnCount(); ++column) {
-            if (column > 1) printer.Raw("\t");
-            printer.Cell(row.Cell(column));
+        for (int section = 0; section < table.ColumnCount(); ++section) {
+            if (section > 0) printer.Raw("\t");
+            printer.Cell(row.Cell(ColumnId::OfSection(section)));
         }
         printer.EndLine();
     }

@@ -1,6 +1,6 @@
 #include "drawing/kinship_document.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 

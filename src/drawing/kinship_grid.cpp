@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "kinship/kinship_codes.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 

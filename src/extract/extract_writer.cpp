@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/failure.h"
 #include "text/literal.h"

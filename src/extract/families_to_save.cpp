@@ -4,7 +4,7 @@
 #include <numeric>
 #include <utility>
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::modSaveGed {
 namespace {

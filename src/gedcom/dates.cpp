@@ -38,18 +38,21 @@ Years GetYears(TextView sDate) {
     return years;
 }
 
-TextView TakeDateMin(TextView sBirth, TextView sDeath, TextView sMarr) {
-    constexpr TextView kLater = "99999";
-    TextView smallest = kLater;
-    for (const TextView year : {sBirth, sDeath, sMarr}) {
-        if (!year.empty() && IsLess(year, smallest)) smallest = year;
+std::size_t TakeDateMin(const EventYears& years) {
+    std::size_t smallest = 0;
+    for (std::size_t i = 1; i < years.size(); ++i) {
+        if (years[i].empty()) continue;
+        if (years[smallest].empty() || IsLess(years[i], years[smallest])) smallest = i;
     }
-    return smallest.data() == kLater.data() ? TextView() : smallest;
+    return smallest;
 }
 
-TextView TakeDateMax(TextView sBirth, TextView sDeath, TextView sMarr) {
-    const TextView later = IsLess(sBirth, sDeath) ? sDeath : sBirth;
-    return IsLess(later, sMarr) ? sMarr : later;
+std::size_t TakeDateMax(const EventYears& years) {
+    std::size_t largest = 0;
+    for (std::size_t i = 1; i < years.size(); ++i) {
+        if (IsLess(years[largest], years[i])) largest = i;
+    }
+    return largest;
 }
 
 }  // namespace swiftroll::modReadGedcom

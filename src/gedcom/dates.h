@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "text/text.h"
@@ -19,8 +20,11 @@ struct Years {
 /// mean nothing, so that ranges and dual dates give their extremes.
 Years GetYears(TextView sDate);
 
-/// The smallest or the largest of the non-empty years, compared as texts; empty when all are.
-TextView TakeDateMin(TextView sBirth, TextView sDeath, TextView sMarr);
-TextView TakeDateMax(TextView sBirth, TextView sDeath, TextView sMarr);
+/// The years of birth, death and marriage.
+using EventYears = std::array<TextView, 3>;
+/// The place of the smallest or of the largest of the non-empty years, compared as texts; that of the birth
+/// when all are empty.
+std::size_t TakeDateMin(const EventYears& years);
+std::size_t TakeDateMax(const EventYears& years);
 
 }  // namespace swiftroll::modReadGedcom

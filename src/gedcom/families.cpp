@@ -1,6 +1,6 @@
 #include "gedcom/families.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -201,8 +201,8 @@ void CopyFamilyXref2Xref(Application& app, Links& links) {
     app.trail.GuardElse(
         "CopyFamilyXref2Xref",
         [&] {
-            app.lvwFamily.SortBy(0, 0);
-            app.lvwFamilyXref.SortBy(0, 0);
+            app.lvwFamily.SortBy(Family::IDFam, 0);
+            app.lvwFamilyXref.SortBy(FamilyXref::IDFam, 0);
             app.lvwXref.SetSorted(false);
             phase = "FillLvwFamily";
             copier.FillLvwFamily();

@@ -1,6 +1,6 @@
 #include "gedcom/islands.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -68,7 +68,7 @@ void CalcIslands(Application& app, const XrefRanges& colXrefRange) {
     app.trail.Guard(
         "CalcIslands",
         [&] {
-            app.lvwXref.SortBy(0, 0);
+            app.lvwXref.SortBy(Xref::IDIndi1, 0);
             LinkGraph graph(app, colXrefRange);
             const std::int32_t count = app.lvwIn.Count();
             std::vector<std::int32_t> islandOf(static_cast<std::size_t>(count));

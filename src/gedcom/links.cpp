@@ -1,7 +1,7 @@
 #include "gedcom/links.h"
 
 #include "gedcom/dates.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -16,7 +16,7 @@ constexpr std::int32_t kLookAhead = 16;
 Row RowOf(Table& table, RowKey key, TextRef text, Widths& widths) {
     const std::int32_t before = table.Count();
     Row row = table.FindOrAdd(key, text);
-    if (table.Count() != before) SetCell(row, 1, text, widths);
+    if (table.Count() != before) SetCell(row, ColumnId::OfSection(0), text, widths);
     return row;
 }
 
@@ -103,7 +103,7 @@ void Links::AddXrefXRef(TextRef sId1, TextRef sType, TextRef sId2, TextRef sName
         });
 }
 
-XrefRanges CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol) {
+XrefRanges CalcXrefIds(Application& app, Table& table, ColumnId iSortCol) {
     XrefRanges ranges;
     TextRef sId;
     std::int32_t lFirst = 0, i = 0;
@@ -115,10 +115,10 @@ XrefRanges CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol) {
             table.SortBy(iSortCol, 0);
             if (count == 0) return;
             lFirst = 1;
-            sId = table.Item(1).Ref(1);
+            sId = table.Item(1).Ref(iSortCol);
             for (i = 2; i <= count; ++i) {
                 table.Prefetch(i + kLookAhead);
-                const TextRef id = table.Item(i).Ref(1);
+                const TextRef id = table.Item(i).Ref(iSortCol);
                 if (id == sId) continue;
                 app.ProgressBar1.Show(i, count);
                 ranges.Set(sId, {lFirst, i - 1});

@@ -13,7 +13,7 @@ struct RowRange {
     std::int32_t last = 0;
 };
 
-/// `colXrefRange`: the rows of each identifier in the first column of a sorted link table. Identifiers are
+/// `colXrefRange`: the rows of each identifier in the column that a link table is sorted by. Identifiers are
 /// told apart exactly, as everywhere in the tables.
 class XrefRanges {
   public:
@@ -62,8 +62,8 @@ class Links {
     LinkWords words_;
 };
 
-/// Sorts a link table by the column numbered `iSortCol` from 0 and gives the range of rows of each
-/// identifier; after a failure, which is reported, as far as it got.
-XrefRanges CalcXrefIds(Application& app, Table& table, std::int16_t iSortCol);
+/// Sorts a link table by the column `iSortCol` and gives the range of rows of each identifier in it; after a
+/// failure, which is reported, as far as it got.
+XrefRanges CalcXrefIds(Application& app, Table& table, ColumnId iSortCol);
 
 }  // namespace swiftroll::modReadGedcom

@@ -3,7 +3,7 @@
 #include <boost/unordered/unordered_flat_map.hpp>
 
 #include "gedcom/dates.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 
@@ -78,24 +78,20 @@ void SetInDates(Application& app) {
                 if (isNew) known->second = store.Intern(formatter.Take1Place(store.Get(place)));
                 return known->second;
             };
-            // The cell of an event whose year was taken.
-            const auto cellOf = [](const Row& row, TextView year,
-                                   std::initializer_list<std::int16_t> columns) {
-                for (const std::int16_t column : columns) {
-                    if (row.Cell(column).data() == year.data()) return row.Ref(column);
-                }
-                return TextRef();
+            using EventColumns = std::array<In::Columns, 3>;
+            constexpr EventColumns kMin = {In::BirthMin, In::DeathMin, In::MarrMin};
+            constexpr EventColumns kMax = {In::BirthMax, In::DeathMax, In::MarrMax};
+            const auto take = [](const Row& row, const EventColumns& columns,
+                                 std::size_t (*choose)(const EventYears&)) {
+                const EventYears years = {row.Cell(columns[0]), row.Cell(columns[1]), row.Cell(columns[2])};
+                return row.Ref(columns[choose(years)]);
             };
             const Pause pause = [&app] { app.ports.status.StatusChanged(); };
             for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {
                 PauseAt(static_cast<std::size_t>(i), pause);
                 Row row = app.lvwIn.Item(i);
-                const TextView dateMin =
-                    TakeDateMin(row.Cell(In::BirthMin), row.Cell(In::DeathMin), row.Cell(In::MarrMin));
-                const TextView dateMax =
-                    TakeDateMax(row.Cell(In::BirthMax), row.Cell(In::DeathMax), row.Cell(In::MarrMax));
-                row.SetCell(In::DateMin, cellOf(row, dateMin, {In::BirthMin, In::DeathMin, In::MarrMin}));
-                row.SetCell(In::DateMax, cellOf(row, dateMax, {In::BirthMax, In::DeathMax, In::MarrMax}));
+                row.SetCell(In::DateMin, take(row, kMin, TakeDateMin));
+                row.SetCell(In::DateMax, take(row, kMax, TakeDateMax));
                 row.SetCell(In::Place, takePlace(row));
                 SetMaxLen(row, app.lMaxLenIn);
             }

@@ -6,7 +6,7 @@
 
 #include "gedcom/places.h"
 #include "gedcom/tag.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"

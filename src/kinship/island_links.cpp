@@ -1,6 +1,6 @@
 #include "kinship/island_links.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "tables/text_copier.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -42,7 +42,8 @@ bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
                 // The user may have sorted the links. When they are sorted back, those of one person may
                 // stand in another order, but no person stands elsewhere: that is why the pause is between
                 // two.
-                if (!links.Sorted() || links.SortKey() != 0 || links.SortOrder() != 0) links.SortBy(0, 0);
+                if (!links.Sorted() || links.SortKey() != Xref::IDIndi1 || links.SortOrder() != 0)
+                    links.SortBy(Xref::IDIndi1, 0);
             }
             const auto person = app.lvwIn.Find(RowKey(id));
             isInIsland = person && person->Cell(In::IslandNr) == sIslandNr;
@@ -65,7 +66,7 @@ bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
 
 IslandGraph::IslandGraph(Application& app) : app_(app) {
     Table& links = app.lvwXref1;
-    links.SortBy(0, 0);
+    links.SortBy(Xref1::Indi1, 0);
     nodeOfSymbol_.assign(links.Store().InternedCount(), kNobody);
     std::vector<std::int32_t> firstLinks, targets;
     // Every identifier in the first column has a row in lvwIn, or it would not have been copied.

@@ -1,7 +1,7 @@
 #include "kinship/kinship_codes.h"
 
 #include "kinship/relations.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 
 namespace swiftroll::modKinship {

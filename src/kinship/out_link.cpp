@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "kinship/relations.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 
@@ -102,7 +102,7 @@ bool PathWriter::IsHidden() const {
            exceeds(app_.chkMaxLinks, app_.txtMaxLinks, lines_.size());
 }
 
-void PathWriter::Widen(std::int16_t column, std::size_t length) {
+void PathWriter::Widen(ColumnId column, std::size_t length) {
     std::int32_t& width = app_.lMaxLenKinship[column];
     width = std::max(width, static_cast<std::int32_t>(length));
 }

@@ -38,7 +38,7 @@ class PathWriter {
     TextRef LineNumber(std::size_t lSeqNr);
     void Compose(std::span<const std::int32_t> links);
     bool IsHidden() const;
-    void Widen(std::int16_t column, std::size_t length);
+    void Widen(ColumnId column, std::size_t length);
 
     Application& app_;
     const IslandGraph& island_;

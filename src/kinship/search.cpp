@@ -5,7 +5,7 @@
 #include "kinship/out_link.h"
 #include "kinship/path_walk.h"
 #include "kinship/remove_islands.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -120,7 +120,7 @@ void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lT
         "FindKinship",
         [&] {
             step = "Sort";
-            app_.lvwXref.SortBy(0, 0);
+            app_.lvwXref.SortBy(Xref::IDIndi1, 0);
             app_.bAbort = false;
             // While the search yields, the rows may move and the texts of the cells go.
             const Text island(sIslandNr), from(app_.lvwIn.Item(lFrom).Text()),
@@ -163,8 +163,8 @@ void Search::Walk(TextView sFromId, TextView sToId, const char*& step) {
 void Search::SortPaths() {
     app_.lvwXref.SetSorted(false);
     // Each sort keeps the earlier order of equal rows.
-    for (const std::int16_t column : {Kinship::SeqNr, Kinship::NrLink, Kinship::NrSpouses}) {
-        app_.lvwKinship.SortBy(static_cast<std::int16_t>(column - 1), 0);
+    for (const auto column : {Kinship::SeqNr, Kinship::NrLink, Kinship::NrSpouses}) {
+        app_.lvwKinship.SortBy(column, 0);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "list/format_row.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -44,7 +44,7 @@ Text RowFormatter::Format(bool bTabs, const CellOf& cellOf) const {
         [&] {
             Text sRowText;
             for (; position <= lastPosition_; ++position) {
-                const std::int16_t index = app_.positions.Of(table_).iColAtPos[position];
+                const ColumnId index = app_.positions.Of(table_).iColAtPos[position];
                 const Column& column = table_.ColumnAt(index);
                 if (!column.IsOn()) continue;
                 const auto width = static_cast<std::size_t>(lActiveMaxLen_[index]);

@@ -10,18 +10,18 @@ namespace {
 
 constexpr std::size_t kNumberWidth = 30;
 
-void WriteSortKey(const Positions& positions, const PerColumn<std::int16_t>& keyColumns, const Row& row,
+void WriteSortKey(const Positions& positions, const PerPosition<ColumnId>& keyColumns, const Row& row,
                   Text& sKey) {
     sKey.clear();
     for (std::int16_t position = 1; position <= positions.iPosNumber; ++position) {
-        const std::int16_t column = keyColumns[position];
-        if (column < 0) continue;
+        const ColumnId column = keyColumns[position];
+        if (!column) continue;
         sKey += '\\';
         AppendComparisonForm(sKey, row.Cell(column));
     }
 }
 
-Text FormOf(const Application& app, SortMode iMode, const Row& row, std::int16_t column) {
+Text FormOf(const Application& app, SortMode iMode, const Row& row, ColumnId column) {
     switch (iMode) {
         case SortMode::Number:
             return AlignRight(row.Cell(column), kNumberWidth);
@@ -73,7 +73,7 @@ void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
     const bool wasSorted = table.Sorted();
     const bool toggles = iMode != SortMode::GroupKey;
     const bool descending = toggles && wasSorted && table.SortOrder() != 1;
-    table.SortByForms(forms, static_cast<std::int16_t>(toggles ? column.Index - 1 : 0), descending ? 1 : 0);
+    table.SortByForms(forms, toggles ? column.Index : ColumnId(In::ID), descending ? 1 : 0);
     if (toggles) SetColumnIcon(table, column, true);
 }
 
@@ -92,10 +92,8 @@ void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftI
         "lvw_ColumnClick",
         [&] {
             if (!shiftIsDown) {
-                const TextView key = column.Key;
-                const bool numeric = key.ends_with("Max") || key.ends_with("Min") || key.starts_with("Num") ||
-                                     key.starts_with("ID");
-                SortTable(app, numeric ? SortMode::Number : SortMode::Folded, table, column);
+                const bool isText = column.Facts->kind == CellKind::Words;
+                SortTable(app, isText ? SortMode::Folded : SortMode::Number, table, column);
                 return;
             }
             if (&table == &app.lvwOut) return;

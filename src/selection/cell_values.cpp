@@ -2,7 +2,7 @@
 
 #include "list/sort_keys.h"
 #include "selection/row_lists.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::modSelectionIn {
 namespace {
@@ -11,13 +11,12 @@ constexpr std::size_t kPathNumberLength = 6;
 
 }  // namespace
 
-void CellValues::ReadColumn(const OptionRecord& options, Table& table, std::int16_t iCol) {
+void CellValues::ReadColumn(const OptionRecord& options, Table& table, ColumnId column) {
     std::vector<std::optional<TextRef>> known(table.Store().InternedCount() + 1);
     const auto formOf = [&](TextView text) {
         return store.Intern(modCalcOut::KeepAlphaNum(options, text, false));
     };
     values.reserve(static_cast<std::size_t>(table.Count()));
-    const auto column = static_cast<std::int16_t>(iCol + 1);
     TextRef previous;
     for (std::int32_t i = 1; i <= table.Count(); ++i) {
         const Row row = table.Item(i);

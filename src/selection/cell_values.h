@@ -9,9 +9,9 @@ struct CellValues {
     TextStore store;
     std::vector<TextRef> values;
 
-    /// The cells of a column, by its `SubItems` number, in the form that the options ask for.
+    /// The cells of a column in the form that the options ask for.
     /// @throws Failure IndexOutOfRange
-    void ReadColumn(const OptionRecord& options, Table& table, std::int16_t iCol);
+    void ReadColumn(const OptionRecord& options, Table& table, ColumnId column);
     /// The numbers of the paths that the rows of `lvwKinship` belong to.
     void ReadPathNumbers(Table& lvwKinship);
 };

@@ -15,7 +15,7 @@ struct LinkMode {
     TextView sMode;
     /// The kind of cell that it is for; empty for any.
     TextView sIdKind;
-    std::int16_t SelectionContext::*column;
+    ColumnId SelectionContext::*column;
     void (Relatives::*mark)(TextRef id);
 };
 
@@ -76,8 +76,9 @@ void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
         },
         [&] {
             return Concat({table->Name(), "/", bSelect ? "-1" : "0", "/", sMode, "/", context.sIdKind, "/",
-                           Decimal(context.iClickedCol), "/", Decimal(context.iIndiCol), "/",
-                           Decimal(context.iFamCol), "/", relatives.Individual(), "/", relatives.FamilyId()});
+                           Decimal(context.iClickedCol.Section()), "/", Decimal(context.iIndiCol.Section()),
+                           "/", Decimal(context.iFamCol.Section()), "/", relatives.Individual(), "/",
+                           relatives.FamilyId()});
         });
     app_.bWaitCursor = false;
 }
@@ -133,8 +134,8 @@ void Engine::SelectIn(TextView sId, bool bSelect) {
     if (!sId.empty()) Marker(app_.lvwIn, bSelect).Mark(app_.lvwIn.Item(sId));
 }
 
-Text Engine::GetCell(const Row& row, std::int16_t iCol, bool bRaw) const {
-    const TextView cell = row.Cell(static_cast<std::int16_t>(iCol + 1));
+Text Engine::GetCell(const Row& row, ColumnId column, bool bRaw) const {
+    const TextView cell = row.Cell(column);
     return bRaw ? Text(cell) : modCalcOut::KeepAlphaNum(app_, cell, false);
 }
 

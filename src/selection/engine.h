@@ -33,9 +33,9 @@ class Engine {
     /// @throws Failure KeyNotFound
     void SelectIn(TextView sId, bool bSelect);
 
-    /// The cell of a column by its `SubItems` number, 0 for `Text`; unless `bRaw`, in the form in which
-    /// values are compared under `chkIgnoreCase` and `chkDelAccents`. @throws Failure IndexOutOfRange
-    Text GetCell(const Row& row, std::int16_t iCol, bool bRaw) const;
+    /// The cell of a column; unless `bRaw`, in the form in which values are compared under `chkIgnoreCase`
+    /// and `chkDelAccents`. @throws Failure IndexOutOfRange
+    Text GetCell(const Row& row, ColumnId column, bool bRaw) const;
 
   private:
     void FollowLinks(Relatives& relatives, Table& table, TextView sMode);

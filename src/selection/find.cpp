@@ -17,14 +17,14 @@ bool FindCondition::Holds(TextView sCell) const {
     return !sCell.empty() && sCell.find(text) != TextView::npos;
 }
 
-void FindState::FindNext(Application& app, Table& table, std::int16_t iFirstCol) {
+void FindState::FindNext(Application& app, Table& table, ColumnId iFirstCol) {
     const auto formOf = [&](TextView text) { return modCalcOut::KeepAlphaNum(app, text, false); };
     const FindCondition wanted1{formOf(first.text), first.match}, wanted2{formOf(second.text), second.match};
     if (lFindNext == 0) lFindNext = 1;
     for (std::int32_t i = lFindNext; i <= table.Count(); ++i) {
         Row row = table.Item(i);
-        const auto holds = [&](const FindCondition& wanted, std::int16_t iCol) {
-            return wanted.Holds(formOf(row.SubItems(iCol)));
+        const auto holds = [&](const FindCondition& wanted, ColumnId iCol) {
+            return wanted.Holds(formOf(row.Cell(iCol)));
         };
         if (!holds(wanted1, iFirstCol)) continue;
         if (!wanted2.text.empty() && !holds(wanted2, iSecondCol)) continue;

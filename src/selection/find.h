@@ -18,8 +18,8 @@ struct FindCondition {
 /// The search for rows by the text of one column, or two: its conditions, and where it has come to.
 struct FindState {
     FindCondition first, second;
-    /// The column of the second condition by its `SubItems` number; that of the first is the clicked one.
-    std::int16_t iSecondCol = 0;
+    /// The column of the second condition; that of the first is the clicked one.
+    ColumnId iSecondCol = ColumnId::OfSection(0);
     /// Index of the row at which the next search begins; 0 before the first.
     std::int32_t lFindNext = 0;
 
@@ -27,7 +27,7 @@ struct FindState {
     /// condition, and the second column that of the second unless it is empty. The row gets `Selected` and is
     /// scrolled into view, and the next search begins behind it; without one nothing changes. The message
     /// line tells which. @throws Failure IndexOutOfRange for a column that the table lacks
-    void FindNext(Application& app, Table& table, std::int16_t iFirstCol);
+    void FindNext(Application& app, Table& table, ColumnId iFirstCol);
 };
 
 }  // namespace swiftroll::modSelectionIn

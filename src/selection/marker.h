@@ -37,9 +37,9 @@ class Marker {
 /// compared and looked up without a text.
 class IdColumn {
   public:
-    /// `iCol` is a `SubItems` number; a wrong one fails when a cell is read.
-    IdColumn(Table& table, std::int16_t iCol, TextStore& store)
-        : column_(static_cast<std::int16_t>(iCol + 1)), store_(store), isShared_(&table.Store() == &store) {}
+    /// A column that the table does not have fails when a cell is read.
+    IdColumn(Table& table, ColumnId column, TextStore& store)
+        : column_(column), store_(store), isShared_(&table.Store() == &store) {}
 
     /// The identifier in a row of the table. @throws Failure IndexOutOfRange
     TextRef Of(const Row& row) const {
@@ -48,7 +48,7 @@ class IdColumn {
     }
 
   private:
-    std::int16_t column_;
+    ColumnId column_;
     TextStore& store_;
     bool isShared_;
 };

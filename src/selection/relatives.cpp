@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/literal.h"
 
 namespace swiftroll::modSelectionIn {
@@ -14,9 +14,8 @@ bool IsChild(TextView sType) { return sType == "Fils"_t || sType == "Fille"_t ||
 class SpouseColumns {
   public:
     SpouseColumns(Table& lvwFamily, TextStore& store)
-        : columns_{IdColumn(lvwFamily, Family::IDHusb - 1, store),
-                   IdColumn(lvwFamily, Family::IDWife - 1, store),
-                   IdColumn(lvwFamily, Family::IDFams - 1, store)} {}
+        : columns_{IdColumn(lvwFamily, Family::IDHusb, store), IdColumn(lvwFamily, Family::IDWife, store),
+                   IdColumn(lvwFamily, Family::IDFams, store)} {}
     std::array<TextRef, 3> Of(const Row& family) const {
         return {columns_[0].Of(family), columns_[1].Of(family), columns_[2].Of(family)};
     }
@@ -45,10 +44,10 @@ const RowLists& Relatives::FamilyRows() {
     return families_.emplace(entries);
 }
 
-const RowLists& Relatives::ChildRows(std::optional<RowLists>& lists, std::int16_t column) {
+const RowLists& Relatives::ChildRows(std::optional<RowLists>& lists, ColumnId column) {
     if (lists) return *lists;
     Table& lvwFamilyXref = app_.lvwFamilyXref;
-    const IdColumn ids(lvwFamilyXref, static_cast<std::int16_t>(column - 1), store_);
+    const IdColumn ids(lvwFamilyXref, column, store_);
     std::vector<RowLists::Entry> entries;
     for (std::int32_t i = 1; i <= lvwFamilyXref.Count(); ++i) {
         const Row row = lvwFamilyXref.Item(i);
@@ -66,7 +65,7 @@ void Relatives::MarkParents(TextRef sIndi) {
     sIndi_ = sIndi;
     const auto origins = ChildRows(origins_, FamilyXref::IDIndi).Of(ListOf(sIndi));
     if (origins.empty()) return;
-    const IdColumn families(app_.lvwFamilyXref, FamilyXref::IDFam - 1, store_);
+    const IdColumn families(app_.lvwFamilyXref, FamilyXref::IDFam, store_);
     MarkFamilySpouses(families.Of(app_.lvwFamilyXref.Item(origins.front())));
 }
 
@@ -82,7 +81,7 @@ void Relatives::MarkSpouses(TextRef sIndi) {
 
 void Relatives::MarkChildren(TextRef sIndi) {
     sIndi_ = sIndi;
-    const IdColumn families(app_.lvwFamily, Family::IDFam - 1, store_);
+    const IdColumn families(app_.lvwFamily, Family::IDFam, store_);
     for (const std::int32_t row : FamilyRows().Of(ListOf(sIndi))) {
         MarkFamilyChildren(families.Of(app_.lvwFamily.Item(row)));
     }
@@ -97,7 +96,7 @@ void Relatives::MarkFamilySpouses(TextRef sFam) {
 
 void Relatives::MarkFamilyChildren(TextRef sFam) {
     sFam_ = sFam;
-    const IdColumn individuals(app_.lvwFamilyXref, FamilyXref::IDIndi - 1, store_);
+    const IdColumn individuals(app_.lvwFamilyXref, FamilyXref::IDIndi, store_);
     for (const std::int32_t row : ChildRows(children_, FamilyXref::IDFam).Of(ListOf(sFam))) {
         marker_.SelectIn(individuals.Of(app_.lvwFamilyXref.Item(row)));
     }

@@ -38,7 +38,7 @@ class Relatives {
     /// The rows of lvwFamily in which an individual is a spouse.
     const RowLists& FamilyRows();
     /// The rows of lvwFamilyXref that name children, by child and by family.
-    const RowLists& ChildRows(std::optional<RowLists>& lists, std::int16_t column);
+    const RowLists& ChildRows(std::optional<RowLists>& lists, ColumnId column);
 
     Application& app_;
     Marker marker_;

@@ -8,23 +8,26 @@ namespace {
 /// What the last row of each path ends with, which names nobody.
 constexpr TextView kEndOfPath = "999999";
 
-std::vector<std::int16_t> OtherSpouses(std::int16_t iClickedCol) {
-    std::vector<std::int16_t> columns{1, 2, 3};
+std::vector<ColumnId> OtherSpouses(ColumnId iClickedCol) {
+    std::vector<ColumnId> columns{Family::IDHusb, Family::IDWife, Family::IDFams};
     std::erase(columns, iClickedCol);
     return columns;
 }
 
 }  // namespace
 
-Way WayOf(const TableSet& tables, const Table& table, std::int16_t iClickedCol) {
+Way WayOf(const TableSet& tables, const Table& table, ColumnId iClickedCol) {
     using Kind = Way::Kind;
-    const bool isFirst = iClickedCol == 0;
-    if (&table == &tables.lvwIn) return {Kind::Identifier, {0}};
+    if (&table == &tables.lvwIn) return {Kind::Identifier, {In::ID}};
     // From somebody to the other individual of his links.
-    if (&table == &tables.lvwXref) return {Kind::Identifier, {static_cast<std::int16_t>(isFirst ? 2 : 0)}};
+    if (&table == &tables.lvwXref) {
+        return {Kind::Identifier, {iClickedCol == Xref::IDIndi1 ? Xref::IDIndi2 : Xref::IDIndi1}};
+    }
     if (&table == &tables.lvwFamily) return {Kind::Identifier, OtherSpouses(iClickedCol)};
-    if (&table == &tables.lvwFamilyXref) return {Kind::Identifier, {2}};
-    if (&table == &tables.lvwKinship) return {isFirst ? Kind::PathNumber : Kind::Identifier, {1}};
+    if (&table == &tables.lvwFamilyXref) return {Kind::Identifier, {FamilyXref::IDIndi}};
+    if (&table == &tables.lvwKinship) {
+        return {iClickedCol == Kinship::SeqNr ? Kind::PathNumber : Kind::Identifier, {Kinship::IDIndi}};
+    }
     if (&table == &tables.lvwOut) return {Kind::GroupKey, {}};
     return {};
 }
@@ -33,7 +36,7 @@ ValueTargets::ValueTargets(Application& app, Table& table, const Way& way, Marke
     : app_(app), marker_(marker), kind_(way.kind) {
     // Growing would hash every key again.
     if (kind_ == Way::Kind::GroupKey) groups_.reserve(static_cast<std::size_t>(table.Count()));
-    for (const std::int16_t column : way.idColumns) {
+    for (const ColumnId column : way.idColumns) {
         idColumns_.emplace_back(table, column, app.lvwIn.Store());
     }
 }

@@ -12,12 +12,12 @@ namespace swiftroll::modSelectionIn {
 struct Way {
     enum class Kind { None, Identifier, PathNumber, GroupKey };
     Kind kind = Kind::None;
-    /// The `SubItems` numbers of the columns whose identifiers are taken.
-    std::vector<std::int16_t> idColumns;
+    /// The columns whose identifiers are taken.
+    std::vector<ColumnId> idColumns;
 };
 
 /// The way of a clicked column; none for a table that is not shown.
-Way WayOf(const TableSet& tables, const Table& table, std::int16_t iClickedCol);
+Way WayOf(const TableSet& tables, const Table& table, ColumnId iClickedCol);
 
 /// Marks the individuals that the matching rows of a table lead to.
 class ValueTargets {

@@ -12,12 +12,13 @@ constexpr TextView kPosition = "\\Position", kWidth = "\\Width", kIcon = "\\Icon
 constexpr TextView kByIndex = "*";
 
 Text NameOf(const Column& column) {
-    return column.Key.empty() ? Concat({kByIndex, Decimal(column.Index)}) : column.Key;
+    return column.Key.empty() ? Concat({kByIndex, Decimal(column.Index.Index())}) : column.Key;
 }
 
 /// @throws Failure when the table has no such column
 Column& ColumnNamed(Table& lvw, TextView name) {
-    if (name.starts_with(kByIndex)) return lvw.ColumnAt(ToInteger(name.substr(kByIndex.size())));
+    if (name.starts_with(kByIndex))
+        return lvw.ColumnAt(ColumnId::OfIndex(ToInteger(name.substr(kByIndex.size()))));
     Column* column = lvw.FindColumn(name);
     if (column == nullptr) throw Failure(FailureKind::KeyNotFound, name);
     return *column;

@@ -32,6 +32,8 @@ FindCondition ConditionOf(const ComboBox& text, const OptionButton& whole, const
                                             : Match::Anywhere};
 }
 
+ColumnId ChosenIn(const ComboBox& columns) { return ColumnId::OfSection(columns.ListIndex()); }
+
 }  // namespace
 
 frmFind::frmFind(Application& app, modSelectionIn::Engine& engine)
@@ -76,32 +78,33 @@ void frmFind::Activate() {
             if (app_.chkDelAccents.Checked()) lblFind.Caption += app_.chkDelAccents.Caption;
             const Table& table = app_.lvwActiveListView == nullptr ? app_.lvwIn : *app_.lvwActiveListView;
             // The columns may be those of another table, which had more of them.
-            if (iFindCol2 >= table.ColumnCount()) iFindCol2 = 0;
-            const std::int16_t iFindCol1 = engine_.context.iClickedCol;
+            const auto isOf = [&](ColumnId column) { return column.Index() <= table.ColumnCount(); };
+            if (!isOf(iFindCol2)) iFindCol2 = ColumnId::OfSection(0);
+            const ColumnId iFindCol1 = engine_.context.iClickedCol;
             for (ComboBox& columns : cboColumns) columns.SetItems(Captions(table));
-            cboColumns[0].SetListIndex(iFindCol1 < table.ColumnCount() ? iFindCol1 : 0);
-            cboColumns[1].SetListIndex(iFindCol2);
+            cboColumns[0].SetListIndex(isOf(iFindCol1) ? iFindCol1.Section() : 0);
+            cboColumns[1].SetListIndex(iFindCol2.Section());
             SetFocus(cboTextToFind[0]);
         },
         [] { return Text(); });
 }
 
 void frmFind::cmdFindNext_Click() {
-    engine_.context.iClickedCol = static_cast<std::int16_t>(cboColumns[0].ListIndex());
-    iFindCol2 = static_cast<std::int16_t>(cboColumns[1].ListIndex());
+    engine_.context.iClickedCol = ChosenIn(cboColumns[0]);
+    iFindCol2 = ChosenIn(cboColumns[1]);
     Search("?1");
 }
 
 /// A right click since then has another column.
 void frmFind::FindNext() {
-    engine_.context.iClickedCol = static_cast<std::int16_t>(cboColumns[0].ListIndex());
+    engine_.context.iClickedCol = ChosenIn(cboColumns[0]);
     Search("?N");
 }
 
 void frmFind::Search(TextView sMode) {
     engine_.find.first = ConditionOf(cboTextToFind[0], optSearch[0], optSearch[1]);
     engine_.find.second = ConditionOf(cboTextToFind[1], optSearch[3], optSearch[4]);
-    engine_.find.iSecondCol = static_cast<std::int16_t>(cboColumns[1].ListIndex());
+    engine_.find.iSecondCol = ChosenIn(cboColumns[1]);
     engine_.Add_Remove_Selection(true, sMode);
 }
 

@@ -33,7 +33,7 @@ class frmFind : public Window {
 
     Application& app_;
     modSelectionIn::Engine& engine_;
-    std::int16_t iFindCol2 = 0;
+    ColumnId iFindCol2 = ColumnId::OfSection(0);
 };
 
 }  // namespace swiftroll

@@ -18,7 +18,7 @@ std::array<TextBox, kSelectionBoxes> Boxes(Window& window, std::index_sequence<i
 }
 
 Text Described(const Row& person) {
-    return Concat({person.Text(), " : ", person.SubItems(1), ", ", person.SubItems(2)});
+    return Concat({person.Text(), " : ", person.Cell(In::LastName), ", ", person.Cell(In::FirstName)});
 }
 
 }  // namespace

@@ -101,7 +101,8 @@ class frmMain : public Application, public ListCommands {
     /// -1 for none.
     void HitTest(std::int32_t lRow, std::int32_t lCol);
     /// What the last hit test told, or the row that `mnuNextSelected` went to since.
-    std::int32_t lHitRow = -1, lHitCol = -1;
+    std::int32_t lHitRow = -1;
+    ColumnId lHitCol;
 
     /// The context menu of the tables.
     Menu mnuContext;
@@ -111,7 +112,7 @@ class frmMain : public Application, public ListCommands {
     void ModifyContextMenu();
     /// Shows, or shows no more, which cells of the column the commands of the menu would work on. With them
     /// the clicked row becomes `Selected`, until the end if a command changed the marks meanwhile.
-    void MarkSubItems(std::int32_t iCol, bool bMark);
+    void MarkSubItems(ColumnId iCol, bool bMark);
     /// A key that was pressed in the active table. Its commands work on the cell of the last hit test, which
     /// is made anew for a key that opens the menu, and for no other.
     void lvw_KeyDown(const ListKey& key);

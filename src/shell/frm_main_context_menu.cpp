@@ -66,7 +66,7 @@ void frmMain::BindContextMenu() {
 
 void frmMain::HitTest(std::int32_t lRow, std::int32_t lCol) {
     lHitRow = lRow;
-    lHitCol = lCol;
+    lHitCol = ColumnId::OfSection(lCol);
 }
 
 void frmMain::lvw_MouseUp(MouseButton button) {
@@ -75,7 +75,7 @@ void frmMain::lvw_MouseUp(MouseButton button) {
         mnuColSelect.Enabled = mnuColUnselect.Enabled = &table != &lvwOut;
         mnuFindPath.Enabled = &table == &lvwIn && cmdFindPath.Enabled;
         mnuDrawKinship.Enabled = &table == &lvwKinship;
-        const std::int32_t iCol = lHitCol;
+        const ColumnId iCol = lHitCol;
         ModifyContextMenu();
         MarkSubItems(iCol, true);
         modSelectionIn.context.bRestoreClickedRow = true;
@@ -93,8 +93,8 @@ void frmMain::ModifyContextMenu() {
     const Table& table = *lvwActiveListView;
     modSelectionIn::SelectionContext& context = modSelectionIn.context;
     context.SetClickedCell(*this, table, lHitCol);
-    if (lHitCol >= 0) mnuColSelect.Enabled = mnuColUnselect.Enabled = &table != &lvwOut;
-    mnuDeselectCurrent.Enabled = lHitCol >= 0;
+    if (lHitCol) mnuColSelect.Enabled = mnuColUnselect.Enabled = &table != &lvwOut;
+    mnuDeselectCurrent.Enabled = static_cast<bool>(lHitCol);
     mnuAddFavorite.Enabled = lHitRow >= 0;
     mnuFind.Enabled = mnuFindNext.Enabled = true;
     const bool isIndividual = context.sIdKind == "I";
@@ -105,7 +105,7 @@ void frmMain::ModifyContextMenu() {
     for (Command* command : {&mnuAddSpouses, &mnuAddChildren, &mnuRemoveSpouses, &mnuRemoveChildren}) {
         command->Enabled = isPerson;
     }
-    const Text& header = table.ColumnAt(static_cast<std::int16_t>(context.iClickedCol + 1)).Caption;
+    const Text& header = table.ColumnAt(context.iClickedCol).Caption;
     for (std::size_t i = 0; i < mnuAddValue.size(); ++i) {
         for (Command* value : {&mnuAddValue[i], &mnuRemoveValue[i]}) {
             value->Caption = Concat({header, kComparisons[i]});
@@ -114,10 +114,10 @@ void frmMain::ModifyContextMenu() {
     }
 }
 
-void frmMain::MarkSubItems(std::int32_t iCol, bool bMark) {
+void frmMain::MarkSubItems(ColumnId iCol, bool bMark) {
     if (bMark) {
         const bool formsNoGroups =
-            lvwActiveListView == &lvwOut && (iCol < 0 || !modSelectionIn::FormsGroups(*this, iCol));
+            lvwActiveListView == &lvwOut && (!iCol || !modSelectionIn::FormsGroups(*this, iCol));
         clicked_ = {formsNoGroups ? nullptr : lvwActiveListView, lHitRow};
     }
     // A command of the menu may have gone to another table, but what was marked must be restored.
@@ -133,7 +133,8 @@ void frmMain::MarkSubItems(std::int32_t iCol, bool bMark) {
         }
     }
     table->SetPaintedColumn(std::nullopt);
-    if (bMark && iCol >= 0) table->SetPaintedColumn(static_cast<std::int16_t>(iCol == 0 ? 0 : iCol + 1));
+    // The first column stands for the whole row.
+    if (bMark && iCol) table->SetPaintedColumn(iCol.Section() == 0 ? ColumnId() : iCol);
 }
 
 void frmMain::lvw_KeyDown(const ListKey& key) {

@@ -2,7 +2,7 @@
 #include "drawing/kinship_page.h"
 #include "drawing/kinship_print.h"
 #include "shell/frm_main.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 
@@ -67,8 +67,8 @@ void frmMain::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
 void frmMain::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll) {
     constexpr TextView kFirstLine = "000001";
     constexpr int kFirst = 1, kFurther = 2, kLast = 9;
-    const std::int16_t previousSortKey = lvwKinship.SortKey();
-    lvwKinship.SortBy(0, 0);
+    const ColumnId previousSortKey = lvwKinship.SortKey();
+    lvwKinship.SortBy(Kinship::SeqNr, 0);
     int iStage = kFirst;
     for (std::int32_t i = 1; i <= lvwKinship.Count(); ++i) {
         const Row row = lvwKinship.Item(i);

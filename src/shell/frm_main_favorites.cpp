@@ -91,7 +91,7 @@ void frmMain::cmdGotoFavorite_Click() {
         CellLook look = row->Look();
         look.ForeColor = kMagenta;
         look.Bold = true;
-        row->SetLook(0, look);
+        row->SetLook({}, look);
         row->EnsureVisible();
         if (ports.keyboard.IsShiftDown()) row->SetChecked(true);
     });

@@ -1,7 +1,7 @@
 // The command that searches the kinship of two individuals.
 #include "shell/frm_main.h"
 #include "tables/column_icon.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"

@@ -10,7 +10,6 @@
 namespace swiftroll {
 namespace {
 
-constexpr std::int32_t kResetWidth = 2540;  // an inch
 constexpr TextView kTabCaptions[] = {"Entrée"_t,  "Sortie",      "Famille Xref", "Xref",   "Famille",
                                      "Parenté"_t, "Opt. Format", "Opt. Liens",   "Options"};
 
@@ -45,7 +44,8 @@ void frmMain::OnActiveTable(const char* sProc, const std::function<void(Table&)>
     trail.Guard(
         sProc, [&] { command(*table); },
         [&] {
-            return Concat({table->Name(), "/", Decimal(lHitRow), "/", Decimal(lHitCol), "/", arguments});
+            return Concat(
+                {table->Name(), "/", Decimal(lHitRow), "/", Decimal(lHitCol.Section()), "/", arguments});
         });
 }
 
@@ -187,7 +187,7 @@ void frmMain::mnuColSelUnsel(TextView sPrefix) {
 
 void frmMain::mnuResetCol_Click() {
     OnActiveTable("mnuResetCol_Click", [](Table& table) {
-        for (Column& column : table.Columns()) column.Width = kResetWidth;
+        for (Column& column : table.Columns()) column.Width = kColumnWidth;
     });
 }
 
@@ -195,10 +195,9 @@ void frmMain::mnuResetCol_Click() {
 void frmMain::mnuFind_Click() {
     Text sCell;
     OnActiveTable("mnuFind_Click", [&](Table& table) {
-        if (lHitCol < 0 || lHitCol >= table.ColumnCount()) return;
-        const auto column = static_cast<std::int16_t>(lHitCol);
-        modSelectionIn.context.iClickedCol = column;
-        if (lHitRow >= 0 && lHitRow < table.Count()) sCell = table.Item(lHitRow + 1).SubItems(column);
+        if (!lHitCol || lHitCol.Index() > table.ColumnCount()) return;
+        modSelectionIn.context.iClickedCol = lHitCol;
+        if (lHitRow >= 0 && lHitRow < table.Count()) sCell = table.Item(lHitRow + 1).Cell(lHitCol);
     });
     frmFind.Open(sCell);
 }

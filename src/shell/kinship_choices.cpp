@@ -1,6 +1,6 @@
 #include "shell/kinship_choices.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 

@@ -1,23 +1,23 @@
 #pragma once
 
-#include <cstdint>
+#include <vector>
 
+#include "tables/columns.h"
 #include "text/text.h"
 
 namespace swiftroll {
 
-enum class Alignment { Left, Right, Centre };
-
-/// A column of a table. Its index is fixed by the schema; its position follows the user's arrangement.
+/// A column of a table as the user has arranged it.
 struct Column {
-    std::int16_t Index = 0;
+    /// What the schema says of it.
+    const ColumnFacts* Facts = nullptr;
+    ColumnId Index;
     Text Key;
     Text Caption;
-    Alignment Align = Alignment::Left;
     /// 1-based place on the screen.
     std::int16_t Position = 0;
     /// In hundredths of a millimetre.
-    std::int32_t Width = 2540;
+    std::int32_t Width = kColumnWidth;
     /// Four letters: "On"/"Of" (selected for export or not), then "No"/"Up"/"Dw" (no sort column, descending,
     /// ascending).
     Text Icon = "OnNo";
@@ -25,5 +25,8 @@ struct Column {
     /// Whether the column is switched on for export.
     bool IsOn() const { return Icon.starts_with("On"); }
 };
+
+/// The columns of a table as they first stand.
+std::vector<Column> MakeColumns(std::span<const ColumnFacts> facts);
 
 }  // namespace swiftroll

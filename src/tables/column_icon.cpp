@@ -10,7 +10,7 @@ void SetColumnIcon(Table& table, Column& column, bool bResetOthers) {
             other.Icon = hasMark ? other.Icon.substr(0, 2) + "No" : "OnNo";
         }
     }
-    const bool isSortColumn = table.Sorted() && table.SortKey() == column.Index - 1;
+    const bool isSortColumn = table.Sorted() && table.SortKey() == column.Index;
     column.Icon = column.Icon.substr(0, 2) + (!isSortColumn ? "No" : table.SortOrder() == 0 ? "Dw" : "Up");
 }
 

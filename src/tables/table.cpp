@@ -32,14 +32,14 @@ Table::Table(Text name, TextView tip, std::vector<Column> columns, std::shared_p
       group_(std::move(group)),
       cells_(columns_.size()) {}
 
-Column& Table::ColumnAt(std::int16_t index) {
-    if (index < 1 || index > ColumnCount()) ThrowIndexOutOfRange();
-    return columns_[static_cast<std::size_t>(index - 1)];
+Column& Table::ColumnAt(ColumnId column) {
+    if (column.Index() < 1 || column.Index() > ColumnCount()) ThrowIndexOutOfRange();
+    return columns_[static_cast<std::size_t>(column.Section())];
 }
 
-const Column& Table::ColumnAt(std::int16_t index) const {
-    if (index < 1 || index > ColumnCount()) ThrowIndexOutOfRange();
-    return columns_[static_cast<std::size_t>(index - 1)];
+const Column& Table::ColumnAt(ColumnId column) const {
+    if (column.Index() < 1 || column.Index() > ColumnCount()) ThrowIndexOutOfRange();
+    return columns_[static_cast<std::size_t>(column.Section())];
 }
 
 Column* Table::FindColumn(TextView key) {
@@ -48,14 +48,14 @@ Column* Table::FindColumn(TextView key) {
     return found == columns_.end() ? nullptr : &*found;
 }
 
-void Table::MoveColumn(std::int16_t index, std::int16_t position) {
+void Table::MoveColumn(ColumnId column, std::int16_t position) {
     if (position < 1 || position > ColumnCount()) ThrowIndexOutOfRange();
-    const std::int16_t old = ColumnAt(index).Position;
-    for (Column& column : columns_) {
-        if (old < column.Position && column.Position <= position) --column.Position;
-        if (position <= column.Position && column.Position < old) ++column.Position;
+    const std::int16_t old = ColumnAt(column).Position;
+    for (Column& other : columns_) {
+        if (old < other.Position && other.Position <= position) --other.Position;
+        if (position <= other.Position && other.Position < old) ++other.Position;
     }
-    ColumnAt(index).Position = position;
+    ColumnAt(column).Position = position;
 }
 
 TextStore& Table::Store() {
@@ -139,8 +139,8 @@ Row Table::Item(TextView key) {
 void Table::Remove(std::int32_t index) {
     const Row row = Item(index);
     const Slot slot = row.slot_;
-    for (std::int16_t column = 0; column <= ColumnCount() && !looks_.empty(); ++column) {
-        looks_.erase(row.LookPlace(column));
+    for (int section = -1; section < ColumnCount() && !looks_.empty(); ++section) {
+        looks_.erase(row.LookPlace(ColumnId::OfSection(section)));
     }
     index_.Erase(slot);
     if (slot < marks_.size()) marks_[slot] = 0;
@@ -185,8 +185,8 @@ void Table::SetSorted(bool sorted) {
     Resort();
 }
 
-void Table::SetSortKey(std::int16_t sortKey) {
-    ColumnAt(static_cast<std::int16_t>(sortKey + 1));
+void Table::SetSortKey(ColumnId sortKey) {
+    ColumnAt(sortKey);
     sortKey_ = sortKey;
     Resort();
 }
@@ -196,8 +196,8 @@ void Table::SetSortOrder(std::int16_t sortOrder) {
     Resort();
 }
 
-void Table::SortBy(std::int16_t sortKey, std::int16_t sortOrder) {
-    ColumnAt(static_cast<std::int16_t>(sortKey + 1));
+void Table::SortBy(ColumnId sortKey, std::int16_t sortOrder) {
+    ColumnAt(sortKey);
     sorted_ = true;
     sortKey_ = sortKey;
     sortOrder_ = sortOrder;
@@ -206,11 +206,11 @@ void Table::SortBy(std::int16_t sortKey, std::int16_t sortOrder) {
 
 void Table::Resort() {
     if (!sorted_ || Count() < 2) return;
-    const auto column = static_cast<std::size_t>(sortKey_);
-    if (const auto order = OrderBySymbols(column)) return Reorder(*order);
+    const auto section = static_cast<std::size_t>(sortKey_.Section());
+    if (const auto order = OrderBySymbols(section)) return Reorder(*order);
     std::vector<TextView> texts(order_.size());
     for (std::size_t i = 0; i < order_.size(); ++i) {
-        texts[i] = store_->Get(cells_.Row(order_[i])[column]);
+        texts[i] = store_->Get(cells_.Row(order_[i])[section]);
         PauseAt(i, OnPause);
     }
     Reorder(SortedOrder(texts, sortOrder_ == 1, OnPause));
@@ -218,10 +218,10 @@ void Table::Resort() {
 
 /// The order of the rows by a column whose texts are all interned, as identifiers are: the texts that occur
 /// are sorted, each once, and the rows follow by counting. Nothing for other columns.
-std::optional<std::vector<std::uint32_t>> Table::OrderBySymbols(std::size_t column) const {
+std::optional<std::vector<std::uint32_t>> Table::OrderBySymbols(std::size_t section) const {
     std::vector<TextRef> refs(order_.size());
     for (std::size_t i = 0; i < order_.size(); ++i) {
-        refs[i] = cells_.Row(order_[i])[column];
+        refs[i] = cells_.Row(order_[i])[section];
         if (!refs[i].IsInterned()) return std::nullopt;
         PauseAt(i, OnPause);
     }
@@ -238,9 +238,9 @@ std::optional<std::vector<std::uint32_t>> Table::OrderBySymbols(std::size_t colu
     return order;
 }
 
-void Table::SortByForms(const std::vector<TextView>& forms, std::int16_t sortKey, std::int16_t sortOrder) {
+void Table::SortByForms(const std::vector<TextView>& forms, ColumnId sortKey, std::int16_t sortOrder) {
     if (forms.size() != order_.size()) throw Failure(FailureKind::InvalidArgument);
-    ColumnAt(static_cast<std::int16_t>(sortKey + 1));
+    ColumnAt(sortKey);
     sorted_ = true;
     sortKey_ = sortKey;
     sortOrder_ = sortOrder;
@@ -312,15 +312,15 @@ void Row::SetMark(std::uint8_t mark, bool on) {
     marks = static_cast<std::uint8_t>(on ? marks | mark : marks & ~mark);
 }
 
-std::uint64_t Row::LookPlace(std::int16_t column) const {
-    return std::uint64_t{slot_} << 16 | static_cast<std::uint16_t>(column);
+std::uint64_t Row::LookPlace(ColumnId column) const {
+    return std::uint64_t{slot_} << 16 | static_cast<std::uint16_t>(column.Index());
 }
 
-bool Row::IsPainted(std::int16_t column) const {
-    return table_->paintedColumn_ == column && Marked() && (column == 0 || !CellAt(column).IsEmpty());
+bool Row::IsPainted(ColumnId column) const {
+    return table_->paintedColumn_ == column && Marked() && (!column || !CellAt(column).IsEmpty());
 }
 
-CellLook Row::Look(std::int16_t column) const {
+CellLook Row::Look(ColumnId column) const {
     CheckAlive();
     const auto found = table_->looks_.find(LookPlace(column));
     CellLook look = found == table_->looks_.end() ? CellLook() : found->second;
@@ -331,8 +331,8 @@ CellLook Row::Look(std::int16_t column) const {
     return look;
 }
 
-void Row::SetLook(std::int16_t column, const CellLook& look) {
-    if (column != 0) CellAt(column);
+void Row::SetLook(ColumnId column, const CellLook& look) {
+    if (column) CellAt(column);
     CheckAlive();
     if (look == CellLook()) {
         table_->looks_.erase(LookPlace(column));

@@ -59,15 +59,15 @@ class Table {
     Text Tip;
     std::int32_t Count() const { return static_cast<std::int32_t>(order_.size()); }
     std::int16_t ColumnCount() const { return columnCount_; }
-    /// The column of an index from 1. @throws Failure IndexOutOfRange
-    Column& ColumnAt(std::int16_t index);
-    const Column& ColumnAt(std::int16_t index) const;
+    /// @throws Failure IndexOutOfRange
+    Column& ColumnAt(ColumnId column);
+    const Column& ColumnAt(ColumnId column) const;
     /// The column of a key, or nullptr.
     Column* FindColumn(TextView key);
     std::vector<Column>& Columns() { return columns_; }
     const std::vector<Column>& Columns() const { return columns_; }
     /// Moves a column to a 1-based position; the others close up, as when the user drags it.
-    void MoveColumn(std::int16_t index, std::int16_t position);
+    void MoveColumn(ColumnId column, std::int16_t position);
 
     /// Inserts a row before the row `index`, or at the end when `index` is left out. A row without a key can
     /// only be reached by its place. @throws Failure DuplicateKey, IndexOutOfRange
@@ -106,27 +106,27 @@ class Table {
     std::function<void(const Row& row)> OnEnsureVisible;
 
     bool Sorted() const { return sorted_; }
-    std::int16_t SortKey() const { return sortKey_; }
+    ColumnId SortKey() const { return sortKey_; }
     std::int16_t SortOrder() const { return sortOrder_; }
-    /// While `Sorted` is true, the rows are put in the order of the column numbered `SortKey` from 0, by byte
-    /// values, ascending for `SortOrder` 0 and descending for 1; equal rows keep their order. Setting it to
-    /// false leaves the rows where they are.
+    /// While `Sorted` is true, the rows are put in the order of the column `SortKey`, by byte values,
+    /// ascending for `SortOrder` 0 and descending for 1; equal rows keep their order. Setting it to false
+    /// leaves the rows where they are.
     void SetSorted(bool sorted);
-    void SetSortKey(std::int16_t sortKey);
+    void SetSortKey(ColumnId sortKey);
     void SetSortOrder(std::int16_t sortOrder);
     /// Sets `Sorted`, `SortKey` and `SortOrder` at once, which sorts once.
-    void SortBy(std::int16_t sortKey, std::int16_t sortOrder);
+    void SortBy(ColumnId sortKey, std::int16_t sortOrder);
     /// The same, and puts the rows in the order of `forms`, one
     /// comparison form a row in the present order, in place of the cells of the column.
-    void SortByForms(const std::vector<TextView>& forms, std::int16_t sortKey, std::int16_t sortOrder);
+    void SortByForms(const std::vector<TextView>& forms, ColumnId sortKey, std::int16_t sortOrder);
 
     /// Puts the marked rows before the others; on both sides the rows keep their order. Gives the number of
     /// marked rows.
     std::int32_t GatherMarked();
 
     /// Shows the cells of one column in red and bold in the rows that are marked, as far as they are not
-    /// empty; column 0 shows the rows themselves so. Nothing ends it.
-    void SetPaintedColumn(std::optional<std::int16_t> column) { paintedColumn_ = column; }
+    /// empty; no column shows the rows themselves so. Nothing ends it.
+    void SetPaintedColumn(std::optional<ColumnId> column) { paintedColumn_ = column; }
 
     /// Where the texts of the cells stand. References for `Add` and `SetCell` must come from it.
     TextStore& Store();
@@ -140,7 +140,7 @@ class Table {
     Slot NewSlot();
     Row Append(const std::optional<RowKey>& key, TextRef text);
     void Resort();
-    std::optional<std::vector<std::uint32_t>> OrderBySymbols(std::size_t column) const;
+    std::optional<std::vector<std::uint32_t>> OrderBySymbols(std::size_t section) const;
     void Reorder(const std::vector<std::uint32_t>& permutation);
     void RefreshPlaces();
 
@@ -167,9 +167,9 @@ class Table {
     std::uint32_t generation_ = 1;         // grows when rows go, so that handles from before are refused
 
     bool sorted_ = false;
-    std::int16_t sortKey_ = 0;
+    ColumnId sortKey_ = ColumnId::OfSection(0);
     std::int16_t sortOrder_ = 0;
-    std::optional<std::int16_t> paintedColumn_;
+    std::optional<ColumnId> paintedColumn_;
 };
 
 /// A row of a table: a handle that stays with its row through sorts and insertions. When rows were removed,
@@ -180,29 +180,26 @@ class Row {
     std::int32_t Index() const;
     std::string Key() const;
     std::int16_t ColumnCount() const { return table_->ColumnCount(); }
-    TextView Text() const { return Cell(1); }
-    /// Cell of column `i` + 1. @throws Failure IndexOutOfRange
-    TextView SubItems(std::int16_t i) const { return Cell(static_cast<std::int16_t>(i + 1)); }
-    /// Cell by column index from 1.
-    TextView Cell(std::int16_t column) const { return table_->store_->Get(Ref(column)); }
-    TextRef Ref(std::int16_t column) const { return CellAt(column); }
-    void SetCell(std::int16_t column, TextRef ref) { CellAt(column) = ref; }
-    void SetCell(std::int16_t column, TextView text) { SetCell(column, table_->Store().Put(text)); }
+    /// The cell of the first column.
+    TextView Text() const { return Cell(ColumnId::OfSection(0)); }
+    /// @throws Failure IndexOutOfRange
+    TextView Cell(ColumnId column) const { return table_->store_->Get(Ref(column)); }
+    TextRef Ref(ColumnId column) const { return CellAt(column); }
+    void SetCell(ColumnId column, TextRef ref) { CellAt(column) = ref; }
+    void SetCell(ColumnId column, TextView text) { SetCell(column, table_->Store().Put(text)); }
     /// Writes a cell and gives the length of its text.
-    std::size_t Write(std::int16_t column, TextRef ref) {
+    std::size_t Write(ColumnId column, TextRef ref) {
         CellAt(column) = ref;
         return ref.IsEmpty() ? 0 : table_->store_->Get(ref).size();
     }
-    void SetSubItems(std::int16_t i, TextRef ref) { SetCell(static_cast<std::int16_t>(i + 1), ref); }
-    void SetSubItems(std::int16_t i, TextView text) { SetCell(static_cast<std::int16_t>(i + 1), text); }
     /// Calls `visit(column, length)` for every cell that is not empty.
     template <class Visitor>
     void VisitLengths(Visitor visit) const {
         CheckAlive();
         const TextStore& store = *table_->store_;
-        for (std::int16_t column = 1; column <= table_->columnCount_; ++column) {
-            const TextRef ref = cells_[column - 1];
-            if (!ref.IsEmpty()) visit(column, store.Get(ref).size());
+        for (int section = 0; section < table_->columnCount_; ++section) {
+            const TextRef ref = cells_[section];
+            if (!ref.IsEmpty()) visit(ColumnId::OfSection(section), store.Get(ref).size());
         }
     }
 
@@ -218,10 +215,10 @@ class Row {
     void SetSelected(bool on) { SetMark(Table::kSelected, on); }
     void SetChecked(bool on) { SetMark(Table::kChecked, on); }
 
-    /// How the cell of a column is shown; column 0 is the row itself. The paint of the table lies over what
+    /// How the cell of a column is shown; no column is the row itself. The paint of the table lies over what
     /// `SetLook` wrote.
-    CellLook Look(std::int16_t column = 0) const;
-    void SetLook(std::int16_t column, const CellLook& look);
+    CellLook Look(ColumnId column = {}) const;
+    void SetLook(ColumnId column, const CellLook& look);
 
     friend bool operator==(const Row& a, const Row& b) { return a.table_ == b.table_ && a.slot_ == b.slot_; }
 
@@ -232,14 +229,14 @@ class Row {
     void CheckAlive() const {
         if (generation_ != table_->generation_) ThrowIndexOutOfRange();
     }
-    TextRef& CellAt(std::int16_t column) const {
+    TextRef& CellAt(ColumnId column) const {
         CheckAlive();
-        if (column < 1 || column > table_->columnCount_) ThrowIndexOutOfRange();
-        return cells_[column - 1];
+        if (column.Index() < 1 || column.Index() > table_->columnCount_) ThrowIndexOutOfRange();
+        return cells_[column.Section()];
     }
-    std::uint64_t LookPlace(std::int16_t column) const;
+    std::uint64_t LookPlace(ColumnId column) const;
     bool HasMark(std::uint8_t mark) const;
-    bool IsPainted(std::int16_t column) const;
+    bool IsPainted(ColumnId column) const;
     void SetMark(std::uint8_t mark, bool on);
 
     Table* table_;

@@ -49,12 +49,12 @@ std::optional<Row> TableModel::RowAt(int row) const {
 QVariant TableModel::data(const QModelIndex& index, int role) const {
     const auto row = index.isValid() ? RowAt(index.row()) : std::nullopt;
     if (!row) return {};
-    const auto column = static_cast<std::int16_t>(index.column() + 1);
+    const ColumnId column = ColumnId::OfSection(index.column());
     switch (role) {
         case Qt::DisplayRole:
             return ToQt(row->Cell(column));
         case Qt::TextAlignmentRole:
-            return QVariant(AlignmentOf(table_.ColumnAt(column).Align));
+            return QVariant(AlignmentOf(table_.ColumnAt(column).Facts->align));
         case Qt::CheckStateRole:
             return index.column() == 0 ? QVariant(row->Checked() ? Qt::Checked : Qt::Unchecked) : QVariant();
         default:
@@ -64,14 +64,14 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || section < 0 || section >= table_.ColumnCount()) return {};
-    const Column& column = table_.ColumnAt(static_cast<std::int16_t>(section + 1));
+    const Column& column = table_.ColumnAt(ColumnId::OfSection(section));
     switch (role) {
         case Qt::DisplayRole:
             return ToQt(column.Caption);
         case Qt::DecorationRole:
             return ColumnMarks(column.Icon);
         case Qt::TextAlignmentRole:
-            return QVariant(AlignmentOf(column.Align));
+            return QVariant(AlignmentOf(column.Facts->align));
         default:
             return {};
     }

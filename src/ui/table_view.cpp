@@ -60,19 +60,17 @@ void TableView::BindHeader() {
     header_->setTextElideMode(Qt::ElideRight);
     connect(header_, &QHeaderView::sectionMoved, this, [this](int section, int, int visual) {
         if (isShowingColumns_) return;
-        presenter_.Act([&] {
-            Data().MoveColumn(static_cast<std::int16_t>(section + 1), static_cast<std::int16_t>(visual + 1));
-        });
+        presenter_.Act(
+            [&] { Data().MoveColumn(ColumnId::OfSection(section), static_cast<std::int16_t>(visual + 1)); });
     });
     connect(header_, &QHeaderView::sectionResized, this, [this](int section, int, int size) {
-        if (!isShowingColumns_) Data().ColumnAt(static_cast<std::int16_t>(section + 1)).Width = UnitsOf(size);
+        if (!isShowingColumns_) Data().ColumnAt(ColumnId::OfSection(section)).Width = UnitsOf(size);
         updateGeometries();
         viewport()->update();
     });
     connect(header_, &QHeaderView::sectionClicked, this, [this](int section) {
         presenter_.Act([&] {
-            presenter_.Main().lvw_ColumnClick(Data(),
-                                              Data().ColumnAt(static_cast<std::int16_t>(section + 1)));
+            presenter_.Main().lvw_ColumnClick(Data(), Data().ColumnAt(ColumnId::OfSection(section)));
         });
     });
 }
@@ -84,10 +82,10 @@ void TableView::Refresh() {
     for (std::int16_t position = 1; position <= Data().ColumnCount(); ++position) {
         for (const Column& column : Data().Columns()) {
             if (column.Position != position) continue;
-            const int from = header_->visualIndex(column.Index - 1);
+            const int from = header_->visualIndex(column.Index.Section());
             if (from >= 0 && from != position - 1) header_->moveSection(from, position - 1);
-            if (UnitsOf(header_->sectionSize(column.Index - 1)) != column.Width) {
-                header_->resizeSection(column.Index - 1, PixelsOf(column.Width));
+            if (UnitsOf(header_->sectionSize(column.Index.Section())) != column.Width) {
+                header_->resizeSection(column.Index.Section(), PixelsOf(column.Width));
             }
         }
     }
@@ -118,7 +116,7 @@ void TableView::HitTest(const QPoint& point) {
 void TableView::HitTestOfKeyboard() {
     const QPoint point = viewport()->mapFromGlobal(QCursor::pos());
     if (viewport()->rect().contains(point)) return HitTest(point);
-    const int row = CurrentRow(), clicked = presenter_.Main().lHitCol;
+    const int row = CurrentRow(), clicked = presenter_.Main().lHitCol.Section();
     const bool isColumn = clicked >= 0 && clicked < header_->count();
     presenter_.Main().HitTest(row, row < 0 ? -1 : isColumn ? clicked : header_->logicalIndex(0));
     scrollTo(model_.index(row, 0));
@@ -224,10 +222,10 @@ void TableView::PaintRow(QPainter& painter, const Row& row, int y, bool isAltern
             style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &tick, &painter, this);
             cell.setLeft(tick.rect.right() + 1);
         }
-        const auto column = static_cast<std::int16_t>(section + 1);
+        const ColumnId column = ColumnId::OfSection(section);
         const TextView text = row.Cell(column);
         if (text.empty()) continue;
-        const CellLook look = column == 1 ? whole : row.Look(column);
+        const CellLook look = section == 0 ? whole : row.Look(column);
         const std::uint32_t colour = look.ForeColor != 0 ? look.ForeColor : whole.ForeColor;
         painter.setFont(look.Bold || whole.Bold ? bold : plain);
         if (colour != 0) {

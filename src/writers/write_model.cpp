@@ -1,6 +1,6 @@
 #include "writers/write_model.h"
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "writers/index.h"
@@ -102,7 +102,7 @@ class Document {
     }
 
     void WriteTemplateRow() {
-        const PerColumn<Text> tags = MakeColumnTags(app_);
+        const PerPosition<Text> tags = MakeColumnTags(app_);
         Print(model_.sModelRow2Open);
         for (std::int16_t position = 1; position <= app_.positions.iPosNumber; ++position) {
             Print(ReplaceAll(model_.sModelCell2, kElement, tags[position]));
@@ -125,7 +125,7 @@ class Document {
         }
     }
 
-    void WriteDataCell(const Row& row, std::int16_t column) {
+    void WriteDataCell(const Row& row, ColumnId column) {
         const TextView sCell = row.Cell(column);
         if (padCells_) {
             PrintCell(model_.sModelCell2, PadRight(sCell, static_cast<std::size_t>(padWidth_[column])));

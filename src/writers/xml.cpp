@@ -43,8 +43,8 @@ class LenientFile : public File {
 
 }  // namespace
 
-PerColumn<Text> MakeColumnTags(const Application& app) {
-    PerColumn<Text> tags;
+PerPosition<Text> MakeColumnTags(const Application& app) {
+    PerPosition<Text> tags;
     const Positions::OfTable& positions = app.positions.Of(app.lvwOut);
     for (std::int16_t position = 1; position <= app.positions.iPosNumber; ++position) {
         tags[position] = ComparisonForm(app.lvwOut.ColumnAt(positions.iColAtPos[position]).Caption);
@@ -54,7 +54,7 @@ PerColumn<Text> MakeColumnTags(const Application& app) {
 }
 
 bool WriteXML(Application& app, TextView sOutFile, TextView sXslName, bool bSelectedOnly) {
-    const PerColumn<Text> sColumnTag = MakeColumnTags(app);
+    const PerPosition<Text> sColumnTag = MakeColumnTags(app);
     LenientFile file(app.ports.files, sOutFile);
     file.Write(Concat({"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>", kLineEnd}));
     if (!sXslName.empty()) {

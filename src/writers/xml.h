@@ -5,7 +5,7 @@
 namespace swiftroll::modGenFileFromModel {
 
 /// Element names by position of `lvwOut`, up to `Number`: the captions in comparison form without blanks.
-PerColumn<Text> MakeColumnTags(const Application& app);
+PerPosition<Text> MakeColumnTags(const Application& app);
 
 /// Writes `lvwOut`, all of it or its marked rows, as XML that refers to the stylesheet `sXslName` unless that
 /// is empty. A step that fails is skipped and nothing is reported.

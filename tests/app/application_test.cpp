@@ -22,8 +22,8 @@ class PositionsTest : public testing::Test, protected test::TestPorts {
     std::string KeyColumns() {
         std::string all;
         for (std::int16_t position = 1; position <= kMaxColumns; ++position) {
-            all += std::to_string(application.positions.iKeyColIn[position]) + "," +
-                   std::to_string(application.positions.iKeyColOut[position]) + " ";
+            all += std::to_string(application.positions.iKeyColIn[position].Index()) + "," +
+                   std::to_string(application.positions.iKeyColOut[position].Index()) + " ";
         }
         return all;
     }
@@ -31,14 +31,14 @@ class PositionsTest : public testing::Test, protected test::TestPorts {
 };
 
 TEST_F(PositionsTest, AnUnknownColumnIsToldAndTheOthersAreRead) {
-    application.lvwOut.ColumnAt(2).Key = "Added";
-    application.lvwOut.ColumnAt(2).Caption = "Ajoutée"_t;
-    application.lvwOut.ColumnAt(4).Key = "";
+    application.lvwOut.ColumnAt(Out::LastName).Key = "Added";
+    application.lvwOut.ColumnAt(Out::LastName).Caption = "Ajoutée"_t;
+    application.lvwOut.ColumnAt(Out::Place).Key = "";
     application.InitIndexes();
     ASSERT_EQ(dialogs.boxes.size(), 1u);
     EXPECT_EQ(dialogs.boxes[0].title, "SwiftRoll (v3.4.0) - InitIdxOut");
     EXPECT_EQ(dialogs.boxes[0].text, "Colonne ajoutée dans Out : Ajoutée\r\nMerci de me prévenir !"_t);
-    EXPECT_TRUE(KeyColumns().starts_with("1,1 -999,-999 -999,-999 -999,-999 ")) << KeyColumns();
+    EXPECT_TRUE(KeyColumns().starts_with("1,1 0,0 0,0 0,0 ")) << KeyColumns();
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ struct Family : AfterRead {
                      "Pop m"},
                     {"Opa Oma Dad Aunt", "Dad Mom Kid", "Uncle Aunt Cousin", "Cousin Wife", "Pop - Wife"}) {
         Find("Kid", "Pop");
-        main.lvwKinship.SortBy(0, 0);
+        main.lvwKinship.SortBy(Kinship::SeqNr, 0);
     }
     KinshipGrid Grid(std::int32_t row, bool spouses) {
         return modKinshipOutput::MakeKinshipTable(main, row, spouses);

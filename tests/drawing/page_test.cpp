@@ -119,7 +119,7 @@ TEST(KinshipPage, IsWrittenByteForByte) {
     EXPECT_EQ(t.main.pnlMessage.Get(), "Liens de Parenté entre [Yves, LE GALL] et [, PÉRON] : Terminé"_t);
     EXPECT_EQ(t.main.cboKinship.Get(), "kin.html");
     EXPECT_FALSE(t.main.bWaitCursor);
-    EXPECT_EQ(t.main.lvwKinship.SortKey(), Kinship::NrSpouses - 1);
+    EXPECT_EQ(t.main.lvwKinship.SortKey(), Kinship::NrSpouses);
 
     // A single path from the rows that are marked, each a drawing of its own.
     for (std::int32_t i = 1; i <= t.main.lvwKinship.Count(); ++i) t.main.lvwKinship.Item(i).SetChecked(true);

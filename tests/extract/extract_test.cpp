@@ -4,7 +4,7 @@
 #include <random>
 
 #include "support/test_ports.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"

@@ -1,7 +1,7 @@
 // Families, their members, the links between individuals, and the marriage data of the spouses.
 #include "gedcom/reader_fixture.h"
 #include "kinship/kinship_codes.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {

@@ -1,6 +1,6 @@
 // What an INDI record writes into its row: names, events, dates and places.
 #include "gedcom/reader_fixture.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {

@@ -1,6 +1,6 @@
 // The connected groups of individuals.
 #include "gedcom/reader_fixture.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {

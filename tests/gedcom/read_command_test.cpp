@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "gedcom/reader_fixture.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {
@@ -115,7 +115,7 @@ TEST(ReadCommand, ASecondReadReplacesAllButTheList) {
     EXPECT_EQ(list.size(), 2u);
     t.main.lvwKinship.Add({}, "k", "1");
     // Sorted tables of the old file must not put the rows of the new one in order.
-    t.main.lvwIn.SortBy(1, 1);
+    t.main.lvwIn.SortBy(In::LastName, 1);
     t.Read("0 @J2@ INDI\r\n1 NAME X /Y/\r\n0 @J1@ INDI\r\n1 NAME Z /Z/\r\n0 TRLR\r\n");
     EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::IslandNr}), Rows({"@J2@|0001", "@J1@|0002"}));
     for (Table* table : {&t.main.lvwFamily, &t.main.lvwFamilyXref, &t.main.lvwXref, &t.main.lvwKinship})

@@ -18,11 +18,11 @@ struct AfterReading : TestMain {
 };
 
 /// Some cells of every row, joined by "|".
-inline std::vector<Text> CellsOf(Table& table, std::initializer_list<std::int16_t> columns) {
+inline std::vector<Text> CellsOf(Table& table, std::initializer_list<ColumnId> columns) {
     std::vector<Text> rows;
     for (std::int32_t i = 1; i <= table.Count(); ++i) {
         Text text;
-        for (const std::int16_t column : columns) text += Concat({"|", table.Item(i).Cell(column)});
+        for (const ColumnId column : columns) text += Concat({"|", table.Item(i).Cell(column)});
         rows.push_back(text.substr(1));
     }
     return rows;
@@ -44,7 +44,7 @@ inline std::pair<TextView, TextView> Sides(TextView textAndResult) {
 }
 
 /// Reads an individual for each case, what the case reads behind `before`, and compares cells of its row.
-inline void ExpectCells(TextView before, std::initializer_list<std::int16_t> columns,
+inline void ExpectCells(TextView before, std::initializer_list<ColumnId> columns,
                         const std::vector<TextView>& cases) {
     std::vector<Text> bodies;
     for (const TextView c : cases) bodies.push_back(Concat({before, Sides(c).first, "\n"}));

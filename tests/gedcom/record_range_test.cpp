@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "gedcom/reader_fixture.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/test_ports.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"

@@ -47,7 +47,7 @@ TEST(KinshipSearch, OrdersByMarriagesThenByLengthThenByFinding) {
     EXPECT_EQ(t.Paths(), Rows({"000001 X Fils B1 Fils Gf1 Père B2 Père Y (000, 0005)"_t,
                                "000002 X Fils S1 Fille Gf2 Père S2 Mère Y (000, 0005)"_t}));
     EXPECT_TRUE(t.main.lvwKinship.Sorted());
-    EXPECT_EQ(t.main.lvwKinship.SortKey(), Kinship::NrSpouses - 1);
+    EXPECT_EQ(t.main.lvwKinship.SortKey(), Kinship::NrSpouses);
     EXPECT_FALSE(t.main.lvwXref.Sorted());
     EXPECT_EQ(t.main.SSTab1, Tab::Kinship);
     t.Find("B1", "S2");
@@ -224,7 +224,7 @@ TEST(KinshipSearch, PassesOverLinksToPeopleWithoutRecord) {
 
 /// The links of an island as the walk tries them, by the rows of lvwIn.
 PlainLinks LinksOfTables(frmMain& main) {
-    main.lvwXref.SortBy(0, 0);
+    main.lvwXref.SortBy(Xref::IDIndi1, 0);
     PlainLinks links(static_cast<std::size_t>(main.lvwIn.Count()) + 1);
     for (std::int32_t i = 1; i <= main.lvwXref.Count(); ++i) {
         const Row link = main.lvwXref.Item(i);

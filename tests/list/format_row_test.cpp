@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "list/list_fixture.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "list/list_fixture.h"
 #include "list/sort_keys.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "list/list_fixture.h"
 #include "list/sort_keys.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 
 namespace swiftroll::test {
 namespace {
@@ -47,7 +47,7 @@ TEST_F(Sorting, YearsNumbersAndIdentifiersSortByValue) {
     EXPECT_EQ(Click(main.lvwIn, "ID"), (Texts{"@I9@", "@I10@", "@I100@", ids[3], ids[2]}));
     for (std::int32_t i = 1; i <= 5; ++i) EXPECT_EQ(main.lvwIn.Item(i).Tag(), main.lvwIn.Item(i).Text());
     for (const char* count : {"    10", "100000", "     9"}) {
-        main.lvwOut.Add(std::nullopt, count, "").SetSubItems(2, TextView(count));
+        main.lvwOut.Add(std::nullopt, count, "").SetCell(Out::Number, TextView(count));
     }
     EXPECT_EQ(Click(main.lvwOut, "Number"), (Texts{"     9", "    10", "100000"}));
 }

@@ -17,12 +17,13 @@ class AnySelection : public TestMain {
         Read(File());
         // The columns of the list, and its rows, which put lvwIn in the order of the groups.
         for (int moves = Below(6); moves > 0; --moves) {
-            main.lvwOut.MoveColumn(Column(main.lvwOut), Column(main.lvwOut));
+            const ColumnId moved = Column(main.lvwOut);
+            main.lvwOut.MoveColumn(moved, Column(main.lvwOut).Index());
         }
         main.cmdCalcOutput.Click();
         AddPaths();
         if (Below(2) == 0)
-            main.lvwIn.SortBy(static_cast<std::int16_t>(Below(17)), static_cast<std::int16_t>(Below(2)));
+            main.lvwIn.SortBy(Column(main.lvwIn), static_cast<std::int16_t>(Below(2)));
         if (Below(4) == 0 && main.lvwFamily.Count() > 0)
             main.lvwFamily.Remove(1 + Below(main.lvwFamily.Count()));
         if (Below(4) == 0 && main.lvwIn.Count() > 0) main.lvwIn.Remove(1 + Below(main.lvwIn.Count()));
@@ -39,7 +40,7 @@ class AnySelection : public TestMain {
         main.chkDelAccents.SetChecked(Below(2) == 0);
         main.lvwActiveListView = &table;
         auto& context = main.modSelectionIn.context;
-        context.SetClickedCell(main, table, Column(table) - 1);
+        context.SetClickedCell(main, table, Column(table));
         context.bRestoreClickedRow = true;
         const bool bSelect = Below(2) == 0;
         MarkAnyRows();
@@ -62,7 +63,7 @@ class AnySelection : public TestMain {
             return testing::AssertionSuccess();
         }
         return testing::AssertionFailure()
-               << table.Name() << " column " << context.iClickedCol << " mode " << sMode
+               << table.Name() << " column " << context.iClickedCol.Index() << " mode " << sMode
                << (bSelect ? " add" : " remove") << "\nbefore " << testing::PrintToString(before)
                << "\nexpected " << testing::PrintToString(expected) << "\nmarks "
                << testing::PrintToString(Marks()) << testing::PrintToString(RowsOf(table));
@@ -71,9 +72,7 @@ class AnySelection : public TestMain {
 
   private:
     int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
-    std::int16_t Column(const Table& table) {
-        return static_cast<std::int16_t>(1 + Below(table.ColumnCount()));
-    }
+    ColumnId Column(const Table& table) { return ColumnId::OfSection(Below(table.ColumnCount())); }
     TextView AnyOf(std::initializer_list<TextView> texts) {
         return texts.begin()[Below(static_cast<int>(texts.size()))];
     }

@@ -2,7 +2,7 @@
 
 #include "list/sort_keys.h"
 #include "selection/context.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/literal.h"
 
 namespace swiftroll::test {
@@ -37,9 +37,7 @@ class PlainSelection {
     }
 
   private:
-    static TextView Cell(const Row& row, std::int16_t iCol) {
-        return iCol == 0 ? row.Text() : row.SubItems(iCol);
-    }
+    static TextView Cell(const Row& row, ColumnId column) { return row.Cell(column); }
     static bool IsChild(const Row& member) {
         const TextView type = member.Cell(FamilyXref::Type);
         return type == "Fils" || type == "Fille" || type == "Enfant";
@@ -64,7 +62,7 @@ class PlainSelection {
     }
     void MarkSpousesOf(TextView sFam) {
         const Row family = app_.lvwFamily.Item(sFam);
-        for (const std::int16_t column : kSpouses) SelectIn(family.Cell(column));
+        for (const ColumnId column : kSpouses) SelectIn(family.Cell(column));
     }
     template <class Visitor>
     void ForEachFamilyOf(TextView sIndi, Visitor visit) {
@@ -78,7 +76,7 @@ class PlainSelection {
     }
     void MarkPartners(TextView sIndi) {
         ForEachFamilyOf(sIndi, [&](const Row& family) {
-            for (const std::int16_t column : kSpouses) {
+            for (const ColumnId column : kSpouses) {
                 if (family.Cell(column) != sIndi) SelectIn(family.Cell(column));
             }
         });
@@ -93,20 +91,20 @@ class PlainSelection {
         }
     }
 
-    std::vector<std::int16_t> IdColumns(const Table& active) const {
-        const std::int16_t clicked = context_.iClickedCol;
-        if (&active == &app_.lvwIn) return {0};
-        if (&active == &app_.lvwXref) return {static_cast<std::int16_t>(clicked == 0 ? 2 : 0)};
-        if (&active == &app_.lvwFamilyXref) return {2};
-        if (&active == &app_.lvwKinship) return {1};
+    std::vector<ColumnId> IdColumns(const Table& active) const {
+        const ColumnId clicked = context_.iClickedCol;
+        if (&active == &app_.lvwIn) return {In::ID};
+        if (&active == &app_.lvwXref) return {clicked == Xref::IDIndi1 ? Xref::IDIndi2 : Xref::IDIndi1};
+        if (&active == &app_.lvwFamilyXref) return {FamilyXref::IDIndi};
+        if (&active == &app_.lvwKinship) return {Kinship::IDIndi};
         if (&active != &app_.lvwFamily) return {};
-        if (clicked == 1) return {2, 3};
-        if (clicked == 2) return {1, 3};
-        if (clicked == 3) return {1, 2};
-        return {1, 2, 3};
+        if (clicked == Family::IDHusb) return {Family::IDWife, Family::IDFams};
+        if (clicked == Family::IDWife) return {Family::IDHusb, Family::IDFams};
+        if (clicked == Family::IDFams) return {Family::IDHusb, Family::IDWife};
+        return {Family::IDHusb, Family::IDWife, Family::IDFams};
     }
     void MarkValues(Table& active, const Row& marked, TextView relation) {
-        const bool byPath = &active == &app_.lvwKinship && context_.iClickedCol == 0;
+        const bool byPath = &active == &app_.lvwKinship && context_.iClickedCol == Kinship::SeqNr;
         const auto valueOf = [&](const Row& row) {
             const TextView cell = Cell(row, context_.iClickedCol);
             return byPath ? Text(cell.substr(0, 6)) : modCalcOut::KeepAlphaNum(app_, cell, false);
@@ -116,7 +114,7 @@ class PlainSelection {
             const Row other = active.Item(k);
             if (!Compares(valueOf(other), sRef, relation)) continue;
             if (byPath && other.Text().ends_with("999999")) continue;
-            for (const std::int16_t column : IdColumns(active)) {
+            for (const ColumnId column : IdColumns(active)) {
                 const auto row = app_.lvwIn.Find(Cell(other, column));
                 if (row) Set(*row);
             }
@@ -130,7 +128,7 @@ class PlainSelection {
         }
     }
 
-    static constexpr std::int16_t kSpouses[] = {Family::IDHusb, Family::IDWife, Family::IDFams};
+    static constexpr Family::Columns kSpouses[] = {Family::IDHusb, Family::IDWife, Family::IDFams};
     Application& app_;
     const modSelectionIn::SelectionContext& context_;
     bool bSelect_;

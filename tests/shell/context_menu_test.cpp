@@ -107,7 +107,7 @@ TEST_F(ContextMenu, MarksTheClickedRowForItsTime) {
     main.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(Concat({Marks(main.lvwIn), Marks(main.lvwOut)}), "........");
     main.lvwIn.Item(1).SetChecked(true);
-    EXPECT_EQ(main.lvwIn.Item(1).Look(0), CellLook());
+    EXPECT_EQ(main.lvwIn.Item(1).Look(), CellLook());
     // What a command does to the table that the menu is of, does not keep the row marked either.
     Mark(main.lvwIn, ".....");
     Point(main.lvwIn, 1, 0);
@@ -129,7 +129,7 @@ TEST_F(ContextMenu, PaintsTheCellsOfTheMarkedRows) {
     own.ToolTipText = "tip";
     in.Item(4).SetLook(In::BirthPlace, own);
     Mark(in, ".cs..");
-    const auto painted = [&](Table& table, std::int16_t column) {
+    const auto painted = [&](Table& table, ColumnId column) {
         Text rows;
         for (std::int32_t i = 1; i <= table.Count(); ++i) {
             const CellLook look = table.Item(i).Look(column);
@@ -140,7 +140,7 @@ TEST_F(ContextMenu, PaintsTheCellsOfTheMarkedRows) {
     };
     Text rows, cells, others;
     dialogs.onMenu = [&](const Menu&) {
-        rows = painted(*main.lvwActiveListView, 0);
+        rows = painted(*main.lvwActiveListView, {});
         cells = painted(*main.lvwActiveListView, In::BirthPlace);
         others = painted(*main.lvwActiveListView, In::LastName);
     };

@@ -133,7 +133,7 @@ TEST_F(Find, TheDialogFollowsTheTableAndTheCell) {
     EXPECT_EQ(Dialog().cboColumns[0].Items().size(), 6u);
     EXPECT_EQ(Dialog().cboColumns[1].Get(), "ID Famille") << "the table has no seventh column";
     // Where the stored column is too big for the first condition, too, and without any table.
-    main.modSelectionIn.context.iClickedCol = 16;
+    main.modSelectionIn.context.iClickedCol = In::IslandNr;
     Dialog().Activate();
     EXPECT_EQ(Dialog().cboColumns[0].ListIndex(), 0);
     main.lvwActiveListView = nullptr;

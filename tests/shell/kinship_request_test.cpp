@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/test_ports.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -173,8 +173,8 @@ TEST(KinshipRequest, ADoubleClickOnAPathGoesToThePersonOrTheFamily) {
     Request t;
     t.Find({1, 2}, {});
     t.Mark({}, {});
-    const auto click = [&](std::int32_t row, std::int16_t column) {
-        t.main.HitTest(row - 1, column - 1);
+    const auto click = [&](std::int32_t row, ColumnId column) {
+        t.main.HitTest(row - 1, column.Section());
         t.main.SSTab1 = Tab::Kinship;
         t.main.lvw_DblClick(t.main.lvwKinship);
         return t.main.SSTab1;
@@ -188,7 +188,7 @@ TEST(KinshipRequest, ADoubleClickOnAPathGoesToThePersonOrTheFamily) {
     EXPECT_EQ(click(1, Kinship::Family), Tab::Family);
     EXPECT_TRUE(t.main.lvwFamily.Current()->Selected());
     EXPECT_EQ(t.main.lvwFamily.Current()->Text(), "@F0@");
-    for (const std::int16_t column : {Kinship::SeqNr, Kinship::NrSpouses, Kinship::NrLink}) {
+    for (const auto column : {Kinship::SeqNr, Kinship::NrSpouses, Kinship::NrLink}) {
         EXPECT_EQ(click(1, column), Tab::Kinship);
     }
     EXPECT_EQ(click(3, Kinship::Indi), Tab::Kinship) << "a separator names nobody";

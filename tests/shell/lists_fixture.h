@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/test_ports.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -25,7 +25,7 @@ struct Lists : testing::Test, TestMain {
         main.FindPathBetween("@I3@", "@I1@");
         dialogs.boxes.clear();
         // The computation sorted the individuals.
-        main.lvwIn.SortBy(0, 0);
+        main.lvwIn.SortBy(In::ID, 0);
         main.lvwIn.SetSorted(false);
     }
     /// Sets the marks of the rows as they are told, a character a row: "." none, "s" highlighted, "c" ticked,

@@ -9,7 +9,7 @@ TEST_F(Lists, TheNextMarkedRowIsShownAndTheSortEnds) {
     main.lvwIn.OnEnsureVisible = [&](const Row& row) { seen.push_back(row.Index()); };
     Mark(main.lvwIn, "c.cs.");
     Point(main.lvwIn, -1, -1);
-    main.lvwIn.SortBy(0, 0);
+    main.lvwIn.SortBy(In::ID, 0);
     for (int i = 0; i < 5; ++i) main.mnuNextSelected.Click();
     EXPECT_EQ(seen, (std::vector<std::int32_t>{1, 3, 4}));
     EXPECT_EQ(Marks(main.lvwIn), "b.bs.");
@@ -57,24 +57,24 @@ TEST_F(Lists, ColumnsAreSwitchedAndResetTogether) {
     };
     Table& family = main.lvwFamilyXref;
     Point(family, 0, 0);
-    family.ColumnAt(2).Width = 1;
+    family.ColumnAt(Family::IDHusb).Width = 1;
     main.mnuResetCol.Click();
-    EXPECT_EQ(family.ColumnAt(2).Width, 2540);
+    EXPECT_EQ(family.ColumnAt(Family::IDHusb).Width, 2540);
     main.mnuColUnselect.Click();
     EXPECT_EQ(icons(family), "OfOfOfOfOfOf");
     ASSERT_EQ(dialogs.boxes.size(), 1u);
     EXPECT_EQ(dialogs.boxes[0].title, "SwiftRoll (v3.4.0) - Sélection Colonnes"_t);
     // Shift and a click switches one.
     desktop.shiftIsDown = true;
-    main.lvw_ColumnClick(family, family.ColumnAt(3));
+    main.lvw_ColumnClick(family, family.ColumnAt(Family::IDWife));
     EXPECT_EQ(icons(family), "OfOfOnOfOfOf");
     main.mnuColSelect.Click();
     EXPECT_EQ(icons(family), "OnOnOnOnOnOn");
     EXPECT_EQ(dialogs.boxes.size(), 1u);
     desktop.shiftIsDown = false;
     family.SetSorted(false);
-    main.lvw_ColumnClick(family, family.ColumnAt(3));
-    EXPECT_EQ(family.ColumnAt(3).Icon, "OnDw");
+    main.lvw_ColumnClick(family, family.ColumnAt(Family::IDWife));
+    EXPECT_EQ(family.ColumnAt(Family::IDWife).Icon, "OnDw");
     Point(main.lvwOut, 0, 0);
     const Text before = icons(main.lvwOut);
     main.mnuColUnselect.Click();
@@ -97,7 +97,7 @@ TEST_F(Lists, AJumpGoesToWhatTheCellNames) {
             const char target = c.targets[column];
             // Links are sorted or not; the first one that leads from the father to the mother is meant.
             if (&c.table == &main.lvwXref)
-                main.HitTest(main.lvwXref.Item("@I1@@I2@").Index() - 1, main.lHitCol);
+                main.HitTest(main.lvwXref.Item("@I1@@I2@").Index() - 1, main.lHitCol.Section());
             main.lvw_DblClick(c.table);
             Text marked = Marks(main.lvwIn) + Marks(main.lvwFamily);
             Text expected(6, '.');

@@ -96,17 +96,17 @@ TEST_F(ParameterSets, AColourThatIsNoNumberEndsTheLoad) {
 }
 
 TEST_F(ParameterSets, ASetOfColumnsHoldsSixTables) {
-    for (Table* table : main.All()) table->MoveColumn(1, 2);
+    for (Table* table : main.All()) table->MoveColumn(ColumnId::OfIndex(1), 2);
     SaveAs(main.cboColumns, "c", main.cmdSaveColumns);
     for (Table* table : main.All()) {
-        table->MoveColumn(1, 1);
-        table->ColumnAt(1).Width = 1;
+        table->MoveColumn(ColumnId::OfIndex(1), 1);
+        table->ColumnAt(ColumnId::OfIndex(1)).Width = 1;
     }
     main.cboColumns.SetListIndex(0);
     for (const Table* table : main.All()) {
         const bool isHeld = table != &main.lvwXref1;
-        EXPECT_EQ(table->ColumnAt(1).Position, isHeld ? 2 : 1) << table->Name();
-        EXPECT_EQ(table->ColumnAt(1).Width > 1, isHeld) << table->Name();
+        EXPECT_EQ(table->ColumnAt(ColumnId::OfIndex(1)).Position, isHeld ? 2 : 1) << table->Name();
+        EXPECT_EQ(table->ColumnAt(ColumnId::OfIndex(1)).Width > 1, isHeld) << table->Name();
     }
 }
 

@@ -127,8 +127,8 @@ class Monkey : public Dialogs, public EventPump {
             if (table->Count() == 0) continue;
             Row row = table->Item(1);
             row.SetSelected(true);
-            for (std::int16_t c = 0; c <= table->ColumnCount(); ++c) {
-                EXPECT_EQ(row.Look(c), CellLook()) << table->Name();
+            for (int c = 0; c <= table->ColumnCount(); ++c) {
+                EXPECT_EQ(row.Look(ColumnId::OfIndex(c)), CellLook()) << table->Name();
             }
         }
     }
@@ -312,7 +312,7 @@ void Monkey::WorkWithATable() {
         row.SetChecked(dice_.OneIn(2));
         table.SetCurrent(row);
     }
-    const auto column = static_cast<std::int16_t>(dice_.Below(table.ColumnCount()) + 1);
+    const ColumnId column = ColumnId::OfSection(dice_.Below(table.ColumnCount()));
     ListKey key;
     switch (dice_.Below(7)) {
         case 0:
@@ -368,7 +368,7 @@ void Monkey::TakeSettings(const frmMain& other) {
         }
     }
     for (Table* table : main.All()) {
-        for (const Column& column : table->Columns()) table->MoveColumn(column.Index, column.Index);
+        for (const Column& column : table->Columns()) table->MoveColumn(column.Index, column.Index.Index());
     }
 }
 

@@ -62,9 +62,9 @@ std::vector<Text> RowsOf(Table& table) {
 
 Text RowText(const Row& row) {
     Text text;
-    for (std::int16_t column = 1; column <= row.ColumnCount(); ++column) {
-        if (column > 1) text += '|';
-        text += row.Cell(column);
+    for (int section = 0; section < row.ColumnCount(); ++section) {
+        if (section > 0) text += '|';
+        text += row.Cell(ColumnId::OfSection(section));
     }
     return text;
 }

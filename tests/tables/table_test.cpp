@@ -14,6 +14,7 @@ namespace swiftroll {
 namespace {
 
 using test::KindOf;
+constexpr ColumnId First = ColumnId::OfIndex(1), Second = ColumnId::OfIndex(2), Third = ColumnId::OfIndex(3);
 constexpr FailureKind kOutOfRange = FailureKind::IndexOutOfRange;
 const CellLook kBold{.Tag = "t", .ToolTipText = "tip", .Icon = "i", .ForeColor = 255, .Bold = true};
 
@@ -45,9 +46,9 @@ struct PlainRow {
 };
 
 PlainRow Plain(const Row& row) {
-    const int marks = row.Selected() + 2 * row.Checked() + 4 * (row.Look(3) == kBold);
+    const int marks = row.Selected() + 2 * row.Checked() + 4 * (row.Look(Third) == kBold);
     EXPECT_EQ(row.Marked(), row.Selected() || row.Checked());
-    return {row.Key(), Text(row.Cell(1)), Text(row.Cell(2)), Text(row.Tag()), marks};
+    return {row.Key(), Text(row.Text()), Text(row.Cell(Second)), Text(row.Tag()), marks};
 }
 
 // Random additions, changes, removals, sorts and look-ups, compared with a plain list. A few first parts with
@@ -80,12 +81,12 @@ TEST_F(TableTest, BehavesAsAPlainListOfRows) {
             const int marks = static_cast<int>(random() % 8);
             rows[static_cast<std::size_t>(known - 1)] = {key, cell, id, cell, marks};
             Row row = table.Item(key);
-            row.SetCell(1, TextView(cell));
-            row.SetCell(2, table.Store().Intern(id));
+            row.SetCell(First, TextView(cell));
+            row.SetCell(Second, table.Store().Intern(id));
             row.SetTag(cell);
             row.SetSelected((marks & 1) != 0);
             row.SetChecked((marks & 2) != 0);
-            row.SetLook(3, (marks & 4) != 0 ? kBold : CellLook());
+            row.SetLook(Third, (marks & 4) != 0 ? kBold : CellLook());
         } else if (act < 94 && isKnown) {
             table.Remove(known);
             rows.erase(rows.begin() + (known - 1));
@@ -96,7 +97,7 @@ TEST_F(TableTest, BehavesAsAPlainListOfRows) {
         } else if (act > 95) {
             const auto text = random() % 2 == 0 ? &PlainRow::cell : &PlainRow::interned;
             const bool descending = random() % 2 == 0;
-            table.SortBy(text == &PlainRow::interned, descending);
+            table.SortBy(text == &PlainRow::interned ? Second : First, descending);
             std::stable_sort(rows.begin(), rows.end(), [&](const PlainRow& a, const PlainRow& b) {
                 return descending ? b.*text < a.*text : a.*text < b.*text;
             });
@@ -121,29 +122,31 @@ TEST_F(TableTest, EveryAccessIsChecked) {
         EXPECT_EQ(KindOf([&] { table.Remove(index); }), kOutOfRange) << index;
         EXPECT_EQ(KindOf([&] { table.Add(index == 3 ? 4 : index, "k", "t"); }), kOutOfRange) << index;
     }
-    for (const std::int16_t column : std::initializer_list<std::int16_t>{-1, 0, 6, 32767}) {
-        EXPECT_EQ(KindOf([&] { row.Cell(column); }), kOutOfRange) << column;
-        EXPECT_EQ(KindOf([&] { row.SetCell(column, TextView("x")); }), kOutOfRange) << column;
-        EXPECT_EQ(KindOf([&] { table.ColumnAt(column); }), kOutOfRange) << column;
-        EXPECT_EQ(KindOf([&] { table.MoveColumn(1, column); }), kOutOfRange) << column;
+    for (const int index : {-1, 0, 6, 32767}) {
+        const ColumnId column = ColumnId::OfIndex(index);
+        EXPECT_EQ(KindOf([&] { row.Cell(column); }), kOutOfRange) << index;
+        EXPECT_EQ(KindOf([&] { row.SetCell(column, TextView("x")); }), kOutOfRange) << index;
+        EXPECT_EQ(KindOf([&] { table.ColumnAt(column); }), kOutOfRange) << index;
+        EXPECT_EQ(KindOf([&] { table.MoveColumn(First, static_cast<std::int16_t>(index)); }), kOutOfRange)
+            << index;
     }
-    for (const std::int16_t key : std::initializer_list<std::int16_t>{-1, 5}) {
+    for (const ColumnId key : {ColumnId::OfIndex(0), ColumnId::OfIndex(6)}) {
         EXPECT_EQ(KindOf([&] { table.SetSortKey(key); }), kOutOfRange);
         EXPECT_EQ(KindOf([&] { table.SortBy(key, 0); }), kOutOfRange);
         EXPECT_EQ(KindOf([&] { table.SortByForms({"1", "2"}, key, 0); }), kOutOfRange);
     }
-    EXPECT_EQ(KindOf([&] { row.SetLook(6, {}); }), kOutOfRange);
-    EXPECT_EQ(KindOf([&] { table.SortByForms({"1"}, 0, 0); }), FailureKind::InvalidArgument);
+    EXPECT_EQ(KindOf([&] { row.SetLook(ColumnId::OfIndex(6), {}); }), kOutOfRange);
+    EXPECT_EQ(KindOf([&] { table.SortByForms({"1"}, First, 0); }), FailureKind::InvalidArgument);
     for (const TextView key : {"", "x", "B", "k"})
         EXPECT_EQ(KindOf([&] { table.Item(key); }), FailureKind::KeyNotFound) << key;
     EXPECT_EQ(ColumnText(table), "ab");
-    EXPECT_TRUE(!table.Sorted() && table.SortKey() == 0);
+    EXPECT_TRUE(!table.Sorted() && table.SortKey() == First);
 }
 
 TEST_F(TableTest, AHandleFromBeforeARemovalIsRefused) {
     const std::function<void(Row&)> uses[] = {
         [](Row& row) { row.Text(); },
-        [](Row& row) { row.SetCell(1, TextView("x")); },
+        [](Row& row) { row.SetCell(First, TextView("x")); },
         [](Row& row) { row.Index(); },
         [](Row& row) { row.Key(); },
         [](Row& row) { row.Tag(); },
@@ -151,8 +154,8 @@ TEST_F(TableTest, AHandleFromBeforeARemovalIsRefused) {
         [](Row& row) { row.Marked(); },
         [](Row& row) { row.SetChecked(true); },
         [](Row& row) { row.Look(); },
-        [](Row& row) { row.SetLook(0, {}); },
-        [](Row& row) { row.VisitLengths([](std::int16_t, std::size_t) {}); },
+        [](Row& row) { row.SetLook({}, {}); },
+        [](Row& row) { row.VisitLengths([](ColumnId, std::size_t) {}); },
     };
     AddRows("abc");
     Row removed = table.Item(2), before = table.Item(1);
@@ -169,23 +172,23 @@ TEST_F(TableTest, AHandleFromBeforeARemovalIsRefused) {
 TEST_F(TableTest, SortedSortKeyAndSortOrder) {
     AddRows("bca");
     const TextView second[] = {"2", "1", "3"};
-    for (std::int32_t i = 1; i <= 3; ++i) table.Item(i).SetSubItems(1, second[i - 1]);
-    table.SetSortKey(1);
+    for (std::int32_t i = 1; i <= 3; ++i) table.Item(i).SetCell(Second, second[i - 1]);
+    table.SetSortKey(Second);
     table.SetSortOrder(1);
     EXPECT_EQ(ColumnText(table), "bca") << "not before Sorted is set";
     table.SetSorted(true);
     EXPECT_EQ(ColumnText(table), "abc");
     table.SetSortOrder(0);
     EXPECT_EQ(ColumnText(table), "cba");
-    table.SetSortKey(0);
+    table.SetSortKey(First);
     EXPECT_EQ(ColumnText(table), "abc");
     table.SetSorted(false);
     table.SetSortOrder(1);
     EXPECT_EQ(ColumnText(table), "abc");
-    table.SortByForms({"2", "1", "2"}, 2, 0);
+    table.SortByForms({"2", "1", "2"}, Third, 0);
     EXPECT_EQ(ColumnText(table), "bac") << "by the forms alone";
-    EXPECT_TRUE(table.Sorted() && table.SortKey() == 2 && table.SortOrder() == 0);
-    table.SortByForms({"1", "2", "2"}, 2, 1);
+    EXPECT_TRUE(table.Sorted() && table.SortKey() == Third && table.SortOrder() == 0);
+    table.SortByForms({"1", "2", "2"}, Third, 1);
     EXPECT_EQ(ColumnText(table), "acb");
     table.Clear();
     EXPECT_TRUE(table.Sorted());
@@ -194,7 +197,7 @@ TEST_F(TableTest, SortedSortKeyAndSortOrder) {
 
 TEST_F(TableTest, TablesOfOneReadShareTheirTexts) {
     Row indi = tables.lvwIn.Add({}, "@I1@", "@I1@");
-    Row link = tables.lvwXref.Add({}, RowKey(indi.Ref(1)), indi.Ref(1));
+    Row link = tables.lvwXref.Add({}, RowKey(indi.Ref(In::ID)), indi.Ref(In::ID));
     tables.lvwIn.Clear();
     EXPECT_EQ(link.Text(), "@I1@");
     EXPECT_EQ(&tables.lvwIn.Store(), &tables.lvwXref.Store());
@@ -205,7 +208,7 @@ TEST_F(TableTest, MovedColumnsCloseUp) {
     const std::tuple<std::int16_t, std::int16_t, TextView> moves[] = {
         {2, 4, "14235"}, {5, 1, "25341"}, {5, 5, "14235"}, {3, 2, "14235"}, {2, 2, "12345"}, {1, 5, "51234"}};
     for (const auto& [index, position, expected] : moves) {
-        table.MoveColumn(index, position);
+        table.MoveColumn(ColumnId::OfIndex(index), position);
         Text positions;
         for (const Column& column : table.Columns()) positions += static_cast<char>('0' + column.Position);
         EXPECT_EQ(positions, expected) << index << " to " << position;

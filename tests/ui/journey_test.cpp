@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "support/test_ports.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {

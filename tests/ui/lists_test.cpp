@@ -4,7 +4,7 @@
 #include <QScrollBar>
 
 #include "support/test_ports.h"
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {

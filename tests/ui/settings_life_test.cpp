@@ -3,7 +3,7 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {

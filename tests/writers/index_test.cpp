@@ -1,5 +1,5 @@
 // The alphabetical index: its links, and the anchors that they lead to.
-#include "tables/column_numbers.h"
+#include "tables/columns.h"
 #include "writers/writers_fixture.h"
 
 namespace swiftroll::test {
@@ -63,7 +63,7 @@ TEST_F(Writing, EntriesFollowTheRowsThatAreWritten) {
     main.lvwOut.Item(1).SetSelected(true);
     main.lvwOut.Item(3).SetChecked(true);
     main.lvwOut.Item(5).SetChecked(true);
-    main.lvwOut.SortBy(Out::Number - 1, 0);
+    main.lvwOut.SortBy(Out::Number, 0);
     const std::pair<BoxAnswer, Texts> cases[] = {{BoxAnswer::Yes, {"A", "C", "A", "D", "B"}},
                                                  {BoxAnswer::No, {"A", "D", "B"}}};
     for (const auto& [rows, entries] : cases) {
