@@ -1,20 +1,16 @@
 #include "extract/families_to_save.h"
 
 #include <algorithm>
-#include <numeric>
+#include <iterator>
 #include <utility>
 
 #include "tables/columns.h"
+#include "tables/counting_sort.h"
+#include "tables/look_ahead.h"
 
 namespace swiftroll::modSaveGed {
-namespace {
 
-// The tables are sorted by identifiers, but their rows stand in memory as they were read.
-constexpr std::int32_t kLookAhead = 16;
-
-}  // namespace
-
-FamiliesToSave::FamiliesToSave(TableSet& tables)
+FamiliesToSave::FamiliesToSave(const TableSet& tables)
     : lvwIn_(tables.lvwIn),
       lvwFamily_(tables.lvwFamily),
       lvwFamilyXref_(tables.lvwFamilyXref),
@@ -22,7 +18,7 @@ FamiliesToSave::FamiliesToSave(TableSet& tables)
 
 void FamiliesToSave::AddMarked() {
     for (std::int32_t i = 1; i <= lvwIn_.Count(); ++i) {
-        const Row person = lvwIn_.Item(i);
+        const RowView person = lvwIn_.Item(i);
         if (person.Marked()) AddFamToSave(person.Ref(In::ID));
     }
 }
@@ -39,8 +35,8 @@ std::vector<FamiliesToSave::Spouses> FamiliesToSave::ReadFamilies() {
     spouses.reserve(static_cast<std::size_t>(lvwFamily_.Count()));
     families_.reserve(spouses.capacity());
     for (std::int32_t i = 1; i <= lvwFamily_.Count(); ++i) {
-        lvwFamily_.Prefetch(i + kLookAhead);
-        const Row family = lvwFamily_.Item(i);
+        LookAhead(lvwFamily_, i);
+        const RowView family = lvwFamily_.Item(i);
         spouses.push_back(
             {family.Ref(Family::IDHusb), family.Ref(Family::IDWife), family.Ref(Family::IDFams)});
         families_.push_back({family.Ref(Family::IDFam), RangeOfTag(family.Tag())});
@@ -62,12 +58,11 @@ std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const st
     TextRef lastFamily;
     std::uint32_t number = kNone;
     for (std::int32_t i = 1; i <= lvwFamilyXref_.Count(); ++i) {
-        lvwFamilyXref_.Prefetch(i + 2 * kLookAhead);
-        if (i + kLookAhead <= lvwFamilyXref_.Count()) {
-            const TextRef soon = lvwFamilyXref_.Item(i + kLookAhead).Ref(FamilyXref::IDIndi);
-            if (!soon.IsEmpty()) PrefetchMemory(&rankOf_[soon.Symbol()]);
-        }
-        const Row member = lvwFamilyXref_.Item(i);
+        LookAhead(lvwFamilyXref_, i, [&](const RowView& soon) {
+            const TextRef id = soon.Ref(FamilyXref::IDIndi);
+            if (!id.IsEmpty()) PrefetchMemory(&rankOf_[id.Symbol()]);
+        });
+        const RowView member = lvwFamilyXref_.Item(i);
         const TextRef sIndi = member.Ref(FamilyXref::IDIndi), sFam = member.Ref(FamilyXref::IDFam);
         if (sIndi.IsEmpty() || sFam.IsEmpty()) continue;
         if (std::exchange(lastFamily, sFam) != sFam) number = numberOf[sFam.Symbol()];
@@ -91,15 +86,11 @@ void FamiliesToSave::Arrange() {
     AddMarked();
     const std::vector<Membership> memberships = ReadMemberships(ReadFamilies());
     members_.resize(memberships.size());
-    std::uint32_t first = 0;
-    for (FamilyRow& family : families_) {
-        family.firstMember = first;
-        first += std::exchange(family.added, 0);
-    }
-    for (const auto& [number, member] : memberships) {
-        FamilyRow& family = families_[number];
-        members_[family.firstMember + family.added++] = member;
-    }
+    const auto familyOf = [&](std::size_t i) { return memberships[i].family; };
+    const auto starts = ListStarts(memberships.size(), families_.size(), familyOf);
+    PutIntoLists(memberships.size(), starts, familyOf,
+                 [&](std::uint32_t place, std::size_t i) { members_[place] = memberships[i].member; });
+    for (std::size_t n = 0; n < families_.size(); ++n) families_[n].firstMember = starts[n];
     for (const FamilyRow& family : families_) {
         const auto begin = members_.begin() + family.firstMember;
         std::sort(begin, begin + family.added,
@@ -110,15 +101,13 @@ void FamiliesToSave::Arrange() {
     const auto isLast = [&](const FamilyRow& family, Rank rank) {
         return members_[family.firstMember + family.added - 1].rank == rank;
     };
-    std::vector<std::uint32_t> place(added_.size() + 2);
-    for (const auto& [number, member] : memberships)
-        place[member.rank + 1] += isLast(families_[number], member.rank) ? 1 : 0;
-    std::partial_sum(place.begin(), place.end(), place.begin());
-    ordered_.resize(place.back());
-    for (const auto& [number, member] : memberships) {
-        const FamilyRow& family = families_[number];
-        if (isLast(family, member.rank)) ordered_[place[member.rank]++] = family;
-    }
+    std::vector<Membership> last;
+    std::copy_if(memberships.begin(), memberships.end(), std::back_inserter(last),
+                 [&](const Membership& m) { return isLast(families_[m.family], m.member.rank); });
+    const auto rankOf = [&](std::size_t i) { return last[i].member.rank; };
+    ordered_.resize(last.size());
+    PutIntoLists(last.size(), ListStarts(last.size(), added_.size() + 1, rankOf), rankOf,
+                 [&](std::uint32_t place, std::size_t i) { ordered_[place] = families_[last[i].family]; });
 }
 
 }  // namespace swiftroll::modSaveGed

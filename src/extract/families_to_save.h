@@ -13,7 +13,7 @@ namespace swiftroll::modSaveGed {
 /// to the end each time a member is added, so that families stand in the order of their last member.
 class FamiliesToSave {
   public:
-    explicit FamiliesToSave(TableSet& tables);
+    explicit FamiliesToSave(const TableSet& tables);
 
     /// Adds each marked individual, in the order of lvwIn, to all its families, and puts these in their
     /// order. Only reads the tables. @throws Failure KeyNotFound when a family has no row
@@ -60,9 +60,9 @@ class FamiliesToSave {
     std::vector<Spouses> ReadFamilies();
     std::vector<Membership> ReadMemberships(const std::vector<Spouses>& spouses);
 
-    Table& lvwIn_;
-    Table& lvwFamily_;
-    Table& lvwFamilyXref_;
+    const Table& lvwIn_;
+    const Table& lvwFamily_;
+    const Table& lvwFamilyXref_;
     std::vector<TextRef> added_;  // the individuals in their order: the first one has the rank 1
     std::vector<Rank> rankOf_;    // by the number of the identifier, 0 for others
     std::vector<FamilyRow> families_, ordered_;  // in the order of the table, and in that of the extract

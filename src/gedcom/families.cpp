@@ -1,6 +1,7 @@
 #include "gedcom/families.h"
 
 #include "tables/columns.h"
+#include "tables/look_ahead.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -9,7 +10,6 @@ namespace swiftroll::modReadGedcom {
 namespace {
 
 constexpr std::int32_t kStatusStep = 200;
-constexpr std::int32_t kLookAhead = 8;
 
 /// The display names of all individuals, made in one pass in the order of `lvwIn`, which does not change
 /// meanwhile.
@@ -79,7 +79,9 @@ class FamilyCopier {
         bool marriageCopied = false;
         for (std::int32_t i = 1; i <= count; ++i) {
             if (i % kStatusStep == 0) ShowStatus(i, count);
-            LookAhead(i, count);
+            LookAhead(app_.lvwFamilyXref, i, [&](const RowView& soon) {
+                app_.lvwIn.Prefetch(RowKey(soon.Ref(FamilyXref::IDIndi)));
+            });
             Row member = app_.lvwFamilyXref.Item(i);
             // Both tables stand in the order of the family identifiers; families without members are passed
             // over.
@@ -99,13 +101,6 @@ class FamilyCopier {
             if (app_.bAbort) break;
         }
         ShowStatus(count, count);
-    }
-
-    /// Fetches the rows that the loop will come to: the member first, the person it names a little later.
-    void LookAhead(std::int32_t i, std::int32_t count) const {
-        app_.lvwFamilyXref.Prefetch(i + 2 * kLookAhead);
-        if (i + kLookAhead > count) return;
-        app_.lvwIn.Prefetch(RowKey(app_.lvwFamilyXref.Item(i + kLookAhead).Ref(FamilyXref::IDIndi)));
     }
 
     void ShowStatus(std::int32_t done, std::int32_t count) {

@@ -1,6 +1,7 @@
 #include "gedcom/islands.h"
 
 #include "tables/columns.h"
+#include "tables/look_ahead.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -9,7 +10,6 @@ namespace swiftroll::modReadGedcom {
 namespace {
 
 constexpr std::int32_t kStatusStep = 100;
-constexpr std::int32_t kLookAhead = 16;
 
 /// The links as numbers: rows of `lvwIn` from 0, and for each the links that leave it. The walk then stays in
 /// small arrays, wherever the rows stand in memory.
@@ -19,7 +19,7 @@ class LinkGraph {
         : pause_([&app] { app.ports.status.StatusChanged(); }) {
         targets_.reserve(static_cast<std::size_t>(app.lvwXref.Count()));
         for (std::int32_t i = 1; i <= app.lvwXref.Count(); ++i) {
-            app.lvwXref.Prefetch(i + kLookAhead);
+            LookAhead(app.lvwXref, i);
             app.ProgressBar1.Show(i, app.lvwXref.Count());
             const auto linked = app.lvwIn.Find(RowKey(app.lvwXref.Item(i).Ref(Xref::IDIndi2)));
             targets_.push_back(linked ? linked->Index() - 1 : kNobody);

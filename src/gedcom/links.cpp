@@ -2,6 +2,7 @@
 
 #include "gedcom/dates.h"
 #include "tables/columns.h"
+#include "tables/look_ahead.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -9,8 +10,6 @@
 namespace swiftroll::modReadGedcom {
 
 namespace {
-
-constexpr std::int32_t kLookAhead = 16;
 
 /// The row of a key; a new one has `text` in its first cell.
 Row RowOf(Table& table, RowKey key, TextRef text, Widths& widths) {
@@ -117,7 +116,7 @@ XrefRanges CalcXrefIds(Application& app, Table& table, ColumnId iSortCol) {
             lFirst = 1;
             sId = table.Item(1).Ref(iSortCol);
             for (i = 2; i <= count; ++i) {
-                table.Prefetch(i + kLookAhead);
+                LookAhead(table, i);
                 const TextRef id = table.Item(i).Ref(iSortCol);
                 if (id == sId) continue;
                 app.ProgressBar1.Show(i, count);

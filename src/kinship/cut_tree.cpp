@@ -2,6 +2,8 @@
 
 #include <numeric>
 
+#include "tables/counting_sort.h"
+
 namespace swiftroll::modKinshipOptimize {
 
 using modKinship::At;
@@ -20,14 +22,9 @@ std::vector<std::int32_t> OwnLowest(const DepthFirstTree& tree) {
 }
 
 /// The numbers 0, 1, ... in the order of `ranks`, which are below `limit`.
-std::vector<std::int32_t> OrderByRank(const std::vector<std::int32_t>& ranks, std::int32_t limit) {
-    std::vector<std::int32_t> next(static_cast<std::size_t>(limit) + 1);
-    for (const std::int32_t rank : ranks) ++At(next, rank + 1);
-    std::partial_sum(next.begin(), next.end(), next.begin());
-    std::vector<std::int32_t> order(ranks.size());
-    for (std::size_t i = 0; i < ranks.size(); ++i)
-        At(order, At(next, ranks[i])++) = static_cast<std::int32_t>(i);
-    return order;
+std::vector<std::uint32_t> OrderByRank(const std::vector<std::int32_t>& ranks, std::int32_t limit) {
+    return CountingOrder(ranks.size(), static_cast<std::size_t>(limit),
+                         [&](std::size_t i) { return ranks[i]; });
 }
 
 }  // namespace
@@ -58,7 +55,7 @@ void CutTree::FindHighestInside() {
     }
     std::vector<std::int32_t> depths(ways.size());
     std::transform(ways.begin(), ways.end(), depths.begin(), [](const WayUp& way) { return way.toDepth; });
-    const std::vector<std::int32_t> order = OrderByRank(depths, tree_.Count());
+    const std::vector<std::uint32_t> order = OrderByRank(depths, tree_.Count());
 
     inside_.assign(static_cast<std::size_t>(tree_.Count()), kNobody);
     std::vector<std::int32_t> open(
@@ -69,7 +66,7 @@ void CutTree::FindHighestInside() {
         return v;
     };
     for (auto place = order.rbegin(); place != order.rend(); ++place) {
-        const WayUp& way = At(ways, *place);
+        const WayUp& way = ways[*place];
         for (std::int32_t v = nextOpen(way.from); tree_.DepthOf(v) > way.toDepth + 1; v = nextOpen(v)) {
             At(inside_, v) = way.toDepth;
             At(open, v) = tree_.ParentOf(v);
@@ -79,23 +76,27 @@ void CutTree::FindHighestInside() {
 
 void CutTree::GroupChildren() {
     const auto count = static_cast<std::size_t>(tree_.Count());
-    firstChild_.assign(count + 1, 0);
-    for (std::int32_t v = 1; v < tree_.Count(); ++v) ++At(firstChild_, tree_.ParentOf(v) + 1);
-    std::partial_sum(firstChild_.begin(), firstChild_.end(), firstChild_.begin());
+    // The root, node 0, is nobody's child.
+    const auto parentOf = [&](std::size_t child) {
+        return tree_.ParentOf(static_cast<std::int32_t>(child) + 1);
+    };
+    firstChild_ = ListStarts(count - 1, count, parentOf);
     children_.resize(count - 1);
     childLowest_.resize(count - 1);
     bestInside_.resize(count - 1);
-    std::vector<std::int32_t> next = firstChild_;
-    for (std::int32_t v = 1; v < tree_.Count(); ++v) At(children_, At(next, tree_.ParentOf(v))++) = v;
-    next = firstChild_;
-    for (const std::int32_t v : OrderByRank(lowest_, tree_.Count() + 1)) {
-        if (v == 0) continue;
+    PutIntoLists(count - 1, firstChild_, parentOf, [&](std::uint32_t place, std::size_t child) {
+        children_[place] = static_cast<std::int32_t>(child) + 1;
+    });
+    std::vector<std::uint32_t> next = firstChild_;
+    for (const std::uint32_t node : OrderByRank(lowest_, tree_.Count() + 1)) {
+        if (node == 0) continue;
+        const auto v = static_cast<std::int32_t>(node);
         const std::int32_t parent = tree_.ParentOf(v);
-        const std::int32_t place = At(next, parent)++;
-        At(childLowest_, place) = At(lowest_, v);
-        At(bestInside_, place) = At(inside_, v);
+        const std::uint32_t place = At(next, parent)++;
+        childLowest_[place] = At(lowest_, v);
+        bestInside_[place] = At(inside_, v);
         if (place > At(firstChild_, parent)) {
-            At(bestInside_, place) = std::max(At(bestInside_, place), At(bestInside_, place - 1));
+            bestInside_[place] = std::max(bestInside_[place], bestInside_[place - 1]);
         }
     }
 }
@@ -128,8 +129,8 @@ bool CutTree::MiddleIsJoined() const {
     const auto first = childLowest_.begin() + At(firstChild_, lower_);
     const auto last = childLowest_.begin() + At(firstChild_, lower_ + 1);
     const auto reaching =
-        static_cast<std::int32_t>(std::lower_bound(first, last, depth) - childLowest_.begin());
-    return reaching > At(firstChild_, lower_) && At(bestInside_, reaching - 1) > depth;
+        static_cast<std::size_t>(std::lower_bound(first, last, depth) - childLowest_.begin());
+    return reaching > At(firstChild_, lower_) && bestInside_[reaching - 1] > depth;
 }
 
 CutTree::Verdict CutTree::Judge(bool joined, std::int32_t top) const {

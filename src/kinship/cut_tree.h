@@ -44,7 +44,8 @@ class CutTree {
     modKinship::RangeMinimum ownLowest_;
     // The children of v, from firstChild_[v] up to firstChild_[v + 1], by number; and by what they reach,
     // where each entry of `bestInside_` is the greatest `inside_` of the child and those before it.
-    std::vector<std::int32_t> firstChild_, children_, childLowest_, bestInside_;
+    std::vector<std::uint32_t> firstChild_;
+    std::vector<std::int32_t> children_, childLowest_, bestInside_;
     std::vector<std::int32_t> oneWayBefore_;  // number of ends of one-way links before v
 
     std::int32_t upper_ = 0, lower_ = modKinship::kNobody;

@@ -1,6 +1,7 @@
 #include "kinship/island_links.h"
 
 #include "tables/columns.h"
+#include "tables/look_ahead.h"
 #include "tables/text_copier.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -10,7 +11,6 @@ namespace swiftroll::modKinship {
 namespace {
 
 constexpr std::int32_t kStatusStep = 1000;
-constexpr std::int32_t kLookAhead = 16;
 constexpr TextView kStatus = "Simplification de l'arbre... : ";
 
 }  // namespace
@@ -28,7 +28,7 @@ bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
     bool isInIsland = false;
     std::int32_t nextPause = kStatusStep;
     for (std::int32_t& r = ++progress.row; r <= lNrXref; ++r) {
-        links.Prefetch(r + kLookAhead);
+        LookAhead(links, r);
         const TextRef id = links.Item(r).Ref(Xref::IDIndi1);
         if (id != previousId) {
             if (r >= nextPause) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tables/counting_sort.h"
 #include "tables/symbol_ranks.h"
 #include "tables/text_sort.h"
 #include "text/edit.h"
@@ -87,7 +88,7 @@ Row Table::Append(const std::optional<RowKey>& key, TextRef text) {
     }
     order_.push_back(slot);
     const Row row(*this, slot);
-    *row.cells_ = text;
+    cells_.Row(slot)[0] = text;
     return row;
 }
 
@@ -144,7 +145,7 @@ void Table::Remove(std::int32_t index) {
     }
     index_.Erase(slot);
     if (slot < marks_.size()) marks_[slot] = 0;
-    std::fill_n(row.cells_, columns_.size(), TextRef());
+    std::fill_n(cells_.Row(slot), columns_.size(), TextRef());
     if (slot < tags_.size()) tags_[slot] = TextRef();
     freeSlots_.push_back(slot);
     order_.erase(order_.begin() + (index - 1));
@@ -226,16 +227,10 @@ std::optional<std::vector<std::uint32_t>> Table::OrderBySymbols(std::size_t sect
         PauseAt(i, OnPause);
     }
     const SymbolRanks ranks(*store_, refs, sortOrder_ == 1, OnPause);
-    // Where the rows of each rank begin.
-    std::vector<std::uint32_t> next(ranks.Count() + 1);
-    for (const TextRef ref : refs) ++next[ranks.Of(ref) + 1];
-    for (std::size_t rank = 1; rank < next.size(); ++rank) next[rank] += next[rank - 1];
-    std::vector<std::uint32_t> order(refs.size());
-    for (std::size_t i = 0; i < refs.size(); ++i) {
-        order[next[ranks.Of(refs[i])]++] = static_cast<std::uint32_t>(i);
+    return CountingOrder(refs.size(), ranks.Count(), [&](std::size_t i) {
         PauseAt(i, OnPause);
-    }
-    return order;
+        return ranks.Of(refs[i]);
+    });
 }
 
 void Table::SortByForms(const std::vector<TextView>& forms, ColumnId sortKey, std::int16_t sortOrder) {
@@ -265,13 +260,13 @@ std::int32_t Table::GatherMarked() {
     return static_cast<std::int32_t>(others - order_.begin());
 }
 
-void Table::RefreshPlaces() {
+void Table::RefreshPlaces() const {
     place_.resize(index_.SlotCount());
     for (std::size_t i = 0; i < order_.size(); ++i) place_[order_[i]] = static_cast<std::uint32_t>(i);
     placesAreFresh_ = true;
 }
 
-std::int32_t Row::Index() const {
+std::int32_t RowView::Index() const {
     CheckAlive();
     if (table_->inSlotOrder_) return static_cast<std::int32_t>(slot_ + 1);
     if (!table_->placesAreFresh_) table_->RefreshPlaces();
@@ -283,44 +278,44 @@ void Row::EnsureVisible() const {
     if (table_->OnEnsureVisible) table_->OnEnsureVisible(*this);
 }
 
-std::string Row::Key() const {
+std::string RowView::Key() const {
     CheckAlive();
     const RowKey& key = table_->index_.KeyOf(slot_);
     return Concat({table_->store_->Get(key.first), table_->store_->Get(key.second)});
 }
 
-TextView Row::Tag() const {
+TextView RowView::Tag() const {
     CheckAlive();
     return slot_ < table_->tags_.size() ? table_->store_->Get(table_->tags_[slot_]) : TextView();
 }
 
 void Row::SetTag(TextView tag) {
     CheckAlive();
-    table_->tags_.Grow(slot_ + std::size_t{1});
-    table_->tags_[slot_] = table_->Store().Put(tag);
+    Owner().tags_.Grow(slot_ + std::size_t{1});
+    Owner().tags_[slot_] = Owner().Store().Put(tag);
 }
 
-bool Row::HasMark(std::uint8_t mark) const {
+bool RowView::HasMark(std::uint8_t mark) const {
     CheckAlive();
     return slot_ < table_->marks_.size() && (table_->marks_[slot_] & mark) != 0;
 }
 
 void Row::SetMark(std::uint8_t mark, bool on) {
     CheckAlive();
-    table_->marks_.Grow(slot_ + std::size_t{1});
-    std::uint8_t& marks = table_->marks_[slot_];
+    Owner().marks_.Grow(slot_ + std::size_t{1});
+    std::uint8_t& marks = Owner().marks_[slot_];
     marks = static_cast<std::uint8_t>(on ? marks | mark : marks & ~mark);
 }
 
-std::uint64_t Row::LookPlace(ColumnId column) const {
+std::uint64_t RowView::LookPlace(ColumnId column) const {
     return std::uint64_t{slot_} << 16 | static_cast<std::uint16_t>(column.Index());
 }
 
-bool Row::IsPainted(ColumnId column) const {
-    return table_->paintedColumn_ == column && Marked() && (!column || !CellAt(column).IsEmpty());
+bool RowView::IsPainted(ColumnId column) const {
+    return table_->paintedColumn_ == column && Marked() && (!column || !Ref(column).IsEmpty());
 }
 
-CellLook Row::Look(ColumnId column) const {
+CellLook RowView::Look(ColumnId column) const {
     CheckAlive();
     const auto found = table_->looks_.find(LookPlace(column));
     CellLook look = found == table_->looks_.end() ? CellLook() : found->second;
@@ -335,9 +330,9 @@ void Row::SetLook(ColumnId column, const CellLook& look) {
     if (column) CellAt(column);
     CheckAlive();
     if (look == CellLook()) {
-        table_->looks_.erase(LookPlace(column));
+        Owner().looks_.erase(LookPlace(column));
     } else {
-        table_->looks_[LookPlace(column)] = look;
+        Owner().looks_[LookPlace(column)] = look;
     }
 }
 

@@ -17,6 +17,7 @@
 
 namespace swiftroll {
 
+class RowView;
 class Row;
 
 /// How a row or a cell is shown, and the text attached to a cell. Few have one, so it stands aside.
@@ -78,6 +79,7 @@ class Table {
     /// The row of a key or of a 1-based place, in constant time. @throws Failure KeyNotFound, IndexOutOfRange
     Row Item(TextView key);
     Row Item(std::int32_t index);
+    RowView Item(std::int32_t index) const;
     /// Tells the machine that the cells of the row at `index` will soon be asked for: a walk through a sorted
     /// table waits for memory at every row otherwise. Any number is allowed.
     void Prefetch(std::int32_t index) const {
@@ -90,6 +92,7 @@ class Table {
     }
     /// The row of a key of this table's store, where its absence is no failure.
     std::optional<Row> Find(RowKey key);
+    std::optional<RowView> Find(RowKey key) const;
     std::optional<Row> Find(TextView key);
     /// Removes the row at `index`. @throws Failure IndexOutOfRange
     void Remove(std::int32_t index);
@@ -130,8 +133,11 @@ class Table {
 
     /// Where the texts of the cells stand. References for `Add` and `SetCell` must come from it.
     TextStore& Store();
+    /// The same of a table that has rows.
+    const TextStore& Store() const { return *store_; }
 
   private:
+    friend class RowView;
     friend class Row;
     using Slot = KeyIndex::Slot;
     static constexpr std::uint8_t kSelected = 1, kChecked = 2;
@@ -142,7 +148,7 @@ class Table {
     void Resort();
     std::optional<std::vector<std::uint32_t>> OrderBySymbols(std::size_t section) const;
     void Reorder(const std::vector<std::uint32_t>& permutation);
-    void RefreshPlaces();
+    void RefreshPlaces() const;
 
     Text name_;
     Text baseTip_;
@@ -157,8 +163,8 @@ class Table {
     boost::unordered_flat_map<std::uint64_t, CellLook> looks_;  // by LookPlace
     KeyIndex index_;                                            // keys by slot, and slots by key
     std::vector<Slot> order_;                                   // slots in the order of the rows
-    std::vector<std::uint32_t> place_;  // by slot, the inverse of order_; refreshed when asked for
-    bool placesAreFresh_ = false;
+    mutable std::vector<std::uint32_t> place_;  // by slot, the inverse of order_; refreshed when asked for
+    mutable bool placesAreFresh_ = false;
     bool inSlotOrder_ = true;  // order_ is 0, 1, 2, ... and place_ is not needed
     std::vector<Slot> freeSlots_;
     std::uint32_t clearings_ = 0;
@@ -172,9 +178,9 @@ class Table {
     std::optional<ColumnId> paintedColumn_;
 };
 
-/// A row of a table: a handle that stays with its row through sorts and insertions. When rows were removed,
-/// or the table cleared, a handle from before throws Failure IndexOutOfRange at its next use.
-class Row {
+/// A row of a table, to read: a handle that stays with its row through sorts and insertions. When rows were
+/// removed, or the table cleared, a handle from before throws Failure IndexOutOfRange at its next use.
+class RowView {
   public:
     /// 1-based place in the table at present.
     std::int32_t Index() const;
@@ -184,14 +190,7 @@ class Row {
     TextView Text() const { return Cell(ColumnId::OfSection(0)); }
     /// @throws Failure IndexOutOfRange
     TextView Cell(ColumnId column) const { return table_->store_->Get(Ref(column)); }
-    TextRef Ref(ColumnId column) const { return CellAt(column); }
-    void SetCell(ColumnId column, TextRef ref) { CellAt(column) = ref; }
-    void SetCell(ColumnId column, TextView text) { SetCell(column, table_->Store().Put(text)); }
-    /// Writes a cell and gives the length of its text.
-    std::size_t Write(ColumnId column, TextRef ref) {
-        CellAt(column) = ref;
-        return ref.IsEmpty() ? 0 : table_->store_->Get(ref).size();
-    }
+    TextRef Ref(ColumnId column) const { return *CellAt(column); }
     /// Calls `visit(column, length)` for every cell that is not empty.
     template <class Visitor>
     void VisitLengths(Visitor visit) const {
@@ -204,50 +203,83 @@ class Row {
     }
 
     TextView Tag() const;
-    void SetTag(TextView tag);
 
     bool Selected() const { return HasMark(Table::kSelected); }
     bool Checked() const { return HasMark(Table::kChecked); }
     /// Both marks count alike in every command.
     bool Marked() const { return HasMark(Table::kSelected | Table::kChecked); }
-    /// Scrolls the row into view where there is one.
-    void EnsureVisible() const;
-    void SetSelected(bool on) { SetMark(Table::kSelected, on); }
-    void SetChecked(bool on) { SetMark(Table::kChecked, on); }
 
     /// How the cell of a column is shown; no column is the row itself. The paint of the table lies over what
     /// `SetLook` wrote.
     CellLook Look(ColumnId column = {}) const;
-    void SetLook(ColumnId column, const CellLook& look);
 
-    friend bool operator==(const Row& a, const Row& b) { return a.table_ == b.table_ && a.slot_ == b.slot_; }
+    friend bool operator==(const RowView& a, const RowView& b) {
+        return a.table_ == b.table_ && a.slot_ == b.slot_;
+    }
 
-  private:
+  protected:
     friend class Table;
-    Row(Table& table, Table::Slot slot)
+    RowView(const Table& table, Table::Slot slot)
         : table_(&table), cells_(table.cells_.Row(slot)), slot_(slot), generation_(table.generation_) {}
     void CheckAlive() const {
         if (generation_ != table_->generation_) ThrowIndexOutOfRange();
     }
-    TextRef& CellAt(ColumnId column) const {
+    const TextRef* CellAt(ColumnId column) const {
         CheckAlive();
         if (column.Index() < 1 || column.Index() > table_->columnCount_) ThrowIndexOutOfRange();
-        return cells_[column.Section()];
+        return cells_ + column.Section();
     }
     std::uint64_t LookPlace(ColumnId column) const;
-    bool HasMark(std::uint8_t mark) const;
-    bool IsPainted(ColumnId column) const;
-    void SetMark(std::uint8_t mark, bool on);
 
-    Table* table_;
-    TextRef* cells_;
+    const Table* table_;
+    const TextRef* cells_;
     Table::Slot slot_;
     std::uint32_t generation_;
+
+  private:
+    bool HasMark(std::uint8_t mark) const;
+    bool IsPainted(ColumnId column) const;
 };
+
+/// The same, to write too.
+class Row : public RowView {
+  public:
+    void SetCell(ColumnId column, TextRef ref) { Write(column, ref); }
+    void SetCell(ColumnId column, TextView text) { SetCell(column, Owner().Store().Put(text)); }
+    /// Writes a cell and gives the length of its text.
+    std::size_t Write(ColumnId column, TextRef ref) {
+        // The cells are those of a table that was given to be written.
+        *const_cast<TextRef*>(CellAt(column)) = ref;
+        return ref.IsEmpty() ? 0 : table_->store_->Get(ref).size();
+    }
+    void SetTag(TextView tag);
+    /// Scrolls the row into view where there is one.
+    void EnsureVisible() const;
+    void SetSelected(bool on) { SetMark(Table::kSelected, on); }
+    void SetChecked(bool on) { SetMark(Table::kChecked, on); }
+    void SetLook(ColumnId column, const CellLook& look);
+
+  private:
+    friend class Table;
+    Row(Table& table, Table::Slot slot) : RowView(table, slot) {}
+    Table& Owner() const { return const_cast<Table&>(*table_); }
+    void SetMark(std::uint8_t mark, bool on);
+};
+
+inline RowView Table::Item(std::int32_t index) const {
+    if (index < 1 || index > Count()) ThrowIndexOutOfRange();
+    return RowView(*this, order_[static_cast<std::size_t>(index - 1)]);
+}
 
 inline Row Table::Item(std::int32_t index) {
     if (index < 1 || index > Count()) ThrowIndexOutOfRange();
     return Row(*this, order_[static_cast<std::size_t>(index - 1)]);
+}
+
+inline std::optional<RowView> Table::Find(RowKey key) const {
+    const auto slot = index_.Find(key);
+    if (!slot) return std::nullopt;
+    return RowView(*this, *slot);
 }
 
 inline std::optional<Row> Table::Find(RowKey key) {
