@@ -1,14 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace swiftroll::cli {
-
-enum class JobKind { Help, Version, Tables, Releve, Parente, Extrait };
 
 /// The exit codes of the program.
 enum ExitCode : int { kDone = 0, kFailed = 1, kUsage = 2, kStopped = 3 };
@@ -33,37 +29,14 @@ struct MarkStep {
     std::string value;
 };
 
-/// The command line, texts in UTF-8 as they were typed.
+/// What every job takes from the command line, texts in UTF-8 as they were typed.
 struct Arguments {
-    JobKind job = JobKind::Help;
     std::string input;
-    std::string output;
-    std::vector<std::string> tables;
-    bool withKeys = false;
-    std::string format;
-    std::string model;
-    bool withStylesheet = false;
-    bool markedOnly = false;
     std::vector<MarkStep> markSteps;
-    std::string fromId, toId;
-    /// Number of paths, and seconds, after which the search ends; 0 for no limit.
-    std::int64_t mostPaths = 0;
-    double mostSeconds = 0;
-    /// The page of drawings, empty for none; the place of the mode in the list of the command, and the rows
-    /// to draw.
-    std::string drawing;
-    int drawingMode = 3;
-    std::vector<std::string> drawnRows;
     std::vector<Setting> settings;
     bool strict = false;
     bool overwrite = false;
     bool quiet = false;
 };
-
-/// @throws UsageError
-Arguments ParseArguments(int argc, const char* const* argv);
-
-/// What --aide prints, in UTF-8.
-std::string HelpText();
 
 }  // namespace swiftroll::cli

@@ -38,7 +38,7 @@ BoxAnswer HeadlessDialogs::Show(const MessageBox& box) {
         case BoxTopic::LineError:
             return arguments_.strict ? BoxAnswer::Cancel : BoxAnswer::Ok;
         case BoxTopic::WriteAllRows:
-            return arguments_.markedOnly ? BoxAnswer::No : BoxAnswer::Yes;
+            return writesMarkedOnly ? BoxAnswer::No : BoxAnswer::Yes;
         case BoxTopic::OverwriteFile:
             return arguments_.overwrite ? BoxAnswer::Yes : BoxAnswer::Cancel;
         case BoxTopic::UnequalSizes:

@@ -25,6 +25,8 @@ class HeadlessDialogs : public Dialogs {
 
     /// Whether the question of the recalculation is answered Yes.
     bool recalculates = false;
+    /// Whether the question which rows to write is answered "the marked ones".
+    bool writesMarkedOnly = false;
     /// The answer of the next file dialogs.
     Text outputFile;
     /// Whether a box told that the job failed or was refused.

@@ -1,64 +1,19 @@
 #include "jobs.h"
 
 #include "extrait_job.h"
-#include "mark_steps.h"
 #include "parente_job.h"
-#include "platform/interrupt.h"
 #include "releve_job.h"
-#include "settings.h"
 #include "tables_job.h"
-#include "text/code_page.h"
 
 namespace swiftroll::cli {
-namespace {
 
-std::unique_ptr<Job> MakeJob(JobKind kind) {
-    if (kind == JobKind::Releve) return std::make_unique<ReleveJob>();
-    if (kind == JobKind::Parente) return std::make_unique<ParenteJob>();
-    if (kind == JobKind::Extrait) return std::make_unique<ExtraitJob>();
-    return std::make_unique<TablesJob>();
-}
-
-void ReadAndDo(Session& session, const MarkSteps& marks, Job& job) {
-    frmMain& main = session.main;
-    main.cmdLoad.Click();
-    session.stopped = session.IsStopped();
-    if (session.dialogs.InputIsUnreadable()) return;
-    if (marks.Run(session)) job.Do(session);
-}
-
-void PrintStatus(Session& session) {
-    session.progress.Wipe();
-    const frmMain& main = session.main;
-    for (const Panel* panel : {&main.pnlLines, &main.pnlIndividuals, &main.pnlFamilies, &main.pnlMessage}) {
-        if (!session.arguments.quiet && !panel->Get().empty()) PrintError(panel->Get());
-    }
-}
-
-}  // namespace
-
-int RunJob(const Arguments& arguments) {
-    Session session(arguments);
-    frmMain& main = session.main;
-    main.Form_Load({});
-    main.chkGenerXSL.SetChecked(arguments.withStylesheet);
-    ArrangeColumns(main, {"LastName", "Place", "DateMin", "DateMax"});
-    ApplySettings(main, arguments.settings);
-    const std::unique_ptr<Job> job = MakeJob(arguments.job);
-    job->Prepare(session);
-    const MarkSteps marks(main, arguments.markSteps);
-    main.cboGedIn.SetText(FileNameToText(arguments.input));
-    platform::CatchInterrupts();
-    if (job->MayRun(session)) {
-        try {
-            ReadAndDo(session, marks, *job);
-        } catch (const ProgramEnd&) {
-            // It was reported; what else there is to do is to end.
-        }
-        PrintStatus(session);
-    }
-    if (session.stopped || platform::WasInterrupted()) return kStopped;
-    return session.failed || session.dialogs.HasRefusal() || main.trail.Reports() > 0 ? kFailed : kDone;
+Jobs AllJobs() {
+    Jobs jobs;
+    jobs.push_back(std::make_unique<TablesJob>());
+    jobs.push_back(std::make_unique<ReleveJob>());
+    jobs.push_back(std::make_unique<ParenteJob>());
+    jobs.push_back(std::make_unique<ExtraitJob>());
+    return jobs;
 }
 
 }  // namespace swiftroll::cli

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "arguments.h"
+#include "job.h"
 
 namespace swiftroll::cli {
 
-/// One life of the application: reads the file, does the job of the command line, and gives the exit code.
-/// @throws UsageError before anything is read or written
-int RunJob(const Arguments& arguments);
+/// All jobs of the program.
+Jobs AllJobs();
 
 }  // namespace swiftroll::cli

@@ -1,24 +1,23 @@
 #include <cstdio>
 
-#include "arguments.h"
+#include "command_line.h"
 #include "jobs.h"
+#include "run_job.h"
 
 int main(int argc, char** argv) {
     using namespace swiftroll::cli;
     try {
-        const Arguments arguments = ParseArguments(argc, argv);
-        switch (arguments.job) {
-            case JobKind::Help:
-                std::fputs(HelpText().c_str(), stdout);
+        const Jobs jobs = AllJobs();
+        const Request request = ParseCommandLine(argc, argv, jobs);
+        switch (request.kind) {
+            case Request::Kind::Help:
+                std::fputs(HelpText(jobs).c_str(), stdout);
                 return kDone;
-            case JobKind::Version:
+            case Request::Kind::Version:
                 std::puts("SwiftRoll " SWIFTROLL_VERSION);
                 return kDone;
-            case JobKind::Tables:
-            case JobKind::Releve:
-            case JobKind::Parente:
-            case JobKind::Extrait:
-                return RunJob(arguments);
+            case Request::Kind::Job:
+                return RunJob(*request.job, request.arguments);
         }
     } catch (const UsageError& error) {
         std::fprintf(stderr, "swiftroll-cli : %s\nEssayez « swiftroll-cli --aide ».\n", error.what());

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "settings.h"
+#include "words.h"
 
 namespace swiftroll::cli {
 namespace {

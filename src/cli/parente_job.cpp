@@ -1,21 +1,78 @@
 #include "parente_job.h"
 
+#include <algorithm>
 #include <chrono>
 
-#include "settings.h"
+#include "job_parser.h"
+#include "session.h"
 #include "text/code_page.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "words.h"
 
 namespace swiftroll::cli {
+namespace {
+
+/// The modes in the order of the list of the drawing command; those from `kAll` on draw all paths.
+constexpr std::string_view kDrawingModes[] = {"une", "une+", "toutes", "toutes+"};
+constexpr int kAll = 2;
+const std::string kDefaultTable = "lvwKinship";
+constexpr std::string_view kDefaultMode = "toutes+";
+
+/// @throws UsageError
+int PlaceOfMode(std::string_view mode) {
+    const auto found = std::find(std::begin(kDrawingModes), std::end(kDrawingModes), mode);
+    if (found == std::end(kDrawingModes)) throw UsageError("mode de dessin inconnu : " + std::string(mode));
+    return static_cast<int>(found - std::begin(kDrawingModes));
+}
+
+}  // namespace
+
+std::string ParenteJob::Help() const {
+    return R"(  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--dessin SORTIE.html]
+                        [--mode une|une+|toutes|toutes+] [--lignes SEQ[,SEQ...]] [--max N] [--delai SECONDES]
+      cherche tous les liens de parenté du premier individu au second, et affiche les chemins ()" +
+           kDefaultTable + R"(),
+      ou écrit les tables dans LISTE. --max arrête la recherche après N chemins, --delai après ce temps ; ce
+      qui est trouvé est gardé et affiché. --set chkMaxLinks=1 --set txtMaxLinks=N ne garde que les chemins
+      d'au plus N lignes, chkMaxSpouses et txtMaxSpouses ceux d'au plus N conjoints.
+      --dessin dessine ensuite tous les chemins (toutes, toutes+ avec les conjoints, qui est le défaut), ou
+      ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit).
+)";
+}
+
+void ParenteJob::Declare(JobParser& parser) {
+    parser.Argument("ID1", options_.fromId);
+    parser.Argument("ID2", options_.toId);
+    parser.Require(options_.toId, "il manque les identifiants des deux individus");
+    options_.tables = {kDefaultTable};
+    parser.List("-t", options_.tables);
+    parser.Option("-o", options_.output);
+    parser.Option("--dessin", options_.drawing);
+    parser.Option("--mode", options_.mode);
+    parser.List("--lignes", options_.drawnRows);
+    parser.Limit("--max", options_.mostPaths);
+    parser.Limit("--delai", options_.mostSeconds);
+}
+
+void ParenteJob::Check() {
+    drawingMode_ = PlaceOfMode(options_.mode.empty() ? kDefaultMode : options_.mode);
+    const bool hasRows = !options_.drawnRows.empty();
+    if (options_.drawing.empty() && (!options_.mode.empty() || hasRows)) {
+        throw UsageError("--mode et --lignes demandent un dessin : --dessin SORTIE.html");
+    }
+    if (hasRows && drawingMode_ >= kAll) throw UsageError("--lignes ne va qu'avec --mode une ou une+");
+    if (options_.drawing == "-" && (options_.output.empty() || options_.output == "-")) {
+        throw UsageError("la liste et le dessin ne peuvent aller tous deux à l'écran : donnez -o LISTE");
+    }
+}
 
 void ParenteJob::Prepare(Session& session) {
-    tables_ = session.TablesToPrint();
-    drawing_ = FileNameToText(session.arguments.drawing);
+    tables_ = session.TablesToPrint(options_.tables);
+    drawing_ = FileNameToText(options_.drawing);
     session.dialogs.outputFile = drawing_;
-    session.main.cboDrawKinship.SetListIndex(session.arguments.drawingMode);
-    output_ =
-        session.arguments.output.empty() ? Text(kStandardOutput) : FileNameToText(session.arguments.output);
+    session.main.cboDrawKinship.SetListIndex(drawingMode_);
+    output_ = options_.output.empty() ? Text(kStandardOutput) : FileNameToText(options_.output);
 }
 
 bool ParenteJob::MayRun(Session& session) {
@@ -29,7 +86,7 @@ void ParenteJob::Do(Session& session) {
             "La parenté ne peut être cherchée que si les familles ont été lues : n'utilisez pas --sans-familles."_t);
         return;
     }
-    if (!session.Mark(session.arguments.fromId) || !session.Mark(session.arguments.toId)) return;
+    if (!session.Mark(options_.fromId) || !session.Mark(options_.toId)) return;
     if (!Search(session)) return;
     session.Print(tables_, false, output_);
     if (!drawing_.empty() && MarkRows(session)) session.main.cmdDrawKinship.Click();
@@ -37,11 +94,10 @@ void ParenteJob::Do(Session& session) {
 
 /// Marks the rows that the modes for single paths draw; false, and it is told, when there is no such row.
 bool ParenteJob::MarkRows(Session& session) {
-    constexpr int kAll = 2;
-    if (session.arguments.drawingMode >= kAll) return true;
+    if (drawingMode_ >= kAll) return true;
     Table& paths = session.main.lvwKinship;
-    if (session.arguments.drawnRows.empty() && paths.Count() > 0) paths.Item(1).SetSelected(true);
-    for (const std::string& seqNr : session.arguments.drawnRows) {
+    if (options_.drawnRows.empty() && paths.Count() > 0) paths.Item(1).SetSelected(true);
+    for (const std::string& seqNr : options_.drawnRows) {
         const auto text = FromUtf8(seqNr);
         auto row = text ? paths.Find(TextView(*text)) : std::nullopt;
         if (!row) {
@@ -56,17 +112,14 @@ bool ParenteJob::MarkRows(Session& session) {
 /// False when the request was refused.
 bool ParenteJob::Search(Session& session) {
     using Clock = std::chrono::steady_clock;
-    const Arguments& arguments = session.arguments;
     modKinship::Search& search = session.main.modKinship;
     const auto end = Clock::now() + std::chrono::duration_cast<Clock::duration>(
-                                        std::chrono::duration<double>(arguments.mostSeconds));
-    const auto hasAllPaths = [&] {
-        return arguments.mostPaths > 0 && search.lNrLinks >= arguments.mostPaths;
-    };
+                                        std::chrono::duration<double>(options_.mostSeconds));
+    const auto hasAllPaths = [&] { return options_.mostPaths > 0 && search.lNrLinks >= options_.mostPaths; };
     session.pump.stopWhen = [&] {
-        return hasAllPaths() || (arguments.mostSeconds > 0 && Clock::now() >= end);
+        return hasAllPaths() || (options_.mostSeconds > 0 && Clock::now() >= end);
     };
-    const bool accepted = session.main.FindPathBetween(TextOf(arguments.fromId), TextOf(arguments.toId));
+    const bool accepted = session.main.FindPathBetween(TextOf(options_.fromId), TextOf(options_.toId));
     session.pump.stopWhen = nullptr;
     session.stopped = accepted && (session.IsStopped() || hasAllPaths());
     return accepted;

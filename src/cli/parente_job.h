@@ -1,12 +1,32 @@
 #pragma once
 
-#include "session.h"
+#include <cstdint>
+
+#include "job.h"
+#include "tables/table.h"
 
 namespace swiftroll::cli {
+
+/// The options of the job, texts in UTF-8; an empty text for what was not given.
+struct ParenteOptions {
+    std::string fromId, toId;
+    std::vector<std::string> tables;
+    std::string output;
+    /// The page of drawings, how it is drawn, and the rows to draw.
+    std::string drawing, mode;
+    std::vector<std::string> drawnRows;
+    /// Number of paths, and seconds, after which the search ends; 0 for no limit.
+    std::int64_t mostPaths = 0;
+    double mostSeconds = 0;
+};
 
 /// Searches the kinship paths between two individuals, prints tables of them, and draws them.
 class ParenteJob : public Job {
   public:
+    const char* Name() const override { return "parente"; }
+    std::string Help() const override;
+    void Declare(JobParser& parser) override;
+    void Check() override;
     void Prepare(Session& session) override;
     bool MayRun(Session& session) override;
     void Do(Session& session) override;
@@ -14,6 +34,8 @@ class ParenteJob : public Job {
   private:
     bool Search(Session& session);
     bool MarkRows(Session& session);
+    ParenteOptions options_;
+    int drawingMode_ = 0;  // its place in the list of the command
     std::vector<Table*> tables_;
     Text output_, drawing_;
 };

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "job_parser.h"
 #include "list/sort_keys.h"
+#include "session.h"
 #include "shell/file_names.h"
 #include "text/code_page.h"
 #include "text/edit.h"
@@ -13,7 +15,7 @@ namespace {
 
 constexpr int kXml = 2;
 
-int FormatOf(const Session& session) {
+int FormatOf(const Session& session, const ReleveOptions& arguments) {
     const std::string formats[] = {"html", "texte", "xml"};
     int format = 0;
     const Text name = LowerCaseAscii(FileNamePart(session.dialogs.outputFile));
@@ -21,7 +23,6 @@ int FormatOf(const Session& session) {
         const Text& extension = session.main.txtOutExtension[static_cast<std::size_t>(i)].Get();
         if (name.ends_with("." + LowerCaseAscii(extension))) format = i;
     }
-    const Arguments& arguments = session.arguments;
     if (!arguments.format.empty()) {
         const auto chosen = std::find(std::begin(formats), std::end(formats), arguments.format);
         if (chosen == std::end(formats)) throw UsageError("format inconnu : " + arguments.format);
@@ -43,18 +44,36 @@ void MarkGroups(frmMain& main) {
 
 }  // namespace
 
+std::string ReleveJob::Help() const {
+    return R"(  swiftroll-cli releve FICHIER.ged -o SORTIE [--format html|texte|xml] [--modele FICHIER] [--xsl] [--marques]
+      écrit le Relevé-vif ; « -o - » l'envoie à l'écran. Sans --format, l'extension de SORTIE décide.
+      --xsl écrit aussi la feuille de style à côté du XML, --marques n'écrit que les lignes marquées.
+)";
+}
+
+void ReleveJob::Declare(JobParser& parser) {
+    parser.Output(options_.output);
+    parser.Option("--format", options_.format);
+    parser.Option("--modele", options_.model);
+    parser.Flag("--xsl", options_.withStylesheet);
+    parser.Flag("--marques", options_.markedOnly);
+}
+
+void ReleveJob::SetDefaults(frmMain& main) { main.chkGenerXSL.SetChecked(options_.withStylesheet); }
+
 void ReleveJob::Prepare(Session& session) {
     frmMain& main = session.main;
     Text& output = session.dialogs.outputFile;
     session.dialogs.recalculates = true;
-    output = FileNameToText(session.arguments.output);
-    main.cboSaveSwift.SetListIndex(FormatOf(session));
-    if (!session.arguments.model.empty()) main.cboFileModel.SetText(FileNameToText(session.arguments.model));
+    session.dialogs.writesMarkedOnly = options_.markedOnly;
+    output = FileNameToText(options_.output);
+    main.cboSaveSwift.SetListIndex(FormatOf(session, options_));
+    if (!options_.model.empty()) main.cboFileModel.SetText(FileNameToText(options_.model));
     if (main.iOutFormat != kXml || !main.chkGenerXSL.Checked()) return;
     if (output == kStandardOutput) throw UsageError("--xsl demande un fichier de sortie");
     stylesheet_ = modCommon::ChangeExtension(output, main.txtModelExtension[kXml].Get());
     if (stylesheet_ == output) {
-        throw UsageError("la sortie a le nom de sa feuille de style : " + session.arguments.output);
+        throw UsageError("la sortie a le nom de sa feuille de style : " + options_.output);
     }
 }
 

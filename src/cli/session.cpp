@@ -2,7 +2,6 @@
 
 #include "platform/interrupt.h"
 #include "print_tables.h"
-#include "settings.h"
 #include "text/code_page.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -25,9 +24,9 @@ Session::Session(const Arguments& theArguments)
     dialogs.beforeBox = [this] { progress.Wipe(); };
 }
 
-std::vector<Table*> Session::TablesToPrint() {
+std::vector<Table*> Session::TablesToPrint(const std::vector<std::string>& names) {
     std::vector<Table*> tables;
-    for (const std::string& name : arguments.tables) {
+    for (const std::string& name : names) {
         Table* table = main.Named(name);
         if (table == nullptr) throw UsageError("table inconnue : " + name);
         if (table == &main.lvwOut) dialogs.recalculates = true;

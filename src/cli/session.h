@@ -22,9 +22,9 @@ class CliFiles : public platform::StdFiles {
 struct Session {
     explicit Session(const Arguments& theArguments);
 
-    /// The tables of the command line; the list is computed with the read when it is one of them.
+    /// The tables of these names, for Print; the list is computed with the read when it is one of them.
     /// @throws UsageError
-    std::vector<Table*> TablesToPrint();
+    std::vector<Table*> TablesToPrint(const std::vector<std::string>& names);
     /// Prints a line that tells why the job failed.
     void Refuse(TextView why);
     /// Whether an output may be written: it is none of the files that are read, and new or to be overwritten.
@@ -50,18 +50,6 @@ struct Session {
     frmMain main;
     bool failed = false;
     bool stopped = false;
-};
-
-/// What a run does beside reading the file.
-class Job {
-  public:
-    virtual ~Job() = default;
-    /// Looks at the arguments, and sets what they tell. @throws UsageError
-    virtual void Prepare(Session& session) = 0;
-    /// Whether the outputs may be written; nothing was read yet.
-    virtual bool MayRun(Session&) { return true; }
-    /// The work after the read.
-    virtual void Do(Session& session) = 0;
 };
 
 }  // namespace swiftroll::cli

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "text/code_page.h"
-#include "text/edit.h"
 #include "text/failure.h"
+#include "words.h"
 
 namespace swiftroll::cli {
 namespace {
@@ -31,20 +30,7 @@ void SetPlacesOrder(frmMain& main, const std::string& order) {
     }
 }
 
-std::vector<std::string> Words(const std::string& list) {
-    std::vector<std::string> words;
-    if (list.empty()) return words;
-    for (const std::string_view word : Split(list, ",")) words.emplace_back(word);
-    return words;
-}
-
 }  // namespace
-
-Text TextOf(const std::string& word) {
-    auto text = FromUtf8(word);
-    if (!text) throw UsageError("caractères hors de Windows-1252 : " + word);
-    return *std::move(text);
-}
 
 void ApplySettings(frmMain& main, const std::vector<Setting>& settings) {
     for (const Setting& setting : settings) {

@@ -111,6 +111,7 @@ TEST_F(Tables, UsageErrorsNameTheirCause) {
         expectError(Strings{"tables", "f.ged"} + Split(words, ' '), cause);
     }
     expectError({"tables"}, "GEDCOM");
+    expectError({"parente"}, "GEDCOM");
     expectError({"releve", "f.ged"}, "-o");
     expectError({"extrait", "f.ged"}, "-o");
     expectError({"tables", "f.ged", "-t", ""}, "table");
@@ -147,7 +148,17 @@ TEST_F(Tables, MarksAreAddedAndRemovedInTheOrderOfTheCommandLine) {
 }
 
 TEST_F(Tables, HelpAndVersion) {
-    EXPECT_NE(Cli({"--aide"}).out.find("releve"), std::string::npos);
+    const std::string help = Cli({"--aide"}).out;
+    // The words that the program offers where none is given.
+    const std::string message = Split(Cli({}).err, '\n').at(0);
+    std::size_t jobs = 0;
+    for (std::string word : Split(message.substr(message.rfind(" : ") + 3), ' ')) {
+        if (word == "ou") continue;
+        if (word.back() == ',') word.pop_back();
+        EXPECT_NE(help.find("\n  swiftroll-cli " + word + " FICHIER.ged"), std::string::npos) << word;
+        ++jobs;
+    }
+    EXPECT_GE(jobs, 4u) << message;
     EXPECT_EQ(Cli({"--version"}).out, "SwiftRoll 3.4.0\n");
 }
 
