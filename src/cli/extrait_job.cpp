@@ -22,12 +22,8 @@ bool ExtraitJob::MayRun(Session& session) { return session.MayWrite(session.dial
 
 void ExtraitJob::Do(Session& session) {
     if (session.IsStopped()) return;
-    if (!session.main.cmdSaveGed.Enabled) {
-        session.Refuse(
-            "Un extrait ne peut être écrit que si les familles ont été lues : n'utilisez pas --sans-familles."_t);
-        return;
-    }
-    session.main.cmdSaveGed.Click();
+    Command& command = session.main.cmdSaveGed;
+    if (session.HasFamiliesFor(command, "Un extrait ne peut être écrit"_t)) command.Click();
 }
 
 }  // namespace swiftroll::cli

@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "job_parser.h"
+#include "print_tables.h"
 #include "session.h"
 #include "text/code_page.h"
 #include "text/edit.h"
@@ -81,14 +82,10 @@ bool ParenteJob::MayRun(Session& session) {
 
 void ParenteJob::Do(Session& session) {
     if (session.IsStopped()) return;
-    if (!session.main.cmdFindPath.Enabled) {
-        session.Refuse(
-            "La parenté ne peut être cherchée que si les familles ont été lues : n'utilisez pas --sans-familles."_t);
-        return;
-    }
+    if (!session.HasFamiliesFor(session.main.cmdFindPath, "La parenté ne peut être cherchée"_t)) return;
     if (!session.Mark(options_.fromId) || !session.Mark(options_.toId)) return;
     if (!Search(session)) return;
-    session.Print(tables_, false, output_);
+    session.Write(output_, [&](File& file) { PrintTables(tables_, false, file); });
     if (!drawing_.empty() && MarkRows(session)) session.main.cmdDrawKinship.Click();
 }
 

@@ -1,7 +1,6 @@
 #include "session.h"
 
 #include "platform/interrupt.h"
-#include "print_tables.h"
 #include "text/code_page.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -67,10 +66,16 @@ bool Session::Mark(const std::string& id) {
     return true;
 }
 
-void Session::Print(const std::vector<Table*>& tables, bool withKeys, TextView output) {
+bool Session::HasFamiliesFor(const Command& command, TextView what) {
+    if (command.Enabled) return true;
+    Refuse(Concat({what, " que si les familles ont été lues : n'utilisez pas --sans-familles."_t}));
+    return false;
+}
+
+void Session::Write(TextView output, const std::function<void(File&)>& write) {
     progress.Wipe();
     try {
-        PrintTables(tables, withKeys, *files.Open(output, Files::Mode::Write));
+        write(*files.Open(output, Files::Mode::Write));
     } catch (const Failure&) {
         Refuse(
             output == kStandardOutput

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "console.h"
 #include "platform/machine.h"
 #include "platform/std_files.h"
@@ -31,8 +33,11 @@ struct Session {
     bool MayWrite(TextView output);
     /// Marks an individual in both ways; false, and it is told, when there is none.
     bool Mark(const std::string& id);
-    /// Prints the tables into a file, or tells that it could not be written.
-    void Print(const std::vector<Table*>& tables, bool withKeys, TextView output);
+    /// Whether a command that needs the families is enabled; when it is not, this is told, beginning with
+    /// `what`: "Un extrait ne peut être écrit".
+    bool HasFamiliesFor(const Command& command, TextView what);
+    /// Writes an output, or tells that it could not be written.
+    void Write(TextView output, const std::function<void(File&)>& write);
     /// Whether the user, or a limit, stopped what ran last.
     bool IsStopped() const;
 

@@ -1,6 +1,7 @@
 #include "tables_job.h"
 
 #include "job_parser.h"
+#include "print_tables.h"
 #include "session.h"
 
 namespace swiftroll::cli {
@@ -27,6 +28,8 @@ void TablesJob::Declare(JobParser& parser) {
 
 void TablesJob::Prepare(Session& session) { tables_ = session.TablesToPrint(names_); }
 
-void TablesJob::Do(Session& session) { session.Print(tables_, withKeys_, kStandardOutput); }
+void TablesJob::Do(Session& session) {
+    session.Write(kStandardOutput, [&](File& file) { PrintTables(tables_, withKeys_, file); });
+}
 
 }  // namespace swiftroll::cli
