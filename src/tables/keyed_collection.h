@@ -15,7 +15,8 @@ class KeyedCollection {
   public:
     /// Adds a value; false, and nothing is added, when the key is there already.
     bool Add(TextView key, const Value& value) {
-        if (keys_.Intern(Folded(key)), keys_.InternedCount() == values_.size()) return false;
+        keys_.Intern(Folded(key));
+        if (keys_.InternedCount() == values_.size()) return false;
         values_.push_back(value);
         return true;
     }
