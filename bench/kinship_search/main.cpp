@@ -1,4 +1,4 @@
-// Measures the kinship search on files and on graphs made to hurt, beside plain backtracking and a literal
+// Measures the kinship search on files and on graphs made to hurt, beside plain backtracking and a direct
 // simplification over the same links: kinshipbench [--seconds S] FILE.ged[=PAIRS]... bench/kinship calls it.
 #include <algorithm>
 #include <charconv>
@@ -25,7 +25,7 @@ struct Worst {
 
 void PrintHeader() {
     std::printf("%-25s %7s %7s | %6s %6s %6s | %7s %7s %7s %8s %9s %5s | %8s %6s | %8s %7s %8s %6s\n", "", "",
-                "", "copy", "thin", "prune", "first", "longest", "", "", "", "bytes", "literal", "same",
+                "", "copy", "thin", "prune", "first", "longest", "", "", "", "bytes", "direct", "same",
                 "first", "", "same", "time");
     std::printf("%-25s %7s %7s | %6s %6s %6s | %7s %7s %7s %8s %9s %5s | %8s %6s | %8s %7s %8s %6s\n", "case",
                 "people", "links", "ms", "ms", "ms", "ms", "wait ms", "paths", "paths/s", "rows/s", "a row",

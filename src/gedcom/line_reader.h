@@ -61,7 +61,7 @@ class LineReader : public GedcomLine {
     std::unique_ptr<KeyedCollection<RecordRange>> colRecords_ =
         std::make_unique<KeyedCollection<RecordRange>>();
     Text sPrevTag, sPrevXref;
-    Text sRecordKey_;  // kept for its memory
+    Text sRecordKey_;  // reused to avoid allocation
 };
 
 }  // namespace swiftroll::modReadGedcom

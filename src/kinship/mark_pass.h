@@ -6,7 +6,7 @@ namespace swiftroll::modKinshipOptimize {
 
 /// One pass of the simplification by exploration: finds which neighbours of a node lead to the target without
 /// the node and the one before it. The order of the visits decides where links go in one direction only, so
-/// it is kept as it is told, and that makes a pass as long as what it explores.
+/// that nothing can be left out: a pass takes as long as what it explores.
 class MarkPass {
   public:
     explicit MarkPass(modKinship::LinkGraph& graph)

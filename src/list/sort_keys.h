@@ -14,7 +14,7 @@ Text MakeSortKeyIn(const Positions& positions, const Row& row);
 /// The key of a row of `lvwOut`: that of every individual of its group, as long as no column was moved.
 Text MakeSortKeyOut(const Positions& positions, const Row& row);
 
-/// The same, into a text that is kept for its memory where keys are many.
+/// The same, into a text that is reused to avoid allocation where keys are many.
 void WriteSortKeyIn(const Positions& positions, const Row& row, Text& sKey);
 void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey);
 

@@ -36,7 +36,7 @@ class ValueTargets {
     std::vector<IdColumn> idColumns_;
     TextStore groupKeys_;
     boost::unordered_flat_set<TextView> groups_;  // texts of groupKeys_
-    Text key_;                                    // kept for its memory
+    Text key_;                                    // reused to avoid allocation
 };
 
 }  // namespace swiftroll::modSelectionIn

@@ -37,7 +37,7 @@ class KeyedCollection {
 
     TextStore keys_;
     std::vector<Value> values_;  // by number of the interned key
-    mutable Text folded_;        // kept for its memory
+    mutable Text folded_;        // reused to avoid allocation
 };
 
 }  // namespace swiftroll

@@ -29,7 +29,7 @@ std::vector<Text> Scan(TextView bytes, std::size_t readSize) {
     return lines;
 }
 
-/// Reads a file one character at a time, in the words of the format's description.
+/// Reads a file one character at a time, as simply as can be.
 class SlowScanner {
   public:
     explicit SlowScanner(TextView bytes) : bytes_(bytes) {}

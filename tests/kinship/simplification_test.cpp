@@ -1,4 +1,4 @@
-// The links that the simplification removes, held against its literal simulation.
+// The links that the simplification removes, held against a direct simulation.
 #include <gtest/gtest.h>
 
 #include "kinship/random_links.h"

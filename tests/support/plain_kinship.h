@@ -13,7 +13,7 @@ using PlainLinks = std::vector<std::vector<std::int32_t>>;
 /// Links by the individuals at both ends.
 using PlainPairs = std::set<std::pair<std::int32_t, std::int32_t>>;
 
-/// The simplification of the links, step by step as it is told: an array of marks for each pass, every
+/// The simplification of the links, step by step: an array of marks for each pass, every
 /// neighbour list read anew. `goOn` is asked at every step; false gives up. Gives the links removed.
 PlainPairs PlainRemoveIslands(PlainLinks& links, std::int32_t lFrom, std::int32_t lTo,
                               const std::function<bool()>& goOn);
