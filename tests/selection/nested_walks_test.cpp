@@ -22,8 +22,7 @@ class AnySelection : public TestMain {
         }
         main.cmdCalcOutput.Click();
         AddPaths();
-        if (Below(2) == 0)
-            main.lvwIn.SortBy(Column(main.lvwIn), static_cast<std::int16_t>(Below(2)));
+        if (Below(2) == 0) main.lvwIn.SortBy(Column(main.lvwIn), static_cast<std::int16_t>(Below(2)));
         if (Below(4) == 0 && main.lvwFamily.Count() > 0)
             main.lvwFamily.Remove(1 + Below(main.lvwFamily.Count()));
         if (Below(4) == 0 && main.lvwIn.Count() > 0) main.lvwIn.Remove(1 + Below(main.lvwIn.Count()));
