@@ -5,8 +5,9 @@
 
 namespace swiftroll {
 
-Application::Application(const Ports& applicationPorts)
-    : StatusBar(applicationPorts.status),
+Application::Application(const Ports& applicationPorts, std::span<const FormatOption> formats)
+    : OptionRecord(formats),
+      StatusBar(applicationPorts.status),
       ports(applicationPorts),
       trail(ports, *this,
             {[this] { return MainCaption(); },

@@ -33,7 +33,8 @@ enum class Tab { In, Out, FamilyXref, Xref, Family, Kinship, FormatOptions, Link
 /// the run. There is one for the whole run; the main window derives from it and adds the commands.
 class Application : public TableSet, public OptionRecord, public StatusBar, public WidthTables {
   public:
-    explicit Application(const Ports& applicationPorts);
+    /// `formats` are those that the Relevé-vif can be written in.
+    Application(const Ports& applicationPorts, std::span<const FormatOption> formats);
     virtual ~Application() = default;
 
     Ports ports;

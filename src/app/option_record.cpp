@@ -1,5 +1,7 @@
 #include "app/option_record.h"
 
+#include <algorithm>
+
 #include "text/edit.h"
 #include "text/literal.h"
 
@@ -20,12 +22,32 @@ Text PlacesOrderTip() {
 std::vector<Text> Texts(std::initializer_list<TextView> texts) { return {texts.begin(), texts.end()}; }
 
 constexpr TextView kFavorites = "Favoris"_t;
-constexpr TextView kOutExtension = "Liste en Sortie"_t;
-constexpr TextView kModelExtension = "Modèle en Entrée"_t;
+
+std::vector<Text> EachFormat(std::span<const FormatOption> formats, Text FormatOption::*part) {
+    std::vector<Text> parts;
+    for (const FormatOption& format : formats) parts.push_back(format.*part);
+    return parts;
+}
+
+int FirstChoice(std::span<const FormatOption> formats) {
+    const auto first =
+        std::find_if(formats.begin(), formats.end(), std::mem_fn(&FormatOption::isFirstChoice));
+    return first == formats.end() ? 0 : static_cast<int>(first - formats.begin());
+}
+
+/// A control array with a field for each format.
+std::deque<TextBox> Extensions(Window& window, ControlTexts texts, const std::vector<Text>& standard) {
+    std::deque<TextBox> fields;
+    for (const Text& extension : standard) {
+        texts.index = static_cast<int>(fields.size());
+        fields.emplace_back(window, texts, extension);
+    }
+    return fields;
+}
 
 }  // namespace
 
-OptionRecord::OptionRecord()
+OptionRecord::OptionRecord(std::span<const FormatOption> formats)
     : Window("frmMain"),
       cboCells(*this, {"cboCells", "Jeu de paramètres des cellules"_t}),
       cboColumns(*this, {"cboColumns", "Jeu de positions et largeurs des colonnes"_t}),
@@ -78,15 +100,13 @@ OptionRecord::OptionRecord()
           {"txtINDEX", "Index HTML"_t, "0 = Pas d'index, sinon nombre de caractères par entrée de %INDEX%"_t},
           "1"),
       chkGenerXSL(*this, {"chkGenerXSL", "+ XSL"_t}, true),
-      optOutExtension(*this, {"optOutExtension"}, Texts({"HTML"_t, "Texte "_t, "XML"_t}), 1),
-      cboSaveSwift(*this, {"cboSaveSwift"},
-                   Texts({"Ecrire en HTML"_t, "Ecrire en Texte"_t, "Ecrire en XML"_t})),
-      txtOutExtension{TextBox(*this, {"txtOutExtension", kOutExtension, {}, 0}, "html"),
-                      TextBox(*this, {"txtOutExtension", kOutExtension, {}, 1}, "txt"),
-                      TextBox(*this, {"txtOutExtension", kOutExtension, {}, 2}, "xml")},
-      txtModelExtension{TextBox(*this, {"txtModelExtension", kModelExtension, {}, 0}, "html"),
-                        TextBox(*this, {"txtModelExtension", kModelExtension, {}, 1}, "txt"),
-                        TextBox(*this, {"txtModelExtension", kModelExtension, {}, 2}, "xsl")},
+      optOutExtension(*this, {"optOutExtension"}, EachFormat(formats, &FormatOption::caption),
+                      FirstChoice(formats)),
+      cboSaveSwift(*this, {"cboSaveSwift"}, EachFormat(formats, &FormatOption::command)),
+      txtOutExtension(Extensions(*this, {"txtOutExtension", "Liste en Sortie"_t},
+                                 EachFormat(formats, &FormatOption::outExtension))),
+      txtModelExtension(Extensions(*this, {"txtModelExtension", "Modèle en Entrée"_t},
+                                   EachFormat(formats, &FormatOption::modelExtension))),
       cboDrawKinship(*this, {"cboDrawKinship"},
                      Texts({"Ecrire Une"_t, "Ecrire Une +"_t, "Ecrire Toutes"_t, "Ecrire Toutes +"_t})),
       txtFont(*this, {"txtFont"}, "Text1"),

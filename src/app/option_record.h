@@ -1,17 +1,29 @@
 #pragma once
 
 #include <array>
+#include <deque>
+#include <span>
 
 #include "app/controls.h"
 
 namespace swiftroll {
+
+/// What the options show and hold of a format in which the Relevé-vif is written. The record knows no more of
+/// formats than this, and takes them in the order in which they are chosen from.
+struct FormatOption {
+    Text caption;  // of its option button
+    Text command;  // what the button of the command says
+    /// Standard extensions of the list and of its model.
+    Text outExtension, modelExtension;
+    bool isFirstChoice = false;
+};
 
 /// The option record: every option of the main window under the name of its control, with its default. An
 /// option is declared in option_record.cpp and nowhere else; settings, window and headless program find it by
 /// walking the controls.
 class OptionRecord : public Window {
   public:
-    OptionRecord();
+    explicit OptionRecord(std::span<const FormatOption> formats);
 
     // Named parameter sets. Restoring one loads it, so they stand before the options that they hold: what
     // the user saw last wins.
@@ -49,8 +61,9 @@ class OptionRecord : public Window {
     CheckBox chkGenerXSL;
     OptionGroup optOutExtension;
     ComboBox cboSaveSwift;
-    std::array<TextBox, 3> txtOutExtension;
-    std::array<TextBox, 3> txtModelExtension;
+    // by the number of the format
+    std::deque<TextBox> txtOutExtension;
+    std::deque<TextBox> txtModelExtension;
 
     // Kinship drawings
     ComboBox cboDrawKinship;

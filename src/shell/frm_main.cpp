@@ -6,11 +6,12 @@
 #include "tables/column_icon.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "writers/output_format.h"
 
 namespace swiftroll {
 
 frmMain::frmMain(const Ports& applicationPorts)
-    : Application(applicationPorts),
+    : Application(applicationPorts, modGenFileFromModel::FormatOptions()),
       ListCommands(static_cast<Window&>(*this)),
       cmdLoad(*this, {"cmdLoad", "Lire Tout"_t, "Lit le fichier GEDCOM spécifié."_t}),
       mnuReadGedCom(*this, {"mnuReadGedCom", "Lire GedCom"_t}, "Ctrl+O"),

@@ -141,6 +141,8 @@ class frmMain : public Application, public ListCommands {
 
     /// The last file written is whole; false when a step of an XML file failed, which no box tells.
     bool bWriteComplete = true;
+    /// The stylesheet that is written beside an output under the present options; empty for none.
+    Text StylesheetOf(TextView sOutFile) const;
     /// What the last read knows beside the tables.
     modReadGedcom::Reader modReadGedcom;
     /// The last kinship search.

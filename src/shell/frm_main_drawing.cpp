@@ -5,6 +5,7 @@
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "writers/output_format.h"
 
 namespace swiftroll {
 
@@ -25,9 +26,9 @@ void frmMain::BindDrawing() {
     cboDrawKinship.OnClick = [this] { cmdDrawKinship.Caption = cboDrawKinship.Get(); };
     cmdCopyTitle2kinship.Operation = [this] { cmdCopyTitle2kinship_Click(); };
     cmdSelectDirKinship.Operation = [this] {
-        SelectFile(
-            cboKinship, true,
-            {"Choisissez le fichier des Liens de Parenté à écrire"_t, "HTML", txtOutExtension[0].Get()});
+        SelectFile(cboKinship, true,
+                   {"Choisissez le fichier des Liens de Parenté à écrire"_t, "HTML",
+                    txtOutExtension[modGenFileFromModel::kHtmlFormat].Get()});
     };
     picTreeH.Operation = [this] { txtKinshipLandscape.SetChecked(true); };
     picTreeV.Operation = [this] { txtKinshipLandscape.SetChecked(false); };
@@ -139,7 +140,8 @@ void frmMain::cmdCopyTitle2kinship_Click() {
     };
     const Text kinship = cboKinship.Get(), list = cboSwiftOut.Get();
     const TextView folder = folderOf(kinship).empty() ? folderOf(list) : folderOf(kinship);
-    cboKinship.SetText(Concat({folder, "Parenté "_t, pair, ".", txtOutExtension[0].Get()}));
+    cboKinship.SetText(
+        Concat({folder, "Parenté "_t, pair, ".", txtOutExtension[modGenFileFromModel::kHtmlFormat].Get()}));
 }
 
 void frmMain::cmdFont_Click() {

@@ -4,16 +4,17 @@
 #include "shell/history.h"
 #include "text/edit.h"
 #include "text/literal.h"
-#include "writers/write_model.h"
-#include "writers/xml.h"
+#include "writers/output_format.h"
 
 namespace swiftroll {
 
-using modGenFileFromModel::OutFormat;
+using modGenFileFromModel::OutputFormat;
+using modGenFileFromModel::OutputFormats;
+using modGenFileFromModel::StylesheetFormat;
 
 namespace {
 
-constexpr int kHtml = 0, kText = 1, kXml = 2;
+const OutputFormat& FormatOf(int iFormat) { return OutputFormats()[static_cast<std::size_t>(iFormat)]; }
 
 }  // namespace
 
@@ -22,10 +23,11 @@ void frmMain::BindWriting() {
     cboSaveSwift.OnClick = [this] { cboSaveSwift_Click(); };
     optOutExtension.OnClick = [this] { optOutExtension_Click(optOutExtension.Index()); };
     chkGenerXSL.OnClick = [this] { chkGenerXSL_Click(); };
-    for (int i = 0; i < 3; ++i) {
-        TextBox& field = txtOutExtension[static_cast<std::size_t>(i)];
+    int i = 0;
+    for (TextBox& field : txtOutExtension) {
         field.OnGotFocus = [this, &field] { sPrevExtension_ = field.Get(); };
         field.OnLostFocus = [this, i] { txtOutExtension_LostFocus(i); };
+        ++i;
     }
     cmdCopyGedIn2SwiftOut.Operation =
         mnuCopyGedIn2SwiftOut.Operation = [this] { cmdCopyGedIn2SwiftOut_Click(); };
@@ -51,24 +53,17 @@ void frmMain::cmdSaveSwift_Click() {
 }
 
 void frmMain::WriteSwiftFile(bool bSelectedOnly) {
-    const int format = cboSaveSwift.ListIndex();
-    const Text out = cboSwiftOut.Get(), model = cboFileModel.Get();
-    const auto write = [&](TextView file, OutFormat as, TextView sEmptyCell) {
-        modGenFileFromModel::WriteFileFromModel(*this, modReadGedcom.lines, file, model, as, bSelectedOnly,
-                                                sEmptyCell);
-    };
+    const OutputFormat& format = FormatOf(cboSaveSwift.ListIndex());
+    const Text out = cboSwiftOut.Get(), model = cboFileModel.Get(), sXslFile = StylesheetOf(out);
     bWriteComplete = true;
-    const bool needsModel = format != kXml || chkGenerXSL.Checked();
-    if (needsModel && ModelIsMissing(model)) return;
-    if (format == kHtml) write(out, OutFormat::Html, "&nbsp;");
-    if (format == kText) write(out, OutFormat::Text, " ");
-    if (format != kXml) return;
-    Text sXslFile;
-    if (chkGenerXSL.Checked()) {
-        sXslFile = modCommon::ChangeExtension(out, txtModelExtension[kXml].Get());
-        write(sXslFile, OutFormat::Xsl, "<xsl:text>&#xA0;</xsl:text>");
-    }
-    bWriteComplete = modGenFileFromModel::WriteXML(*this, out, FileNamePart(sXslFile), bSelectedOnly);
+    if (format.NeedsModel(!sXslFile.empty()) && ModelIsMissing(model)) return;
+    bWriteComplete = format.write(*this, modReadGedcom.lines, format, {out, model, sXslFile, bSelectedOnly});
+}
+
+Text frmMain::StylesheetOf(TextView sOutFile) const {
+    const int format = cboSaveSwift.ListIndex();
+    if (format != StylesheetFormat() || !chkGenerXSL.Checked()) return {};
+    return modCommon::ChangeExtension(sOutFile, txtModelExtension[static_cast<std::size_t>(format)].Get());
 }
 
 bool frmMain::ModelIsMissing(TextView sFile) {
@@ -81,14 +76,14 @@ void frmMain::optOutExtension_Click(int Index) {
     iOutFormat = Index;
     lblModel.Caption = "Fichier modèle "_t;
     lblOut.Caption = "Sortie Relevé-vif"_t;
-    if (Index == kHtml) lblModel.Caption += "HTML";
-    if (Index == kText) lblModel.Caption += "Texte";
-    if (Index == kXml && chkGenerXSL.Checked()) {
+    const OutputFormat& format = FormatOf(Index);
+    if (format.NeedsModel(false)) lblModel.Caption += format.name;
+    if (format.hasStylesheet && chkGenerXSL.Checked()) {
         lblModel.Caption += " XSL";
         lblOut.Caption += " + XSL";
     }
-    txtINDEX.Enabled = Index != kText;
-    chkGenerXSL.Enabled = Index == kXml;
+    txtINDEX.Enabled = format.hasIndex;
+    chkGenerXSL.Enabled = format.hasStylesheet;
     if (cboSaveSwift.ListIndex() != Index) {
         cboSaveSwift.SetListIndex(Index);
         return;  // its handler comes back here and does the rest
@@ -109,14 +104,14 @@ void frmMain::cboSaveSwift_Click() {
 }
 
 void frmMain::chkGenerXSL_Click() {
-    txtModelExtension[kXml].Enabled = chkGenerXSL.Checked();
-    optOutExtension_Click(kXml);
+    const int format = StylesheetFormat();
+    txtModelExtension[static_cast<std::size_t>(format)].Enabled = chkGenerXSL.Checked();
+    optOutExtension_Click(format);
 }
 
 void frmMain::txtOutExtension_LostFocus(int Index) {
-    constexpr TextView kStandard[] = {"html", "txt", "xml"};
     TextBox& field = txtOutExtension[static_cast<std::size_t>(Index)];
-    if (field.Get().empty()) field.SetText(kStandard[Index]);
+    if (field.Get().empty()) field.SetText(FormatOf(Index).outExtension);
     // Passing through the field does not choose its format.
     if (field.Get() == sPrevExtension_) return;
     sPrevExtension_ = field.Get();
@@ -141,7 +136,8 @@ void frmMain::ChangeModelExtension() {
 }
 
 void frmMain::ChangeKinshipExtension() {
-    cboKinship.SetText(modCommon::ChangeExtension(cboKinship.Get(), txtOutExtension[kHtml].Get()));
+    cboKinship.SetText(modCommon::ChangeExtension(cboKinship.Get(),
+                                                  txtOutExtension[modGenFileFromModel::kHtmlFormat].Get()));
 }
 
 void frmMain::cmdCopyGedIn2SwiftOut_Click() {

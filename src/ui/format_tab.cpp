@@ -4,6 +4,7 @@
 #include "help_topics.h"
 #include "layout.h"
 #include "option_tabs.h"
+#include "writers/output_format.h"
 
 namespace swiftroll::ui {
 namespace {
@@ -41,7 +42,9 @@ QWidget* CopyFrame(frmMain& main, Binder& binder, Presenter& presenter) {
 
 QWidget* ExtensionFrame(frmMain& main, Binder& binder, Presenter& presenter) {
     Frame frame(QStringLiteral("Extension des Listes en sortie"), QStringLiteral("frameFileExt"));
-    std::vector<QRadioButton*> formats{new QRadioButton, new QRadioButton, new QRadioButton};
+    std::vector<QRadioButton*> formats;
+    for (std::size_t i = 0; i < main.optOutExtension.Captions().size(); ++i)
+        formats.push_back(new QRadioButton);
     binder.Bind(formats, main.optOutExtension);
     frame.grid->addWidget(NewLabel(QStringLiteral("Liste en Sortie")), 0, 1);
     frame.grid->addWidget(NewLabel(QStringLiteral("Modèle en Entrée")), 0, 2);
@@ -59,7 +62,7 @@ QWidget* ExtensionFrame(frmMain& main, Binder& binder, Presenter& presenter) {
     }
     QCheckBox* stylesheet = NewCheckBox(binder, main.chkGenerXSL);
     presenter.OnRefresh([stylesheet] { GreyUnlessTicked(*stylesheet); });
-    frame.grid->addWidget(stylesheet, 3, 3);
+    frame.grid->addWidget(stylesheet, modGenFileFromModel::StylesheetFormat() + 1, 3);
     frame.grid->setColumnStretch(4, 1);
     return frame.box;
 }

@@ -18,17 +18,17 @@ constexpr TextView kIndex = "%INDEX%";
 class Document {
   public:
     Document(Application& app, const modReadGedcom::LineReader& lines, ModelPieces model,
-             OutFormat iOutFormat, bool bSelectedOnly, TextView sEmptyCell)
+             const OutputFormat& format, bool bSelectedOnly)
         : app_(app),
           variables_(app, lines),
           model_(std::move(model)),
-          format_(iOutFormat),
+          format_(*format.model),
           selectedOnly_(bSelectedOnly),
-          emptyCell_(sEmptyCell) {
+          emptyCell_(format.sEmptyCell) {
         const bool asksForPadding = model_.sModelCell2.find(kPaddedElement) != Text::npos;
         marker_ = asksForPadding ? kPaddedElement : kElement;
         padCells_ = asksForPadding && format_ == OutFormat::Text;
-        MakeIndex();
+        if (format.hasIndex) MakeIndex();
     }
 
     void Open(TextView sOutFile) {
@@ -57,7 +57,7 @@ class Document {
     void MakeIndex() {
         const bool hasPlace =
             model_.sModelHead.find(kIndex) != Text::npos || model_.sModelTail.find(kIndex) != Text::npos;
-        if (format_ == OutFormat::Text || app_.txtINDEX.Get() == "0" || !hasPlace) return;
+        if (app_.txtINDEX.Get() == "0" || !hasPlace) return;
         index_ = CalcINDEXes(app_, selectedOnly_, emptyCell_);
     }
 
@@ -149,16 +149,16 @@ class Document {
 
 }  // namespace
 
-void WriteFileFromModel(Application& app, const modReadGedcom::LineReader& lines, TextView sOutFile,
-                        TextView sModelFile, OutFormat iOutFormat, bool bSelectedOnly, TextView sEmptyCell) {
+void WriteFileFromModel(Application& app, const modReadGedcom::LineReader& lines, const OutputFormat& format,
+                        TextView sOutFile, TextView sModelFile, bool bSelectedOnly) {
     app.bWaitCursor = true;
     bool opened = false;
     app.trail.GuardElse(
         "WriteFileFromModel",
         [&] {
-            auto pieces = SplitModel(app, sModelFile, iOutFormat);
+            auto pieces = SplitModel(app, sModelFile, *format.model);
             if (!pieces) return;
-            Document document(app, lines, std::move(*pieces), iOutFormat, bSelectedOnly, sEmptyCell);
+            Document document(app, lines, std::move(*pieces), format, bSelectedOnly);
             document.Open(sOutFile);
             opened = true;
             document.WriteRest();

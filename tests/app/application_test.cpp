@@ -27,7 +27,7 @@ class PositionsTest : public testing::Test, protected test::TestPorts {
         }
         return all;
     }
-    Application application{All()};
+    Application application{All(), {}};
 };
 
 TEST_F(PositionsTest, AnUnknownColumnIsToldAndTheOthersAreRead) {

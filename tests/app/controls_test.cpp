@@ -28,7 +28,7 @@ Text ValueOf(const Control& control) {
 }
 
 TEST(Controls, CombosTellATypedTextFromAPickedItem) {
-    OptionRecord options;
+    OptionRecord options({});
     ComboBox& combo = options.cboGedIn;
     Text events;
     combo.OnClick = [&] { events += "click "; };
@@ -51,7 +51,7 @@ TEST(Controls, CombosTellATypedTextFromAPickedItem) {
 }
 
 TEST(Controls, OrderedListsAreDraggedAndDisabledCommandsDoNothing) {
-    OptionRecord options;
+    OptionRecord options({});
     OrderedList& list = options.lbOuputPlacesOrder;
     list.Move(0, 2);
     EXPECT_EQ(ValueOf(list), "2Décès/3Mariage, Divorce,.../1Naissance/"_t);
