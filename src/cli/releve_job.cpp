@@ -5,30 +5,44 @@
 #include "job_parser.h"
 #include "list/sort_keys.h"
 #include "session.h"
-#include "shell/file_names.h"
 #include "text/code_page.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "writers/output_format.h"
 
 namespace swiftroll::cli {
 namespace {
 
-constexpr int kXml = 2;
+/// What can be said for a format: "html|texte|xml".
+std::string FormatWords() {
+    std::string words;
+    for (const modGenFileFromModel::OutputFormat& format : modGenFileFromModel::OutputFormats()) {
+        words += (words.empty() ? "" : "|") + std::string(format.word);
+    }
+    return words;
+}
 
+/// The number of the format that the command line names, or else of the one that the extension of the output
+/// belongs to; HTML for any other extension. @throws UsageError
 int FormatOf(const Session& session, const ReleveOptions& arguments) {
-    const std::string formats[] = {"html", "texte", "xml"};
-    int format = 0;
+    const auto formats = modGenFileFromModel::OutputFormats();
+    int format = modGenFileFromModel::kHtmlFormat;
     const Text name = LowerCaseAscii(FileNamePart(session.dialogs.outputFile));
-    for (int i = 0; i < 3; ++i) {
-        const Text& extension = session.main.txtOutExtension[static_cast<std::size_t>(i)].Get();
-        if (name.ends_with("." + LowerCaseAscii(extension))) format = i;
+    for (std::size_t i = 0; i < formats.size(); ++i) {
+        const Text& extension = session.main.txtOutExtension[i].Get();
+        if (name.ends_with("." + LowerCaseAscii(extension))) format = static_cast<int>(i);
     }
     if (!arguments.format.empty()) {
-        const auto chosen = std::find(std::begin(formats), std::end(formats), arguments.format);
-        if (chosen == std::end(formats)) throw UsageError("format inconnu : " + arguments.format);
-        format = static_cast<int>(chosen - std::begin(formats));
+        const auto chosen =
+            std::ranges::find(formats, arguments.format, &modGenFileFromModel::OutputFormat::word);
+        if (chosen == formats.end()) throw UsageError("format inconnu : " + arguments.format);
+        format = static_cast<int>(chosen - formats.begin());
     }
-    if (arguments.withStylesheet && format != kXml) throw UsageError("--xsl ne va qu'avec le format xml");
+    const int withStylesheet = modGenFileFromModel::StylesheetFormat();
+    if (arguments.withStylesheet && format != withStylesheet) {
+        const TextView word = formats[static_cast<std::size_t>(withStylesheet)].word;
+        throw UsageError("--xsl ne va qu'avec le format " + std::string(word));
+    }
     return format;
 }
 
@@ -45,7 +59,8 @@ void MarkGroups(frmMain& main) {
 }  // namespace
 
 std::string ReleveJob::Help() const {
-    return R"(  swiftroll-cli releve FICHIER.ged -o SORTIE [--format html|texte|xml] [--modele FICHIER] [--xsl] [--marques]
+    return R"(  swiftroll-cli releve FICHIER.ged -o SORTIE [--format )" + FormatWords() +
+           R"(] [--modele FICHIER] [--xsl] [--marques]
       écrit le Relevé-vif ; « -o - » l'envoie à l'écran. Sans --format, l'extension de SORTIE décide.
       --xsl écrit aussi la feuille de style à côté du XML, --marques n'écrit que les lignes marquées.
 )";
@@ -69,9 +84,9 @@ void ReleveJob::Prepare(Session& session) {
     output = FileNameToText(options_.output);
     main.cboSaveSwift.SetListIndex(FormatOf(session, options_));
     if (!options_.model.empty()) main.cboFileModel.SetText(FileNameToText(options_.model));
-    if (main.iOutFormat != kXml || !main.chkGenerXSL.Checked()) return;
+    stylesheet_ = main.StylesheetOf(output);
+    if (stylesheet_.empty()) return;
     if (output == kStandardOutput) throw UsageError("--xsl demande un fichier de sortie");
-    stylesheet_ = modCommon::ChangeExtension(output, main.txtModelExtension[kXml].Get());
     if (stylesheet_ == output) {
         throw UsageError("la sortie a le nom de sa feuille de style : " + options_.output);
     }
