@@ -5,15 +5,14 @@
 
 namespace swiftroll {
 
-void Positions::InitIndexes(TableSet& tables, Dialogs& dialogs, TextView caption) {
+void Positions::InitIndexes(TableSet& tables, Feedback& feedback) {
     iKeyColIn = iKeyColOut = {};
     for (const Column& column : tables.lvwOut.Columns()) {
         if (column.Key.empty()) continue;
         const ColumnFacts& facts = *column.Facts;
         if (column.Key != facts.key) {
-            dialogs.Show(
-                {Concat({caption, " - InitIdxOut"}), Concat({"Colonne ajoutée dans Out : "_t, column.Caption,
-                                                             kLineEnd, "Merci de me prévenir !"_t})});
+            feedback.Box(" - InitIdxOut", Concat({"Colonne ajoutée dans Out : "_t, column.Caption, kLineEnd,
+                                                  "Merci de me prévenir !"_t}));
         } else if (facts.formsGroups) {
             iKeyColIn[column.Position] = ColumnOfKey(In::kColumns, facts.key);
             iKeyColOut[column.Position] = column.Index;

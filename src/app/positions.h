@@ -3,7 +3,7 @@
 #include <array>
 #include <map>
 
-#include "app/ports.h"
+#include "app/feedback.h"
 #include "tables/schema.h"
 
 namespace swiftroll {
@@ -66,8 +66,8 @@ class Positions {
     };
 
     /// Refreshes everything from the present arrangement of the columns. A column of `lvwOut` with an unknown
-    /// key is told in a box titled with `caption`.
-    void InitIndexes(TableSet& tables, Dialogs& dialogs, TextView caption);
+    /// key is told in a box.
+    void InitIndexes(TableSet& tables, Feedback& feedback);
 
     const OfTable& Of(const Table& table) const { return byTable_.at(&table); }
     /// Position of the column `Number` of `lvwOut`: the columns before it form the groups.

@@ -25,7 +25,7 @@ struct TrailContext {
 /// The error trail: the stack of the active procedures, and the report of a failure in a box and in the log.
 class Trail {
   public:
-    Trail(Ports& ports, TableSet& tables, TrailContext context)
+    Trail(const Ports& ports, TableSet& tables, TrailContext context)
         : ports_(ports), tables_(tables), context_(std::move(context)) {}
 
     /// Runs `body` under the name of a procedure. A failure in it is reported with the text that `report`
@@ -95,7 +95,7 @@ class Trail {
     Account AccountOf(TextView sReport) const;
     void AppendToLog(const Account& account);
 
-    Ports& ports_;
+    Ports ports_;
     TableSet& tables_;
     TrailContext context_;
     // Names of the active procedures from index 1, oldest first.

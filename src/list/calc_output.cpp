@@ -29,11 +29,11 @@ struct YearPair : ColumnPair {
 /// Fills `lvwOut` from the rows of `lvwIn`, which come in group-key order.
 class GroupWriter {
   public:
-    explicit GroupWriter(Application& app) : app_(app) {
-        const Positions::OfTable& positions = app.positions.Of(app.lvwOut);
+    explicit GroupWriter(ArrangedTables& tables) : tables_(tables) {
+        const Positions::OfTable& positions = tables.positions.Of(tables.lvwOut);
         for (const ColumnFacts& column : Out::kColumns) {
             const ColumnPair pair{ColumnOfKey(In::kColumns, column.key), column.id,
-                                  positions.iPosOfCol[column.id] < app.positions.iPosNumber};
+                                  positions.iPosOfCol[column.id] < tables.positions.iPosNumber};
             if (column.formsGroups) texts_.push_back(pair);
             if (column.IsYear()) years_.push_back({pair, column.kind == CellKind::SmallestYear});
         }
@@ -57,23 +57,23 @@ class GroupWriter {
     /// Writes the group that is being filled, if there is one.
     void Finish() {
         if (lGroupCount_ == 0) return;
-        Row row = app_.lvwOut.Add(std::nullopt, TextView(sPrevKey_), TextView());
+        Row row = tables_.lvwOut.Add(std::nullopt, TextView(sPrevKey_), TextView());
         for (std::size_t i = 0; i < texts_.size(); ++i) {
-            if (texts_[i].isShown) row.SetCell(texts_[i].out, app_.lvwOut.Store().Intern(fields_[i]));
+            if (texts_[i].isShown) row.SetCell(texts_[i].out, tables_.lvwOut.Store().Intern(fields_[i]));
             Grow(texts_[i].out, fields_[i].size());
         }
         for (std::size_t i = 0; i < years_.size(); ++i) {
             if (years_[i].isShown && aggregates_[i] != years_[i].None()) {
-                row.SetCell(years_[i].out, app_.lvwOut.Store().Intern(Decimal(aggregates_[i])));
+                row.SetCell(years_[i].out, tables_.lvwOut.Store().Intern(Decimal(aggregates_[i])));
             }
         }
         const Text count = AlignRight(Decimal(lGroupCount_), kNumberWidth);
-        row.SetCell(Out::Number, app_.lvwOut.Store().Intern(count));
+        row.SetCell(Out::Number, tables_.lvwOut.Store().Intern(count));
         Grow(Out::Number, count.size());
     }
 
     void SetYearWidths() {
-        for (const YearPair& year : years_) app_.lMaxLenOut[year.out] = kYearWidth;
+        for (const YearPair& year : years_) tables_.lMaxLenOut[year.out] = kYearWidth;
     }
 
   private:
@@ -86,11 +86,11 @@ class GroupWriter {
         aggregate = years_[i].isSmallest ? std::min(aggregate, year) : std::max(aggregate, year);
     }
     void Grow(ColumnId column, std::size_t length) {
-        std::int32_t& width = app_.lMaxLenOut[column];
+        std::int32_t& width = tables_.lMaxLenOut[column];
         width = std::max(width, static_cast<std::int32_t>(length));
     }
 
-    Application& app_;
+    ArrangedTables& tables_;
     std::vector<ColumnPair> texts_;
     std::vector<YearPair> years_;
     Text sPrevKey_ = "\r\n";  // no key is this text
@@ -99,35 +99,36 @@ class GroupWriter {
     std::vector<std::int32_t> aggregates_;
 };
 
-void ComputeList(Application& app) {
-    app.InitIndexes();
-    app.pnlMessage.Set("Comptage..."_t);
-    app.bWaitCursor = true;
-    app.lMaxLenOut = Widths();
-    app.lMaxLenOut[Out::Number] = static_cast<std::int32_t>(app.lvwOut.ColumnAt(Out::Number).Caption.size());
-    SortTable(app, SortMode::GroupKey, app.lvwIn, app.lvwIn.ColumnAt(In::ID));
-    app.lvwOut.Clear();
-    app.lvwOut.SetSorted(false);
-    GroupWriter groups(app);
-    const std::int32_t count = app.lvwIn.Count();
+void ComputeList(ArrangedTables& tables, Feedback& feedback) {
+    tables.InitIndexes(feedback);
+    feedback.pnlMessage.Set("Comptage..."_t);
+    feedback.bWaitCursor = true;
+    Table &lvwIn = tables.lvwIn, &lvwOut = tables.lvwOut;
+    tables.lMaxLenOut = Widths();
+    tables.lMaxLenOut[Out::Number] = static_cast<std::int32_t>(lvwOut.ColumnAt(Out::Number).Caption.size());
+    SortTable(tables.positions, feedback, SortMode::GroupKey, lvwIn, lvwIn.ColumnAt(In::ID));
+    lvwOut.Clear();
+    lvwOut.SetSorted(false);
+    GroupWriter groups(tables);
+    const std::int32_t count = lvwIn.Count();
     for (std::int32_t i = 1; i <= count; ++i) {
-        const Row row = app.lvwIn.Item(i);
-        app.ProgressBar1.Show(i, count);
-        groups.Add(row, MakeSortKeyIn(app.positions, row));
+        const Row row = lvwIn.Item(i);
+        feedback.ProgressBar1.Show(i, count);
+        groups.Add(row, MakeSortKeyIn(tables.positions, row));
     }
     groups.Finish();
     groups.SetYearWidths();
-    app.pnlMessage.Set("");
+    feedback.pnlMessage.Set("");
 }
 
 }  // namespace
 
-void CalcOuptut(Application& app) {
-    if (app.lvwIn.Count() > 0) {
-        app.trail.Guard(
-            "CalcOuptut", [&] { ComputeList(app); }, [] { return Text(); });
+void CalcOuptut(ArrangedTables& tables, Feedback& feedback) {
+    if (tables.lvwIn.Count() > 0) {
+        feedback.trail.Guard(
+            "CalcOuptut", [&] { ComputeList(tables, feedback); }, [] { return Text(); });
     }
-    app.bWaitCursor = false;
+    feedback.bWaitCursor = false;
 }
 
 }  // namespace swiftroll::modCalcOut

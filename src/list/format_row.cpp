@@ -7,15 +7,16 @@
 
 namespace swiftroll::modCalcOut {
 
-RowFormatter::RowFormatter(Application& app) : app_(app), table_(*app.lvwActiveListView) {
-    app_.trail.Guard(
+RowFormatter::RowFormatter(ArrangedTables& tables, Feedback& feedback, Table& table, bool bIncludeHeaders)
+    : tables_(tables), feedback_(feedback), table_(table) {
+    feedback_.trail.Guard(
         "InitListItem",
         [&] {
-            app_.InitIndexes();
+            tables_.InitIndexes(feedback_);
             Widths& widths = WidthsOfTable();
-            lastPosition_ = &table_ == &app_.lvwOut ? app_.positions.iPosNumber : table_.ColumnCount();
+            lastPosition_ = &table_ == &tables_.lvwOut ? tables_.positions.iPosNumber : table_.ColumnCount();
             for (const Column& column : table_.Columns()) {
-                if (!app_.chkIncludeHeaders.Checked() || column.Position > lastPosition_) continue;
+                if (!bIncludeHeaders || column.Position > lastPosition_) continue;
                 std::int32_t& width = widths[column.Index];
                 width = std::max(width, static_cast<std::int32_t>(column.Caption.size()));
             }
@@ -25,12 +26,12 @@ RowFormatter::RowFormatter(Application& app) : app_(app), table_(*app.lvwActiveL
 }
 
 Widths& RowFormatter::WidthsOfTable() {
-    if (&table_ == &app_.lvwIn) return app_.lMaxLenIn;
-    if (&table_ == &app_.lvwOut) return app_.lMaxLenOut;
-    if (&table_ == &app_.lvwXref) return app_.lMaxLenXref;
-    if (&table_ == &app_.lvwFamily) return app_.lMaxLenFamily;
-    if (&table_ == &app_.lvwFamilyXref) return app_.lMaxLenFamilyXref;
-    if (&table_ == &app_.lvwKinship) return app_.lMaxLenKinship;
+    if (&table_ == &tables_.lvwIn) return tables_.lMaxLenIn;
+    if (&table_ == &tables_.lvwOut) return tables_.lMaxLenOut;
+    if (&table_ == &tables_.lvwXref) return tables_.lMaxLenXref;
+    if (&table_ == &tables_.lvwFamily) return tables_.lMaxLenFamily;
+    if (&table_ == &tables_.lvwFamilyXref) return tables_.lMaxLenFamilyXref;
+    if (&table_ == &tables_.lvwKinship) return tables_.lMaxLenKinship;
     // Nothing measures the links of a kinship search when they are copied.
     for (std::int32_t i = 1; i <= table_.Count(); ++i) SetMaxLen(table_.Item(i), lActiveMaxLen_);
     return lActiveMaxLen_;
@@ -39,17 +40,17 @@ Widths& RowFormatter::WidthsOfTable() {
 template <class CellOf>
 Text RowFormatter::Format(bool bTabs, const CellOf& cellOf) const {
     std::int16_t position = 1;
-    return app_.trail.Guard(
+    return feedback_.trail.Guard(
         "FormatListItem",
         [&] {
             Text sRowText;
             for (; position <= lastPosition_; ++position) {
-                const ColumnId index = app_.positions.Of(table_).iColAtPos[position];
+                const ColumnId index = tables_.positions.Of(table_).iColAtPos[position];
                 const Column& column = table_.ColumnAt(index);
                 if (!column.IsOn()) continue;
                 const auto width = static_cast<std::size_t>(lActiveMaxLen_[index]);
                 Text sCell(cellOf(column));
-                if (&table_ == &app_.lvwOut && index == Out::Number) sCell = AlignRight(sCell, width);
+                if (&table_ == &tables_.lvwOut && index == Out::Number) sCell = AlignRight(sCell, width);
                 if (!bTabs && sCell.size() > width + 1) throw Failure(FailureKind::InvalidArgument);
                 sRowText += bTabs ? sCell + '\t' : PadRight(sCell, width + 1);
             }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "app/application.h"
+#include "app/arranged_tables.h"
 
 namespace swiftroll::modCalcOut {
 
 /// Renders rows of a table as lines of text for the clipboard and for drag and drop.
 class RowFormatter {
   public:
-    /// Prepares for the rows of `lvwActiveListView` (`InitListItem`): refreshes the position tables and, when
-    /// headers are included, widens the columns to their captions.
-    explicit RowFormatter(Application& app);
+    /// Prepares for the rows of `table` (`InitListItem`): refreshes the position tables and, when headers are
+    /// included, widens the columns to their captions.
+    RowFormatter(ArrangedTables& tables, Feedback& feedback, Table& table, bool bIncludeHeaders);
 
     /// False after a failure, which was reported: there are no lines then.
     bool IsReady() const { return lastPosition_ > 0; }
@@ -27,7 +27,8 @@ class RowFormatter {
     Text Format(bool bTabs, const CellOf& cellOf) const;
     Widths& WidthsOfTable();
 
-    Application& app_;
+    ArrangedTables& tables_;
+    Feedback& feedback_;
     Table& table_;
     std::int16_t lastPosition_ = 0;
     Widths lActiveMaxLen_;

@@ -21,12 +21,12 @@ void WriteSortKey(const Positions& positions, const PerPosition<ColumnId>& keyCo
     }
 }
 
-Text FormOf(const Application& app, SortMode iMode, const Row& row, ColumnId column) {
+Text FormOf(const Positions& positions, SortMode iMode, const Row& row, ColumnId column) {
     switch (iMode) {
         case SortMode::Number:
             return AlignRight(row.Cell(column), kNumberWidth);
         case SortMode::GroupKey:
-            return MakeSortKeyIn(app.positions, row);
+            return MakeSortKeyIn(positions, row);
         case SortMode::Folded:
             break;
     }
@@ -61,14 +61,14 @@ void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey) {
     WriteSortKey(positions, positions.iKeyColOut, row, sKey);
 }
 
-void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
-    const ScopedFlag lock(app.bTablesLocked);
+void SortTable(const Positions& positions, Feedback& feedback, SortMode iMode, Table& table, Column& column) {
+    const ScopedFlag lock(feedback.bTablesLocked);
     // The forms stand aside, one behind the other, for the length of the sort.
     TextStore formStore;
     std::vector<TextView> forms;
     forms.reserve(static_cast<std::size_t>(table.Count()));
     for (std::int32_t i = 1; i <= table.Count(); ++i) {
-        forms.push_back(formStore.Get(formStore.Put(FormOf(app, iMode, table.Item(i), column.Index))));
+        forms.push_back(formStore.Get(formStore.Put(FormOf(positions, iMode, table.Item(i), column.Index))));
     }
     const bool wasSorted = table.Sorted();
     const bool toggles = iMode != SortMode::GroupKey;
@@ -77,29 +77,31 @@ void SortTable(Application& app, SortMode iMode, Table& table, Column& column) {
     if (toggles) SetColumnIcon(table, column, true);
 }
 
-void WarnWithoutColumns(Application& app, const Table& table) {
+void WarnWithoutColumns(Feedback& feedback, const Table& table) {
     for (const Column& column : table.Columns()) {
         if (column.IsOn()) return;
     }
-    app.Box(" - Sélection Colonnes"_t,
-            Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
-                    "puisqu'aucune colonne n'est sélectionnée"_t}),
-            BoxButtons::Ok, BoxIcon::Exclamation);
+    feedback.Box(" - Sélection Colonnes"_t,
+                 Concat({"Aucune valeur ne sera écrite en sortie"_t, kLineEnd,
+                         "puisqu'aucune colonne n'est sélectionnée"_t}),
+                 BoxButtons::Ok, BoxIcon::Exclamation);
 }
 
-void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown) {
-    app.trail.Guard(
+void lvw_ColumnClick(ArrangedTables& tables, Feedback& feedback, Table& table, Column& column,
+                     bool shiftIsDown) {
+    feedback.trail.Guard(
         "lvw_ColumnClick",
         [&] {
             if (!shiftIsDown) {
                 const bool isText = column.Facts->kind == CellKind::Words;
-                SortTable(app, isText ? SortMode::Folded : SortMode::Number, table, column);
+                SortTable(tables.positions, feedback, isText ? SortMode::Folded : SortMode::Number, table,
+                          column);
                 return;
             }
-            if (&table == &app.lvwOut) return;
+            if (&table == &tables.lvwOut) return;
             column.Icon.replace(0, 2, column.IsOn() ? "Of" : "On");
             SetColumnIcon(table, column, false);
-            WarnWithoutColumns(app, table);
+            WarnWithoutColumns(feedback, table);
         },
         [] { return Text(); });
 }

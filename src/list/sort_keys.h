@@ -1,6 +1,7 @@
 #pragma once
 
-#include "app/application.h"
+#include "app/arranged_tables.h"
+#include "app/option_record.h"
 
 namespace swiftroll::modCalcOut {
 
@@ -22,14 +23,16 @@ void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey);
 enum class SortMode : std::int16_t { Number = 1, GroupKey = 2, Folded = 3 };
 
 /// Sorts a table by the comparison forms of a column and marks the column's icon; the order toggles between
-/// ascending and descending. `GroupKey` sorts `lvwIn`, always ascending, and leaves the icons.
-void SortTable(Application& app, SortMode iMode, Table& table, Column& column);
+/// ascending and descending. `GroupKey` sorts `lvwIn`, always ascending, and leaves the icons; it alone reads
+/// the positions.
+void SortTable(const Positions& positions, Feedback& feedback, SortMode iMode, Table& table, Column& column);
 
 /// What a click on a column header does: with Shift it switches the column on or off for export, else it
 /// sorts.
-void lvw_ColumnClick(Application& app, Table& table, Column& column, bool shiftIsDown);
+void lvw_ColumnClick(ArrangedTables& tables, Feedback& feedback, Table& table, Column& column,
+                     bool shiftIsDown);
 
 /// Tells the user when no column of the table is switched on for export.
-void WarnWithoutColumns(Application& app, const Table& table);
+void WarnWithoutColumns(Feedback& feedback, const Table& table);
 
 }  // namespace swiftroll::modCalcOut

@@ -118,7 +118,7 @@ void frmMain::PlaceSelected() {
 }
 
 void frmMain::lvw_ColumnClick(Table& table, Column& column) {
-    modCalcOut::lvw_ColumnClick(*this, table, column, ports.keyboard.IsShiftDown());
+    modCalcOut::lvw_ColumnClick(*this, *this, table, column, ports.keyboard.IsShiftDown());
 }
 
 void frmMain::mnuNextSelected_Click() {
@@ -206,7 +206,7 @@ void frmMain::mnuFind_Click() {
 /// for a table that cannot be exported.
 std::optional<Text> frmMain::MarkedLines() {
     if (lvwActiveListView == nullptr) return std::nullopt;
-    const modCalcOut::RowFormatter formatter(*this);
+    const modCalcOut::RowFormatter formatter(*this, *this, *lvwActiveListView, chkIncludeHeaders.Checked());
     if (!formatter.IsReady()) return std::nullopt;
     const bool bTabs = optTabSpace.Index() == 0;
     Text lines;

@@ -67,7 +67,7 @@ void frmMain::DisableKinshipCommands() {
 }
 
 void frmMain::cmdCalcOutput_Click() {
-    modCalcOut::CalcOuptut(*this);
+    modCalcOut::CalcOuptut(*this, *this);
     ShowTab(Tab::Out);
     SetAllColumnIcons(*this);
 }

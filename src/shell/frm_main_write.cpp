@@ -57,7 +57,10 @@ void frmMain::WriteSwiftFile(bool bSelectedOnly) {
     const Text out = cboSwiftOut.Get(), model = cboFileModel.Get(), sXslFile = StylesheetOf(out);
     bWriteComplete = true;
     if (format.NeedsModel(!sXslFile.empty()) && ModelIsMissing(model)) return;
-    bWriteComplete = format.write(*this, modReadGedcom.lines, format, {out, model, sXslFile, bSelectedOnly});
+    const modReadGedcom::LineReader& lines = modReadGedcom.lines;
+    const modGenFileFromModel::ListOrigin origin{cboGedIn.Get(), lines.lNrNames, lines.lNrLines};
+    bWriteComplete = format.write({*this, *this, *this, origin, ports.files, ports.clock, *this}, format,
+                                  {out, model, sXslFile, bSelectedOnly});
 }
 
 Text frmMain::StylesheetOf(TextView sOutFile) const {

@@ -11,10 +11,10 @@
 namespace swiftroll::modGenFileFromModel {
 
 Text IndexPass::EntryOf(const Row& row) const {
-    const Text sKey = modCalcOut::MakeSortKeyOut(app_.positions, row);
+    const Text sKey = modCalcOut::MakeSortKeyOut(source_.tables.positions, row);
     const TextView parts = TextView(sKey).substr(sKey.empty() ? 0 : 1);
     Text entry = Concat({parts.substr(0, parts.find('\\')), "_"});
-    const std::int16_t length = ToInteger(app_.txtINDEX.Get());
+    const std::int16_t length = ToInteger(source_.options.txtINDEX.Get());
     if (length < 0) throw Failure(FailureKind::InvalidArgument);
     return entry.substr(0, static_cast<std::size_t>(length));
 }
@@ -29,14 +29,14 @@ std::optional<Text> IndexPass::NewEntry(const Row& row) {
     return entry;
 }
 
-Text CalcINDEXes(Application& app, bool bSelectedOnly, TextView sEmptyCell) {
-    return app.trail.Guard(
+Text CalcINDEXes(const ListSource& source, bool bSelectedOnly, TextView sEmptyCell) {
+    return source.feedback.trail.Guard(
         "CalcINDEXes",
         [&] {
             Text links;
-            IndexPass pass(app);
-            for (std::int32_t i = 1; i <= app.lvwOut.Count(); ++i) {
-                const Row row = app.lvwOut.Item(i);
+            IndexPass pass(source);
+            for (std::int32_t i = 1; i <= source.tables.lvwOut.Count(); ++i) {
+                const Row row = source.tables.lvwOut.Item(i);
                 if (bSelectedOnly && !row.Marked()) continue;
                 if (const auto entry = pass.NewEntry(row)) {
                     links += Concat({"<A href=\"#SR_", *entry, "\">", *entry, "</A>", sEmptyCell});
@@ -44,16 +44,16 @@ Text CalcINDEXes(Application& app, bool bSelectedOnly, TextView sEmptyCell) {
             }
             return links;
         },
-        [&] { return app.txtINDEX.Get(); });
+        [&] { return source.options.txtINDEX.Get(); });
 }
 
 void AnchorWriter::PutINDEX(File& iFile, const Row& row, bool bXml) {
     if (failed_) return;
-    const auto entry = app_.trail.GuardElse(
+    const auto entry = source_.feedback.trail.GuardElse(
         "PutINDEX", [&] { return pass_.NewEntry(row); },
         [&] {
             failed_ = true;
-            app_.trail.ErrorLog(app_.txtINDEX.Get());
+            source_.feedback.trail.ErrorLog(source_.options.txtINDEX.Get());
         });
     if (!entry) return;
     if (bXml) {

@@ -52,15 +52,15 @@ void RemoveTags(ModelPieces& pieces) {
     }
 }
 
-void TellMissingTags(Application& app, OutFormat iOutFormat) {
+void TellMissingTags(Feedback& feedback, OutFormat iOutFormat) {
     const TextView tags =
         iOutFormat == OutFormat::Text
             ? "<tr> ... <td> ... %ELEMENT% ... </td> ... </tr> ... <tr> ... <td> ... %ELEMENT% ... </td> ... </tr>"_t
             : "<tr ... <td ... %ELEMENT% ... </td> ... </tr> ... <tr ... <td ... %ELEMENT% ... </td> ... </tr>"_t;
-    app.Box(" - HTML/XSL/TXT"_t,
-            Concat({"Le fichier modèle HTML/XSL/TXT ne contient pas les Tags nécessaires."_t, kLineEnd,
-                    "Le fichier doit contenir :"_t, kLineEnd, tags, kLineEnd,
-                    "Voir l'aide à la rubrique 'Format du Fichier Modèle HTML/XSL/TXT'"_t}));
+    feedback.Box(" - HTML/XSL/TXT"_t,
+                 Concat({"Le fichier modèle HTML/XSL/TXT ne contient pas les Tags nécessaires."_t, kLineEnd,
+                         "Le fichier doit contenir :"_t, kLineEnd, tags, kLineEnd,
+                         "Voir l'aide à la rubrique 'Format du Fichier Modèle HTML/XSL/TXT'"_t}));
 }
 
 }  // namespace
@@ -84,12 +84,13 @@ std::optional<ModelPieces> SplitModelText(TextView model, OutFormat iOutFormat) 
     return pieces;
 }
 
-std::optional<ModelPieces> SplitModel(Application& app, TextView sFile, OutFormat iOutFormat) {
-    return app.trail.Guard(
+std::optional<ModelPieces> SplitModel(Files& files, Feedback& feedback, TextView sFile,
+                                      OutFormat iOutFormat) {
+    return feedback.trail.Guard(
         "SplitModel",
         [&] {
-            auto pieces = SplitModelText(ReadWholeFile(app.ports.files, sFile), iOutFormat);
-            if (!pieces) TellMissingTags(app, iOutFormat);
+            auto pieces = SplitModelText(ReadWholeFile(files, sFile), iOutFormat);
+            if (!pieces) TellMissingTags(feedback, iOutFormat);
             return pieces;
         },
         [&] { return Text(sFile); });

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "app/application.h"
+#include "app/feedback.h"
 
 namespace swiftroll::modGenFileFromModel {
 
@@ -22,7 +22,7 @@ struct ModelPieces {
 
 /// Cuts the model file. Nothing when it lacks a tag or a marker, which is told in a box, or cannot be read,
 /// which is reported.
-std::optional<ModelPieces> SplitModel(Application& app, TextView sFile, OutFormat iOutFormat);
+std::optional<ModelPieces> SplitModel(Files& files, Feedback& feedback, TextView sFile, OutFormat iOutFormat);
 /// The same for the bytes of a model; nothing when it lacks a tag or a marker.
 std::optional<ModelPieces> SplitModelText(TextView model, OutFormat iOutFormat);
 

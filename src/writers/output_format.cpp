@@ -10,18 +10,16 @@
 namespace swiftroll::modGenFileFromModel {
 namespace {
 
-bool WriteThroughModel(Application& app, const modReadGedcom::LineReader& lines, const OutputFormat& format,
-                       const WriteRequest& request) {
-    WriteFileFromModel(app, lines, format, request.sOutFile, request.sModelFile, request.bSelectedOnly);
+bool WriteThroughModel(const ListSource& source, const OutputFormat& format, const WriteRequest& request) {
+    WriteFileFromModel(source, format, request.sOutFile, request.sModelFile, request.bSelectedOnly);
     return true;
 }
 
-bool WriteWithStylesheet(Application& app, const modReadGedcom::LineReader& lines, const OutputFormat& format,
-                         const WriteRequest& request) {
+bool WriteWithStylesheet(const ListSource& source, const OutputFormat& format, const WriteRequest& request) {
     if (!request.sXslFile.empty()) {
-        WriteFileFromModel(app, lines, format, request.sXslFile, request.sModelFile, request.bSelectedOnly);
+        WriteFileFromModel(source, format, request.sXslFile, request.sModelFile, request.bSelectedOnly);
     }
-    return WriteXML(app, request.sOutFile, FileNamePart(request.sXslFile), request.bSelectedOnly);
+    return WriteXML(source, request.sOutFile, FileNamePart(request.sXslFile), request.bSelectedOnly);
 }
 
 constexpr OutputFormat kFormats[] = {

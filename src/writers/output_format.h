@@ -3,7 +3,7 @@
 #include <optional>
 #include <span>
 
-#include "gedcom/line_reader.h"
+#include "writers/list_source.h"
 #include "writers/model.h"
 
 namespace swiftroll::modGenFileFromModel {
@@ -19,8 +19,7 @@ struct WriteRequest {
 };
 
 /// Writes `lvwOut` in a format. False when the file is not complete and nobody was told.
-using Writer = bool (*)(Application& app, const modReadGedcom::LineReader& lines, const OutputFormat& format,
-                        const WriteRequest& request);
+using Writer = bool (*)(const ListSource& source, const OutputFormat& format, const WriteRequest& request);
 
 /// A format in which the Relevé-vif is written.
 struct OutputFormat {

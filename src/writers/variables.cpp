@@ -6,16 +6,14 @@
 
 namespace swiftroll::modGenFileFromModel {
 
-DocumentVariables::DocumentVariables(const Application& app, const modReadGedcom::LineReader& lines) {
-    const Moment now = app.ports.clock.Now();
-    const Text gedcom = app.cboGedIn.Get();
+DocumentVariables::DocumentVariables(const Product& product, const ListOrigin& origin, const Moment& now) {
     values_ = {
-        {"%SWIFTROLL%",
-         Concat({"<a href=\"", app.sWebAddress, "\">", app.sProduct, "</a> (v", app.sVersion, ")"})},
-        {"%INDIVIDUALS%", Decimal(lines.lNrNames)},
-        {"%GEDCOM_LINES%", Decimal(std::int64_t{lines.lNrLines} + 1)},
-        {"%GEDCOM_FULL_FILENAME%", gedcom},
-        {"%GEDCOM_FILENAME%", Text(FileNamePart(gedcom))},
+        {"%SWIFTROLL%", Concat({"<a href=\"", product.sWebAddress, "\">", product.sProduct, "</a> (v",
+                                product.sVersion, ")"})},
+        {"%INDIVIDUALS%", Decimal(origin.lNrNames)},
+        {"%GEDCOM_LINES%", Decimal(std::int64_t{origin.lNrLines} + 1)},
+        {"%GEDCOM_FULL_FILENAME%", origin.sGedcom},
+        {"%GEDCOM_FILENAME%", Text(FileNamePart(origin.sGedcom))},
         {"%DATE_LONG%", LongDate(now)},
         {"%DATE_MEDIUM%", MediumDate(now)},
         {"%DATE_SHORT%", ShortDate(now)},

@@ -3,15 +3,21 @@
 #include <utility>
 #include <vector>
 
-#include "app/application.h"
-#include "gedcom/line_reader.h"
+#include "app/ports.h"
+#include "app/product.h"
 
 namespace swiftroll::modGenFileFromModel {
+
+/// The GEDCOM file that the list comes from.
+struct ListOrigin {
+    Text sGedcom;  // the name of the file
+    std::int32_t lNrNames = 0, lNrLines = 0;
+};
 
 /// The values of the document variables (%SWIFTROLL%, %INDIVIDUALS%, %DATE_LONG%, ...) at one moment.
 class DocumentVariables {
   public:
-    DocumentVariables(const Application& app, const modReadGedcom::LineReader& lines);
+    DocumentVariables(const Product& product, const ListOrigin& origin, const Moment& now);
     /// `sText` with every variable replaced, exact in case.
     Text Replace(TextView sText) const;
 

@@ -17,10 +17,10 @@ constexpr TextView kIndex = "%INDEX%";
 /// One document on its way to its file.
 class Document {
   public:
-    Document(Application& app, const modReadGedcom::LineReader& lines, ModelPieces model,
-             const OutputFormat& format, bool bSelectedOnly)
-        : app_(app),
-          variables_(app, lines),
+    Document(const ListSource& source, ModelPieces model, const OutputFormat& format, bool bSelectedOnly)
+        : source_(source),
+          tables_(source.tables),
+          variables_(source.product, source.origin, source.clock.Now()),
           model_(std::move(model)),
           format_(*format.model),
           selectedOnly_(bSelectedOnly),
@@ -33,11 +33,11 @@ class Document {
 
     void Open(TextView sOutFile) {
         try {
-            app_.ports.files.Delete(sOutFile);
+            source_.files.Delete(sOutFile);
         } catch (const Failure&) {
             // The opening tells what is wrong.
         }
-        file_ = app_.ports.files.Open(sOutFile, Files::Mode::Write);
+        file_ = source_.files.Open(sOutFile, Files::Mode::Write);
         PrintWithIndex(model_.sModelHead);
     }
 
@@ -57,8 +57,8 @@ class Document {
     void MakeIndex() {
         const bool hasPlace =
             model_.sModelHead.find(kIndex) != Text::npos || model_.sModelTail.find(kIndex) != Text::npos;
-        if (app_.txtINDEX.Get() == "0" || !hasPlace) return;
-        index_ = CalcINDEXes(app_, selectedOnly_, emptyCell_);
+        if (source_.options.txtINDEX.Get() == "0" || !hasPlace) return;
+        index_ = CalcINDEXes(source_, selectedOnly_, emptyCell_);
     }
 
     /// Prints the head or the tail, the index at its places. It goes to the file piece by piece, since a
@@ -74,7 +74,7 @@ class Document {
     void Print(TextView sText) { PrintWithOtherTags(*file_, sText, variables_); }
 
     const Column& ColumnAtPosition(std::int16_t position) const {
-        return app_.lvwOut.ColumnAt(app_.positions.Of(app_.lvwOut).iColAtPos[position]);
+        return tables_.lvwOut.ColumnAt(tables_.positions.Of(tables_.lvwOut).iColAtPos[position]);
     }
 
     void PrintCell(TextView model, TextView sCell) { Print(ReplaceAll(model, marker_, sCell)); }
@@ -87,37 +87,37 @@ class Document {
 
     Text HeaderCell(const Column& column) {
         if (!padCells_) return column.Caption;
-        Text sCell = PadRight(column.Caption, static_cast<std::size_t>(app_.lMaxLenOut[column.Index]));
+        Text sCell = PadRight(column.Caption, static_cast<std::size_t>(tables_.lMaxLenOut[column.Index]));
         padWidth_[column.Index] = static_cast<std::int32_t>(sCell.size());
         return sCell;
     }
 
     void WriteHeaderRow() {
         file_->Write(model_.sModelRow1Open);
-        for (std::int16_t position = 1; position < app_.positions.iPosNumber; ++position) {
+        for (std::int16_t position = 1; position < tables_.positions.iPosNumber; ++position) {
             PrintCell(model_.sModelCell1, HeaderCell(ColumnAtPosition(position)));
         }
-        PrintNumberCell(model_.sModelCell1, HeaderCell(app_.lvwOut.ColumnAt(Out::Number)));
+        PrintNumberCell(model_.sModelCell1, HeaderCell(tables_.lvwOut.ColumnAt(Out::Number)));
         Print(model_.sModelRow1Close);
     }
 
     void WriteTemplateRow() {
-        const PerPosition<Text> tags = MakeColumnTags(app_);
+        const PerPosition<Text> tags = MakeColumnTags(tables_);
         Print(model_.sModelRow2Open);
-        for (std::int16_t position = 1; position <= app_.positions.iPosNumber; ++position) {
+        for (std::int16_t position = 1; position <= tables_.positions.iPosNumber; ++position) {
             Print(ReplaceAll(model_.sModelCell2, kElement, tags[position]));
         }
         Print(model_.sModelRow2Close);
     }
 
     void WriteDataRows() {
-        AnchorWriter anchors(app_);
-        for (std::int32_t i = 1; i <= app_.lvwOut.Count(); ++i) {
-            const Row row = app_.lvwOut.Item(i);
+        AnchorWriter anchors(source_);
+        for (std::int32_t i = 1; i <= tables_.lvwOut.Count(); ++i) {
+            const Row row = tables_.lvwOut.Item(i);
             if (selectedOnly_ && !row.Marked()) continue;
             Print(model_.sModelRow2Open);
             if (format_ == OutFormat::Html) anchors.PutINDEX(*file_, row, false);
-            for (std::int16_t position = 1; position < app_.positions.iPosNumber; ++position) {
+            for (std::int16_t position = 1; position < tables_.positions.iPosNumber; ++position) {
                 WriteDataCell(row, ColumnAtPosition(position).Index);
             }
             PrintNumberCell(model_.sModelCell2, row.Cell(Out::Number));
@@ -134,7 +134,8 @@ class Document {
         }
     }
 
-    Application& app_;
+    const ListSource& source_;
+    ArrangedTables& tables_;
     DocumentVariables variables_;
     ModelPieces model_;
     OutFormat format_;
@@ -149,28 +150,29 @@ class Document {
 
 }  // namespace
 
-void WriteFileFromModel(Application& app, const modReadGedcom::LineReader& lines, const OutputFormat& format,
-                        TextView sOutFile, TextView sModelFile, bool bSelectedOnly) {
-    app.bWaitCursor = true;
+void WriteFileFromModel(const ListSource& source, const OutputFormat& format, TextView sOutFile,
+                        TextView sModelFile, bool bSelectedOnly) {
+    source.feedback.bWaitCursor = true;
     bool opened = false;
-    app.trail.GuardElse(
+    source.feedback.trail.GuardElse(
         "WriteFileFromModel",
         [&] {
-            auto pieces = SplitModel(app, sModelFile, *format.model);
+            auto pieces = SplitModel(source.files, source.feedback, sModelFile, *format.model);
             if (!pieces) return;
-            Document document(app, lines, std::move(*pieces), format, bSelectedOnly);
+            Document document(source, std::move(*pieces), format, bSelectedOnly);
             document.Open(sOutFile);
             opened = true;
             document.WriteRest();
         },
         [&] {
             if (opened) {
-                app.trail.ErrorLog(Concat({sOutFile, "/", bSelectedOnly ? "-1" : "0"}));
+                source.feedback.trail.ErrorLog(Concat({sOutFile, "/", bSelectedOnly ? "-1" : "0"}));
             } else {
-                app.Box(" - OpenOutput"_t, Concat({"Erreur d'écriture dans le fichier "_t, sOutFile, "."}));
+                source.feedback.Box(" - OpenOutput"_t,
+                                    Concat({"Erreur d'écriture dans le fichier "_t, sOutFile, "."}));
             }
         });
-    app.bWaitCursor = false;
+    source.feedback.bWaitCursor = false;
 }
 
 }  // namespace swiftroll::modGenFileFromModel

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "gedcom/line_reader.h"
 #include "writers/output_format.h"
 
 namespace swiftroll::modGenFileFromModel {
@@ -9,7 +8,7 @@ namespace swiftroll::modGenFileFromModel {
 /// the stylesheet that goes with an XML file. The format's `sEmptyCell` stands for an empty cell and behind
 /// each link of the index. When the model cannot be cut nothing is touched. Failures are told in a box while
 /// the file is opened and its head written, and reported later; what was written by then stays.
-void WriteFileFromModel(Application& app, const modReadGedcom::LineReader& lines, const OutputFormat& format,
-                        TextView sOutFile, TextView sModelFile, bool bSelectedOnly);
+void WriteFileFromModel(const ListSource& source, const OutputFormat& format, TextView sOutFile,
+                        TextView sModelFile, bool bSelectedOnly);
 
 }  // namespace swiftroll::modGenFileFromModel

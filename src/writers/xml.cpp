@@ -43,33 +43,34 @@ class LenientFile : public File {
 
 }  // namespace
 
-PerPosition<Text> MakeColumnTags(const Application& app) {
+PerPosition<Text> MakeColumnTags(const ArrangedTables& tables) {
     PerPosition<Text> tags;
-    const Positions::OfTable& positions = app.positions.Of(app.lvwOut);
-    for (std::int16_t position = 1; position <= app.positions.iPosNumber; ++position) {
-        tags[position] = ComparisonForm(app.lvwOut.ColumnAt(positions.iColAtPos[position]).Caption);
+    const Positions::OfTable& positions = tables.positions.Of(tables.lvwOut);
+    for (std::int16_t position = 1; position <= tables.positions.iPosNumber; ++position) {
+        tags[position] = ComparisonForm(tables.lvwOut.ColumnAt(positions.iColAtPos[position]).Caption);
         std::erase(tags[position], ' ');
     }
     return tags;
 }
 
-bool WriteXML(Application& app, TextView sOutFile, TextView sXslName, bool bSelectedOnly) {
-    const PerPosition<Text> sColumnTag = MakeColumnTags(app);
-    LenientFile file(app.ports.files, sOutFile);
+bool WriteXML(const ListSource& source, TextView sOutFile, TextView sXslName, bool bSelectedOnly) {
+    ArrangedTables& tables = source.tables;
+    const PerPosition<Text> sColumnTag = MakeColumnTags(tables);
+    LenientFile file(source.files, sOutFile);
     file.Write(Concat({"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>", kLineEnd}));
     if (!sXslName.empty()) {
         file.Write(Concat({"<?xml:stylesheet type=\"text/xsl\" href=\"", sXslName, "\"?>", kLineEnd}));
     }
     file.Write(Concat({"<SwiftRoll>", kLineEnd}));
-    AnchorWriter anchors(app);
-    for (std::int32_t i = 1; i <= app.lvwOut.Count(); ++i) {
-        const Row row = app.lvwOut.Item(i);
+    AnchorWriter anchors(source);
+    for (std::int32_t i = 1; i <= tables.lvwOut.Count(); ++i) {
+        const Row row = tables.lvwOut.Item(i);
         if (bSelectedOnly && !row.Marked()) continue;
         file.Write(Concat({" <INDI>", kLineEnd}));
         anchors.PutINDEX(file, row, true);
-        for (std::int16_t position = 1; position <= app.positions.iPosNumber; ++position) {
+        for (std::int16_t position = 1; position <= tables.positions.iPosNumber; ++position) {
             const TextView tag = sColumnTag[position];
-            const TextView cell = row.Cell(app.positions.Of(app.lvwOut).iColAtPos[position]);
+            const TextView cell = row.Cell(tables.positions.Of(tables.lvwOut).iColAtPos[position]);
             file.Write(Concat({"  <", tag, ">", cell, "</", tag, ">", kLineEnd}));
         }
         file.Write(Concat({" </INDI>", kLineEnd}));

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "app/application.h"
+#include "writers/list_source.h"
 
 namespace swiftroll::modGenFileFromModel {
 
 /// Element names by position of `lvwOut`, up to `Number`: the captions in comparison form without blanks.
-PerPosition<Text> MakeColumnTags(const Application& app);
+PerPosition<Text> MakeColumnTags(const ArrangedTables& tables);
 
 /// Writes `lvwOut`, all of it or its marked rows, as XML that refers to the stylesheet `sXslName` unless that
 /// is empty. A step that fails is skipped and nothing is reported.
 /// @return whether every step succeeded
-bool WriteXML(Application& app, TextView sOutFile, TextView sXslName, bool bSelectedOnly);
+bool WriteXML(const ListSource& source, TextView sOutFile, TextView sXslName, bool bSelectedOnly);
 
 }  // namespace swiftroll::modGenFileFromModel

@@ -19,6 +19,9 @@ struct FormatRow : testing::Test, TestMain {
         SwitchOnOnly({"ID", "LastName", "FirstName", "BirthMin", "Sex"});
         dialogs.boxes.clear();
     }
+    modCalcOut::RowFormatter Formatter() {
+        return {main, main, *main.lvwActiveListView, main.chkIncludeHeaders.Checked()};
+    }
     void SwitchOnOnly(const std::vector<TextView>& keys) {
         for (Column& column : main.lvwIn.Columns()) {
             column.Icon = std::find(keys.begin(), keys.end(), column.Key) == keys.end() ? "OfNo" : "OnNo";
@@ -28,7 +31,7 @@ struct FormatRow : testing::Test, TestMain {
 
 TEST_F(FormatRow, CellsInTheOrderOfTheColumns) {
     main.lvwIn.MoveColumn(In::ID, 4);
-    const modCalcOut::RowFormatter formatter(main);
+    const modCalcOut::RowFormatter formatter = Formatter();
     const Row curie = main.lvwIn.Item("@I1@");
     EXPECT_EQ(formatter.FormatHeaders(kTabs), "Nom\tPrénom\tID\tNaiss.Min\tSexe"_t);
     // Only the last tab goes, so that empty cells at the end keep their columns.
@@ -36,14 +39,14 @@ TEST_F(FormatRow, CellsInTheOrderOfTheColumns) {
     EXPECT_EQ(formatter.FormatHeaders(kBlanks), "Nom             Prénom ID   Naiss.Min Sexe "_t);
     EXPECT_EQ(formatter.FormatListItem(curie, kBlanks), "Curie           Marie  @I1@ 1867           ");
     SwitchOnOnly({});
-    EXPECT_EQ(modCalcOut::RowFormatter(main).FormatListItem(curie, kTabs), "");
+    EXPECT_EQ(Formatter().FormatListItem(curie, kTabs), "");
 }
 
 TEST_F(FormatRow, TheListEndsWithItsNumberAlignedToTheRight) {
     Arrange(main.lvwOut, {"LastName", "FirstName", "DateMin"});
     main.cmdCalcOutput.Click();
     main.lvwOut.FindColumn("FirstName")->Icon = "OfNo";
-    const modCalcOut::RowFormatter formatter(main);
+    const modCalcOut::RowFormatter formatter = Formatter();
     EXPECT_EQ(formatter.FormatHeaders(kTabs), "Nom\tDate Min\t  Nbre");
     EXPECT_EQ(formatter.FormatListItem(main.lvwOut.Item(2), kBlanks), "Curie           1867          1 ");
     main.lvwOut.FindColumn("Number")->Icon = "OfNo";
@@ -52,7 +55,7 @@ TEST_F(FormatRow, TheListEndsWithItsNumberAlignedToTheRight) {
 
 TEST_F(FormatRow, WithoutHeadersColumnsAreAsWideAsTheirCells) {
     main.chkIncludeHeaders.SetChecked(false);
-    const modCalcOut::RowFormatter formatter(main);
+    const modCalcOut::RowFormatter formatter = Formatter();
     EXPECT_EQ(formatter.FormatListItem(main.lvwIn.Item("@I2@"), kBlanks),
               "@I2@ Curie-Labouisse Eve        F ");
     Row row = main.lvwIn.Item("@I1@");

@@ -11,7 +11,7 @@ namespace {
 struct Sorting : testing::Test, TestMain {
     /// The cells of the column after a click on its header.
     Texts Click(Table& table, TextView key) {
-        modCalcOut::lvw_ColumnClick(main, table, *table.FindColumn(key), false);
+        modCalcOut::lvw_ColumnClick(main, main, table, *table.FindColumn(key), false);
         return ColumnOf(table, key);
     }
 };
