@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/option_record.h"
 #include "drawing/kinship_grid.h"
 
 namespace swiftroll::modKinshipOutput {

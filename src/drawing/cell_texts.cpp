@@ -11,26 +11,27 @@ constexpr TextView kIdBegins = "<p class=Right style=\"text-align: right\">", kI
 
 }  // namespace
 
-CellTexts::CellTexts(Application& app, const CellFont& font) : app_(app), font_(font), places_(app) {}
+CellTexts::CellTexts(const DrawingSource& source, const CellFont& font)
+    : source_(source), font_(font), places_(source.options) {}
 
 Text CellTexts::IndividualInfos(TextView sID) const {
-    return app_.trail.Guard(
+    return source_.feedback.trail.Guard(
         "IndividualInfos",
         [&] {
-            const Row person = app_.lvwIn.Item(sID);
+            const Row person = source_.tables.lvwIn.Item(sID);
             Text text =
                 Concat({font_.bold ? "<b>" : "", font_.underline ? "<u>" : "", font_.italic ? "<i>" : ""});
-            if (app_.optFullName.Index() == 0) text += Concat({person.Cell(In::FirstName), ", "});
+            if (source_.options.optFullName.Index() == 0) text += Concat({person.Cell(In::FirstName), ", "});
             text += UpperCase(person.Cell(In::LastName));
             text +=
                 Concat({font_.italic ? "</i>" : "", font_.underline ? "</u>" : "", font_.bold ? "</b>" : ""});
-            AppendEvent(text, "<br>°"_t, app_.chkIndiBirthDate.Checked(), person.Cell(In::BirthMin),
-                        person.Cell(In::BirthMax), app_.chkIndiBirthPlace.Checked(),
-                        person.Cell(In::BirthPlace));
-            AppendEvent(text, "<br>+", app_.chkIndiDeathDate.Checked(), person.Cell(In::DeathMin),
-                        person.Cell(In::DeathMax), app_.chkIndiDeathPlace.Checked(),
+            AppendEvent(text, "<br>°"_t, source_.options.chkIndiBirthDate.Checked(),
+                        person.Cell(In::BirthMin), person.Cell(In::BirthMax),
+                        source_.options.chkIndiBirthPlace.Checked(), person.Cell(In::BirthPlace));
+            AppendEvent(text, "<br>+", source_.options.chkIndiDeathDate.Checked(), person.Cell(In::DeathMin),
+                        person.Cell(In::DeathMax), source_.options.chkIndiDeathPlace.Checked(),
                         person.Cell(In::DeathPlace));
-            if (app_.chkIndiID.Checked()) text += Concat({kIdBegins, sID, kIdEnds});
+            if (source_.options.chkIndiID.Checked()) text += Concat({kIdBegins, sID, kIdEnds});
             return text;
         },
         [&] { return Text(sID); });
@@ -47,20 +48,21 @@ void CellTexts::AppendEvent(Text& text, TextView marker, bool withDate, TextView
 }
 
 Text CellTexts::FamilyInfos(TextView sFamID) const {
-    return app_.trail.Guard(
+    return source_.feedback.trail.Guard(
         "FamilyInfos",
         [&] {
-            const Row family = app_.lvwFamily.Item(sFamID);
+            const Row family = source_.tables.lvwFamily.Item(sFamID);
             const TextView from = family.Cell(Family::MarrMin), to = family.Cell(Family::MarrMax);
             const TextView place = family.Cell(Family::MarrPlace);
-            const bool withDate = app_.chkMarrDate.Checked(), withPlace = app_.chkMarrPlace.Checked();
+            const bool withDate = source_.options.chkMarrDate.Checked(),
+                       withPlace = source_.options.chkMarrPlace.Checked();
             Text text;
             if ((withDate && (!from.empty() || !to.empty())) || (withPlace && !place.empty())) {
                 text = "x ";
                 if (withDate && !from.empty()) text += Concat({TakeDateFromTo(from, to), " "});
                 if (withPlace) text += Concat({" ", places_.Take1Place(place)});
             }
-            if (app_.chkMarrID.Checked()) text += Concat({kIdBegins, sFamID, kIdEnds});
+            if (source_.options.chkMarrID.Checked()) text += Concat({kIdBegins, sFamID, kIdEnds});
             return text;
         },
         [&] { return Text(sFamID); });

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/application.h"
 #include "app/cell_font.h"
+#include "drawing/drawing_source.h"
 #include "gedcom/places.h"
 
 namespace swiftroll::modKinshipOutput {
@@ -10,7 +10,7 @@ namespace swiftroll::modKinshipOutput {
 /// of the moment at which this was made.
 class CellTexts {
   public:
-    CellTexts(Application& app, const CellFont& font);
+    CellTexts(const DrawingSource& source, const CellFont& font);
 
     /// The text of the box of an individual by its key in `lvwIn`; empty after a failure, which is reported.
     Text IndividualInfos(TextView sID) const;
@@ -21,7 +21,7 @@ class CellTexts {
   private:
     void AppendEvent(Text& text, TextView marker, bool withDate, TextView from, TextView to, bool withPlace,
                      TextView place) const;
-    Application& app_;
+    DrawingSource source_;
     CellFont font_;
     modReadGedcom::PlaceFormatter places_;
 };

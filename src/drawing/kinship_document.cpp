@@ -12,21 +12,21 @@ constexpr int kFirst = 1, kLast = 9;
 
 }  // namespace
 
-KinshipDocument::KinshipDocument(Application& app, TextView sKinshipTitle)
-    : app_(app),
+KinshipDocument::KinshipDocument(const DrawingSource& source, TextView sKinshipTitle)
+    : source_(source),
       sKinshipTitle_(sKinshipTitle),
-      font_(ParseCellFont(app.txtFont.Get()).value_or(CellFont())),
-      texts_(app, font_) {}
+      font_(ParseCellFont(source.options.txtFont.Get()).value_or(CellFont())),
+      texts_(source, font_) {}
 
 bool KinshipDocument::DisplayKinship(int iStage, const KinshipGrid& grid) {
-    const CellSizes sizes(app_);
+    const CellSizes sizes(source_.options);
     try {
         if (iStage == kFirst) Begin(sizes);
         if (iStage != kLast) {
             WriteDrawing(grid, sizes);
         } else {
             End(lPageTop_);
-            app_.pnlMessage.Set(Concat({sKinshipTitle_, " : Terminé"_t}));
+            source_.feedback.pnlMessage.Set(Concat({sKinshipTitle_, " : Terminé"_t}));
         }
     } catch (const std::exception&) {
         Fail(CurrentFailure());
@@ -51,7 +51,7 @@ void KinshipDocument::WriteDrawing(const KinshipGrid& grid, const CellSizes& siz
 TextView KinshipDocument::ClassOf(const GridCell& cell) const {
     switch (cell.kind) {
         case CellKind::Person: {
-            const auto person = app_.lvwIn.Find(TextView(cell.id));
+            const auto person = source_.tables.lvwIn.Find(TextView(cell.id));
             const TextView sex = person ? person->Cell(In::Sex) : TextView();
             return sex == "M" ? "IndivMBox" : sex == "F" ? "IndivFBox" : "IndivUBox";
         }

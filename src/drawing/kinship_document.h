@@ -9,7 +9,7 @@ namespace swiftroll::modKinshipOutput {
 /// text and its place.
 class KinshipDocument {
   public:
-    KinshipDocument(Application& app, TextView sKinshipTitle);
+    KinshipDocument(const DrawingSource& source, TextView sKinshipTitle);
     virtual ~KinshipDocument() = default;
 
     /// Stage 1 opens the document and writes a drawing, 2 writes a further one, 9 closes the document without
@@ -30,7 +30,7 @@ class KinshipDocument {
     /// Shows a failure and abandons the document.
     virtual void Fail(const Failure& failure) = 0;
 
-    Application& app_;
+    DrawingSource source_;
     Text sKinshipTitle_;
     CellFont font_;
 

@@ -13,7 +13,8 @@ namespace {
 /// Walks over the codes of a path and writes cells relative to where it stands.
 class GridWalk {
   public:
-    GridWalk(Application& app, KinshipGrid& grid) : app_(app), grid_(grid) {}
+    GridWalk(TableSet& tables, Trail& trail, KinshipGrid& grid)
+        : tables_(tables), trail_(trail), grid_(grid) {}
 
     void Run(const modKinship::KinshipCodes& codes, bool bSpouses) {
         Put(0, 0, Person(IdAt(codes.lFirst)));
@@ -86,15 +87,15 @@ class GridWalk {
         }
     }
 
-    Text IdAt(std::int32_t row) const { return Text(app_.lvwKinship.Item(row).Cell(Kinship::IDIndi)); }
-    Text FamilyOfRow() const { return Text(app_.lvwKinship.Item(row_).Cell(Kinship::IDFamily)); }
+    Text IdAt(std::int32_t row) const { return Text(tables_.lvwKinship.Item(row).Cell(Kinship::IDIndi)); }
+    Text FamilyOfRow() const { return Text(tables_.lvwKinship.Item(row_).Cell(Kinship::IDFamily)); }
     static GridCell Person(Text id) { return {.kind = CellKind::Person, .id = std::move(id)}; }
     GridCell Next() const { return Person(IdAt(row_ + 1)); }
     GridCell Marriage(std::int32_t span) const {
         return {.kind = CellKind::Marriage, .span = span, .id = FamilyOfRow()};
     }
     GridCell PartnerOf(std::int32_t row) const {
-        Text id = modKinship::GetSpouseID(app_, IdAt(row), FamilyOfRow());
+        Text id = modKinship::GetSpouseID(tables_, trail_, IdAt(row), FamilyOfRow());
         if (id == modKinship::kUnknownID) return {.kind = CellKind::UnknownPerson};
         return Person(std::move(id));
     }
@@ -115,7 +116,8 @@ class GridWalk {
         grid_.lMaxY = std::max(grid_.lMaxY, y);
     }
 
-    Application& app_;
+    TableSet& tables_;
+    Trail& trail_;
     KinshipGrid& grid_;
     std::int32_t row_ = 0;
     std::int32_t lX_ = 0, lY_ = 0;
@@ -141,11 +143,14 @@ void SortCells(std::vector<GridCell>& cells) {
 
 }  // namespace
 
-KinshipGrid MakeKinshipTable(Application& app, std::int32_t lRow, bool bSpouses) {
+KinshipGrid MakeKinshipTable(TableSet& tables, Trail& trail, std::int32_t lRow, bool bSpouses) {
     KinshipGrid grid;
-    app.trail.Guard(
+    trail.Guard(
         "MakeKinshipTable",
-        [&] { GridWalk(app, grid).Run(modKinship::MakeKinshipCodes(app, lRow, bSpouses), bSpouses); },
+        [&] {
+            GridWalk(tables, trail, grid)
+                .Run(modKinship::MakeKinshipCodes(tables.lvwKinship, lRow, bSpouses), bSpouses);
+        },
         [&] {
             return Concat({Decimal(lRow), "/", bSpouses ? "True" : "False"});
         });

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "app/application.h"
+#include "app/trail.h"
 
 namespace swiftroll::modKinshipOutput {
 
@@ -36,6 +36,6 @@ struct KinshipGrid {
 /// The grid of the path in `lvwKinship`, which stands in the order of `SeqNr`, from the row `lRow` on; its
 /// first person stands at (0, 0). `bSpouses` draws couples whole. After a failure, which is reported, what
 /// was made so far.
-KinshipGrid MakeKinshipTable(Application& app, std::int32_t lRow, bool bSpouses);
+KinshipGrid MakeKinshipTable(TableSet& tables, Trail& trail, std::int32_t lRow, bool bSpouses);
 
 }  // namespace swiftroll::modKinshipOutput

@@ -27,10 +27,12 @@ constexpr TextView kLinesPortrait[] = {
 
 }  // namespace
 
-KinshipPage::KinshipPage(Application& app, TextView sKinshipTitle) : KinshipDocument(app, sKinshipTitle) {}
+KinshipPage::KinshipPage(const DrawingSource& source, TextView sKinshipTitle, const Product& product,
+                         Files& files, Clock& clock)
+    : KinshipDocument(source, sKinshipTitle), product_(product), files_(files), clock_(clock) {}
 
 void KinshipPage::Begin(const CellSizes& sizes) {
-    file_ = app_.ports.files.Open(app_.cboKinship.Get(), Files::Mode::Write);
+    file_ = files_.Open(source_.options.cboKinship.Get(), Files::Mode::Write);
     WriteLine({"<HTML>"});
     WriteLine({"<HEAD>"});
     WriteLine({"<style type=\"text/css\">"});
@@ -40,9 +42,9 @@ void KinshipPage::Begin(const CellSizes& sizes) {
     WriteLine({"table   { position: absolute; border-spacing: 0; cellpadding: 0; cellspacing: 0; font:",
                font_.italic ? "italic " : "", ReplaceAll(font_.size, ",", "."), "pt \"", font_.name,
                "\"; color:", Long2Color(font_.colour), "}"});
-    WriteLine({"table.IndivMBox  ", kBoxStyle, Long2Color(app_.cmdColorMale.Colour()), "}"});
-    WriteLine({"table.IndivFBox  ", kBoxStyle, Long2Color(app_.cmdColorFemale.Colour()), "}"});
-    WriteLine({"table.IndivUBox  ", kBoxStyle, Long2Color(app_.cmdColorUndefined.Colour()), "}"});
+    WriteLine({"table.IndivMBox  ", kBoxStyle, Long2Color(source_.options.cmdColorMale.Colour()), "}"});
+    WriteLine({"table.IndivFBox  ", kBoxStyle, Long2Color(source_.options.cmdColorFemale.Colour()), "}"});
+    WriteLine({"table.IndivUBox  ", kBoxStyle, Long2Color(source_.options.cmdColorUndefined.Colour()), "}"});
     for (const TextView line : sizes.bLandscape ? kLinesLandscape : kLinesPortrait) WriteLine({line});
     WriteLine(
         {"table.hr { border: 1pt solid red;  border-bottom: 0pt;  border-left: 0pt;  border-right: 0pt }"});
@@ -66,15 +68,16 @@ void KinshipPage::EndDrawing(std::int64_t lTop, std::int64_t lWidth) {
 void KinshipPage::End(std::int64_t lTop) {
     WriteLine({"<table style=\"left:0; top:", Decimal(lTop),
                "\"><tr><td><p><font size=\"1\" color=\"#000000\">", "Généré par <a href=\""_t,
-               app_.sWebAddress, "\">SwiftRoll</a> (v", app_.sVersion, ") le ",
-               ShortDate(app_.ports.clock.Now()), "</font></p></td></tr></table></BODY></HTML>"});
+               product_.sWebAddress, "\">SwiftRoll</a> (v", product_.sVersion, ") le ",
+               ShortDate(clock_.Now()), "</font></p></td></tr></table></BODY></HTML>"});
     Flush();
     file_->Close();
 }
 
 void KinshipPage::Fail(const Failure& failure) {
-    app_.Box(" - Kinship", Concat({"Erreur d'écriture dans le fichier "_t, app_.cboKinship.Get(), ".",
-                                   kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
+    source_.feedback.Box(
+        " - Kinship", Concat({"Erreur d'écriture dans le fichier "_t, source_.options.cboKinship.Get(), ".",
+                              kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
     file_.reset();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/product.h"
 #include "drawing/kinship_document.h"
 
 namespace swiftroll::modKinshipOutput {
@@ -9,7 +10,8 @@ namespace swiftroll::modKinshipOutput {
 class KinshipPage : public KinshipDocument {
   public:
     /// `sKinshipTitle` is the title of the page.
-    KinshipPage(Application& app, TextView sKinshipTitle);
+    KinshipPage(const DrawingSource& source, TextView sKinshipTitle, const Product& product, Files& files,
+                Clock& clock);
 
   protected:
     void Begin(const CellSizes& sizes) override;
@@ -23,6 +25,9 @@ class KinshipPage : public KinshipDocument {
     void WriteLine(std::initializer_list<TextView> pieces);
     void Flush();
 
+    const Product& product_;
+    Files& files_;
+    Clock& clock_;
     std::unique_ptr<File> file_;
     Text buffer_;
 };

@@ -22,8 +22,8 @@ constexpr std::uint32_t kBlack = 0;
 }  // namespace
 
 void KinshipPrint::Begin(const CellSizes& sizes) {
-    app_.ports.preview.Open(sKinshipTitle_, sizes.bLandscape ? kLongSide : kShortSide,
-                            sizes.bLandscape ? kShortSide : kLongSide);
+    preview_.Open(sKinshipTitle_, sizes.bLandscape ? kLongSide : kShortSide,
+                  sizes.bLandscape ? kShortSide : kLongSide);
 }
 
 void KinshipPrint::WriteCell(TextView sClass, TextView sText, const CellRectangle& place,
@@ -41,25 +41,23 @@ void KinshipPrint::WriteCell(TextView sClass, TextView sText, const CellRectangl
     } else if (sClass == "ChildHLine") {
         DrawEdges(frame, {true, true, !across, across});
     } else {
-        const ColourButton& colour = sClass == "IndivMBox"   ? app_.cmdColorMale
-                                     : sClass == "IndivFBox" ? app_.cmdColorFemale
-                                                             : app_.cmdColorUndefined;
+        const ColourButton& colour = sClass == "IndivMBox"   ? source_.options.cmdColorMale
+                                     : sClass == "IndivFBox" ? source_.options.cmdColorFemale
+                                                             : source_.options.cmdColorUndefined;
         WriteBox(frame, colour.Colour(), sText);
     }
 }
 
 void KinshipPrint::DrawEdges(const Frame& frame, Edges edges) {
-    DrawingDevice& device = app_.ports.preview;
-    if (edges.top) device.DrawLine(frame.left, frame.top, frame.right, frame.top, kBlack);
-    if (edges.left) device.DrawLine(frame.left, frame.top, frame.left, frame.bottom, kBlack);
-    if (edges.bottom) device.DrawLine(frame.left, frame.bottom, frame.right, frame.bottom, kBlack);
-    if (edges.right) device.DrawLine(frame.right, frame.top, frame.right, frame.bottom, kBlack);
+    if (edges.top) preview_.DrawLine(frame.left, frame.top, frame.right, frame.top, kBlack);
+    if (edges.left) preview_.DrawLine(frame.left, frame.top, frame.left, frame.bottom, kBlack);
+    if (edges.bottom) preview_.DrawLine(frame.left, frame.bottom, frame.right, frame.bottom, kBlack);
+    if (edges.right) preview_.DrawLine(frame.right, frame.top, frame.right, frame.bottom, kBlack);
 }
 
 void KinshipPrint::WriteBox(const Frame& frame, std::uint32_t colour, TextView sText) {
-    DrawingDevice& device = app_.ports.preview;
     const std::int64_t width = frame.right - frame.left, height = frame.bottom - frame.top;
-    device.FillRectangle(frame.left, frame.top, width, height, colour);
+    preview_.FillRectangle(frame.left, frame.top, width, height, colour);
     DrawEdges(frame, {true, true, true, true});
     // Tags that no text of a person has would be printed.
     const Text text =
@@ -82,20 +80,18 @@ void KinshipPrint::WriteBox(const Frame& frame, std::uint32_t colour, TextView s
         texts.emplace_back();
     }
     texts.pop_back();
-    device.PrintTexts(frame.left, frame.top, width, height, texts);
+    preview_.PrintTexts(frame.left, frame.top, width, height, texts);
 }
 
-void KinshipPrint::EndDrawing(std::int64_t lTop, std::int64_t) {
-    app_.ports.preview.EndDrawing(lTop * kTwipsPerPixel);
-}
+void KinshipPrint::EndDrawing(std::int64_t lTop, std::int64_t) { preview_.EndDrawing(lTop * kTwipsPerPixel); }
 
-void KinshipPrint::End(std::int64_t) { app_.ports.preview.Close(); }
+void KinshipPrint::End(std::int64_t) { preview_.Close(); }
 
-void KinshipPrint::Fail(const Failure& failure) { TellPrintFailure(app_, failure); }
+void KinshipPrint::Fail(const Failure& failure) { TellPrintFailure(source_.feedback, failure); }
 
-void TellPrintFailure(Application& app, const Failure& failure) {
-    app.Box(" - Kinship",
-            Concat({"Erreor d'impression", kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
+void TellPrintFailure(Feedback& feedback, const Failure& failure) {
+    feedback.Box(" - Kinship", Concat({"Erreor d'impression", kLineEnd, failure.What(), " (",
+                                       Decimal(failure.Number()), ")"}));
 }
 
 }  // namespace swiftroll::modPrint

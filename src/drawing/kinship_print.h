@@ -5,12 +5,15 @@
 namespace swiftroll::modPrint {
 
 /// Tells in a box why drawings could not be printed.
-void TellPrintFailure(Application& app, const Failure& failure);
+void TellPrintFailure(Feedback& feedback, const Failure& failure);
 
 /// The drawings on an A4 sheet, at the places of the page of HTML: pixels of the screen as twips.
 class KinshipPrint : public modKinshipOutput::KinshipDocument {
   public:
-    using KinshipDocument::KinshipDocument;
+    /// `preview` is the sheet.
+    KinshipPrint(const modKinshipOutput::DrawingSource& source, TextView sKinshipTitle,
+                 DrawingDevice& preview)
+        : KinshipDocument(source, sKinshipTitle), preview_(preview) {}
 
   protected:
     void Begin(const modKinshipOutput::CellSizes& sizes) override;
@@ -30,6 +33,8 @@ class KinshipPrint : public modKinshipOutput::KinshipDocument {
     };
     void DrawEdges(const Frame& frame, Edges edges);
     void WriteBox(const Frame& frame, std::uint32_t colour, TextView sText);
+
+    DrawingDevice& preview_;
 };
 
 }  // namespace swiftroll::modPrint

@@ -23,13 +23,14 @@ TextView RoleOf(TextView type) {
 
 }  // namespace
 
-ExtractWriter::ExtractWriter(Application& app, const modReadGedcom::LineReader& lines, Input in, File& out)
-    : app_(app),
+ExtractWriter::ExtractWriter(TableSet& tables, const modReadGedcom::LineReader& lines, TextView sGedIn,
+                             Input in, File& out)
+    : tables_(tables),
       lines_(lines),
-      source_(std::move(in.records), app.cboGedIn.Get()),
-      familySource_(std::move(in.families), app.cboGedIn.Get()),
+      source_(std::move(in.records), sGedIn),
+      familySource_(std::move(in.families), sGedIn),
       out_(out),
-      colFamToSave_(app) {}
+      colFamToSave_(tables) {}
 
 void ExtractWriter::Write() {
     if (lines_.head.end != 0) OutGedTag(lines_.head);
@@ -47,8 +48,8 @@ void ExtractWriter::Write() {
 }
 
 void ExtractWriter::OutIndividuals() {
-    for (std::int32_t i = 1; i <= app_.lvwIn.Count(); ++i) {
-        const Row person = app_.lvwIn.Item(i);
+    for (std::int32_t i = 1; i <= tables_.lvwIn.Count(); ++i) {
+        const Row person = tables_.lvwIn.Item(i);
         if (!person.Marked()) continue;
         OutWithNeighbours(RangeOfTag(person.Tag()));
         ++individuals_;
@@ -117,7 +118,7 @@ ExtractWriter::FamilyBatch ExtractWriter::ReadFamilies(std::size_t first) {
 /// told of the couple is not for those who are left.
 void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextView& records) {
     if (IsEmpty(family.range)) return;
-    TextStore& store = app_.lvwFamily.Store();
+    TextStore& store = tables_.lvwFamily.Store();
     ++families_;
     if (family.bFull) {
         const auto isMember = [&](TextView sId) {

@@ -4,7 +4,6 @@
 #include <future>
 #include <memory>
 
-#include "app/application.h"
 #include "extract/background_writer.h"
 #include "extract/families_to_save.h"
 #include "extract/record_lines.h"
@@ -22,8 +21,9 @@ class ExtractWriter {
     struct Input {
         std::unique_ptr<File> records, families;
     };
-    /// `lines` knows the ranges of the records of the input; `out` is the extract.
-    ExtractWriter(Application& app, const modReadGedcom::LineReader& lines, Input in, File& out);
+    /// `lines` knows the ranges of the records of the input, whose name is `sGedIn`; `out` is the extract.
+    ExtractWriter(TableSet& tables, const modReadGedcom::LineReader& lines, TextView sGedIn, Input in,
+                  File& out);
 
     /// Writes everything. @throws Failure when a file fails, or when a record refers to one that the file
     /// does not have; what was written until then stays
@@ -56,7 +56,7 @@ class ExtractWriter {
     void NoteReferences(TextView sRecord);
     void EndLine(TextView sRecord);
 
-    Application& app_;
+    TableSet& tables_;
     const modReadGedcom::LineReader& lines_;
     RecordSource source_, familySource_;
     BackgroundWriter out_;

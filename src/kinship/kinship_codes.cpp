@@ -24,13 +24,14 @@ TextView KinshipCodes::Of(std::int32_t row) const {
     return asCode[static_cast<std::size_t>(row - lFirst)];
 }
 
-KinshipCodes MakeKinshipCodes(Application& app, std::int32_t lRow, bool bSpouses) {
-    Table& paths = app.lvwKinship;
+KinshipCodes MakeKinshipCodes(Table& lvwKinship, std::int32_t lRow, bool bSpouses) {
     KinshipCodes codes;
     codes.lFirst = lRow;
     std::vector<TextView>& asCode = codes.asCode;
-    const auto typeAt = [&](std::int32_t row) { return RelationOf(paths.Item(row).Cell(Kinship::Type)); };
-    const auto familyAt = [&](std::int32_t row) { return paths.Item(row).Cell(Kinship::IDFamily); };
+    const auto typeAt = [&](std::int32_t row) {
+        return RelationOf(lvwKinship.Item(row).Cell(Kinship::Type));
+    };
+    const auto familyAt = [&](std::int32_t row) { return lvwKinship.Item(row).Cell(Kinship::IDFamily); };
     std::int32_t i = codes.lFirst;
     for (Relation type = typeAt(i); type != Relation::Other; type = typeAt(i)) {
         const bool turns = type == Relation::Child && typeAt(i + 1) == Relation::Parent;
@@ -52,16 +53,16 @@ KinshipCodes MakeKinshipCodes(Application& app, std::int32_t lRow, bool bSpouses
     return codes;
 }
 
-Text GetSpouseID(Application& app, TextView sIndiID, TextView sFamID) {
-    return app.trail.Guard(
+Text GetSpouseID(TableSet& tables, Trail& trail, TextView sIndiID, TextView sFamID) {
+    return trail.Guard(
         "GetSpouseID",
         [&]() -> Text {
-            const Row family = app.lvwFamily.Item(sFamID), person = app.lvwIn.Item(sIndiID);
+            const Row family = tables.lvwFamily.Item(sFamID), person = tables.lvwIn.Item(sIndiID);
             const TextView sex = person.Cell(In::Sex);
             TextView spouse;
             if (sex == "M") spouse = family.Cell(Family::IDWife);
             if (sex == "F") spouse = family.Cell(Family::IDHusb);
-            return Text(app.lvwIn.Find(spouse) ? spouse : kUnknownID);
+            return Text(tables.lvwIn.Find(spouse) ? spouse : kUnknownID);
         },
         [&] {
             return Concat({sIndiID, "/", sFamID});

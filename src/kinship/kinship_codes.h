@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/application.h"
+#include "app/trail.h"
 
 namespace swiftroll::modKinship {
 
@@ -21,13 +21,13 @@ struct KinshipCodes {
 /// need not be its first. Beside spouses, `bSpouses`, couples are wider. A row whose type shows no way
 /// forward, "ALIA" for one, ends the drawing.
 /// @throws Failure when there is no such row
-KinshipCodes MakeKinshipCodes(Application& app, std::int32_t lRow, bool bSpouses);
+KinshipCodes MakeKinshipCodes(Table& lvwKinship, std::int32_t lRow, bool bSpouses);
 
 /// What stands for a spouse who is not known.
 inline constexpr TextView kUnknownID = "UnknownID";
 
 /// The other spouse of a family: the wife of a man, the husband of a woman. `kUnknownID` when none is known,
 /// or when there is no record of the one who is named; empty after a failure, which is reported.
-Text GetSpouseID(Application& app, TextView sIndiID, TextView sFamID);
+Text GetSpouseID(TableSet& tables, Trail& trail, TextView sIndiID, TextView sFamID);
 
 }  // namespace swiftroll::modKinship

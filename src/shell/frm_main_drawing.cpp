@@ -52,8 +52,10 @@ void frmMain::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
     trail.Guard(
         "DrawKinshipAll",
         [&] {
-            modKinshipOutput::KinshipPage page(*this, modKinship.sKinshipTitle);
-            modPrint::KinshipPrint print(*this, modKinship.sKinshipTitle);
+            const modKinshipOutput::DrawingSource source{*this, *this, *this};
+            modKinshipOutput::KinshipPage page(source, modKinship.sKinshipTitle, *this, ports.files,
+                                               ports.clock);
+            modPrint::KinshipPrint print(source, modKinship.sKinshipTitle, ports.preview);
             modKinshipOutput::KinshipDocument& document =
                 bHtml ? static_cast<modKinshipOutput::KinshipDocument&>(page) : print;
             DrawPaths(bSpouses, document, bAll);
@@ -76,7 +78,8 @@ void frmMain::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& docume
         const bool isDrawn =
             bAll ? row.Text().ends_with(kFirstLine) : !row.Cell(Kinship::IDIndi).empty() && row.Marked();
         if (!isDrawn) continue;
-        if (document.DisplayKinship(iStage, modKinshipOutput::MakeKinshipTable(*this, i, bSpouses))) return;
+        if (document.DisplayKinship(iStage, modKinshipOutput::MakeKinshipTable(*this, trail, i, bSpouses)))
+            return;
         iStage = kFurther;
     }
     if (iStage == kFirst) {

@@ -38,7 +38,7 @@ void frmMain::cmdSaveGed_Click() {
             modSaveGed::ExtractWriter::Input in{ports.files.Open(input, Files::Mode::Read),
                                                 ports.files.Open(input, Files::Mode::Read)};
             out = ports.files.Open(output, Files::Mode::Write);
-            writer.emplace(*this, modReadGedcom.lines, std::move(in), *out);
+            writer.emplace(*this, modReadGedcom.lines, input, std::move(in), *out);
             step = "Write";
             writer->Write();
             step = "Close";

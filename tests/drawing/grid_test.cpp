@@ -29,7 +29,7 @@ struct Family : AfterRead {
         main.lvwKinship.SortBy(Kinship::SeqNr, 0);
     }
     KinshipGrid Grid(std::int32_t row, bool spouses) {
-        return modKinshipOutput::MakeKinshipTable(main, row, spouses);
+        return modKinshipOutput::MakeKinshipTable(main, main.trail, row, spouses);
     }
     std::vector<Text> Cells(std::int32_t row, bool spouses) {
         std::vector<Text> cells;
@@ -91,7 +91,8 @@ TEST(KinshipGrid, APartnerWithoutRecordIsUnknownAndAMissingFamilyIsReported) {
     t.Find("Dad", "Kid");
     const auto cells = [&] {
         std::vector<Text> texts;
-        for (const GridCell& cell : modKinshipOutput::MakeKinshipTable(t.main, 1, true).asGrid) {
+        for (const GridCell& cell :
+             modKinshipOutput::MakeKinshipTable(t.main, t.main.trail, 1, true).asGrid) {
             texts.push_back(Described(cell));
         }
         return texts;

@@ -19,8 +19,8 @@ constexpr TextView kCouple =
 
 struct Couple : AfterRead {
     Couple() : AfterRead(WithCrLf(kCouple)) {}
-    Text Person(TextView id) { return CellTexts(main, font).IndividualInfos(id); }
-    Text Marriage(TextView id) { return CellTexts(main, font).FamilyInfos(id); }
+    Text Person(TextView id) { return CellTexts({main, main, main}, font).IndividualInfos(id); }
+    Text Marriage(TextView id) { return CellTexts({main, main, main}, font).FamilyInfos(id); }
     void SetAll(bool on) {
         for (CheckBox* box :
              {&main.chkIndiID, &main.chkIndiBirthDate, &main.chkIndiBirthPlace, &main.chkIndiDeathDate,

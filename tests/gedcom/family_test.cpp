@@ -112,7 +112,7 @@ TEST(Families, WithoutIdentifierAreOneFamily) {
                     "@I3@|Fils|@I1@|", "@I9@|ALIA|@I3@|"}));
     EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::IslandNr}),
               Rows({"@I1@|0001", "@I2@|0001", "@I3@|0001", "|0002", "|0003"}));
-    EXPECT_EQ(modKinship::GetSpouseID(t.main, "@I1@", ""), "@I2@");
+    EXPECT_EQ(modKinship::GetSpouseID(t.main, t.main.trail, "@I1@", ""), "@I2@");
     EXPECT_EQ(t.main.trail.Reports(), 0);
 }
 

@@ -20,7 +20,7 @@ struct PathOf : TestMain {
         main.lvwKinship.Add(std::nullopt, TextView(), "000001-999999");
     }
     Text Codes(std::int32_t lRow = 1, bool bSpouses = false) {
-        const modKinship::KinshipCodes codes = modKinship::MakeKinshipCodes(main, lRow, bSpouses);
+        const modKinship::KinshipCodes codes = modKinship::MakeKinshipCodes(main.lvwKinship, lRow, bSpouses);
         Text text;
         for (std::int32_t row = codes.lFirst; row <= codes.lLast; ++row) {
             text += Concat({row > codes.lFirst ? " " : "", codes.Of(row)});
@@ -51,7 +51,7 @@ TEST(KinshipCodes, CouplesAreAsWideAsWhatStandsAroundThem) {
 
 TEST(KinshipCodes, EndWhereThereIsNoWayForward) {
     PathOf t({"Fils/F1", "Fils/F2", "ALIA", "Fils/F3"});
-    const modKinship::KinshipCodes codes = modKinship::MakeKinshipCodes(t.main, 2, false);
+    const modKinship::KinshipCodes codes = modKinship::MakeKinshipCodes(t.main.lvwKinship, 2, false);
     EXPECT_EQ(codes.lLast, 3);
     EXPECT_EQ(codes.Of(2), "E");
     EXPECT_EQ(codes.Of(1), "");
@@ -61,7 +61,7 @@ TEST(KinshipCodes, EndWhereThereIsNoWayForward) {
 TEST(GetSpouseID, GivesTheOtherOneOfTheFamily) {
     AfterRead t({"Man m", "Woman f", "Some"}, {"Man Woman Some", "Some Ghost", "Man -", "Man Ghost"});
     const auto spouse = [&](TextView id, TextView family) {
-        return modKinship::GetSpouseID(t.main, id, family);
+        return modKinship::GetSpouseID(t.main, t.main.trail, id, family);
     };
     EXPECT_EQ(spouse("@Man@", "@F1@"), "@Woman@");
     EXPECT_EQ(spouse("@Woman@", "@F1@"), "@Man@");

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "app/feedback.h"
+#include "app/option_record.h"
+
+namespace swiftroll::modKinshipOutput {
+
+/// What every drawing works with.
+struct DrawingSource {
+    TableSet& tables;
+    const OptionRecord& options;
+    Feedback& feedback;
+};
+
+}  // namespace swiftroll::modKinshipOutput
