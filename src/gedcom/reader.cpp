@@ -11,6 +11,7 @@
 namespace swiftroll::modReadGedcom {
 
 void Reader::ProcessGedcom() {
+    const ScopedFlag wait(app_.bWaitCursor);
     const char* stage = "InitIndexes";
     std::int16_t counter = 0;
     app_.trail.GuardElse(
@@ -26,7 +27,6 @@ void Reader::ProcessGedcom() {
 }
 
 void Reader::Prepare(const char*& stage, std::int16_t& counter) {
-    app_.bWaitCursor = true;
     app_.ProgressBar1.Set(0);
     app_.InitIndexes();
     lines.ResetRecords();
@@ -96,7 +96,6 @@ void Reader::Finish(Links& links) {
     }
     app_.chkInvertNames.SetChecked(false);
     app_.chkUpperNames.SetChecked(false);
-    app_.bWaitCursor = false;
 }
 
 void Reader::ReadFamily(Links& links) {

@@ -102,7 +102,6 @@ class GroupWriter {
 void ComputeList(ArrangedTables& tables, Feedback& feedback) {
     tables.InitIndexes(feedback);
     feedback.pnlMessage.Set("Comptage..."_t);
-    feedback.bWaitCursor = true;
     Table &lvwIn = tables.lvwIn, &lvwOut = tables.lvwOut;
     tables.lMaxLenOut = Widths();
     tables.lMaxLenOut[Out::Number] = static_cast<std::int32_t>(lvwOut.ColumnAt(Out::Number).Caption.size());
@@ -124,11 +123,10 @@ void ComputeList(ArrangedTables& tables, Feedback& feedback) {
 }  // namespace
 
 void CalcOuptut(ArrangedTables& tables, Feedback& feedback) {
-    if (tables.lvwIn.Count() > 0) {
-        feedback.trail.Guard(
-            "CalcOuptut", [&] { ComputeList(tables, feedback); }, [] { return Text(); });
-    }
-    feedback.bWaitCursor = false;
+    if (tables.lvwIn.Count() == 0) return;
+    const ScopedFlag wait(feedback.bWaitCursor);
+    feedback.trail.Guard(
+        "CalcOuptut", [&] { ComputeList(tables, feedback); }, [] { return Text(); });
 }
 
 }  // namespace swiftroll::modCalcOut

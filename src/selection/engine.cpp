@@ -62,7 +62,7 @@ class SeenTexts {
 }  // namespace
 
 void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
-    app_.bWaitCursor = true;
+    const ScopedFlag wait(app_.bWaitCursor);
     context.bRestoreClickedRow = false;
     Table* const table = app_.lvwActiveListView;
     Relatives relatives(app_, Marker(app_.lvwIn, bSelect));
@@ -80,7 +80,6 @@ void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
                            "/", Decimal(context.iFamCol.Section()), "/", relatives.Individual(), "/",
                            relatives.FamilyId()});
         });
-    app_.bWaitCursor = false;
 }
 
 void Engine::FollowLinks(Relatives& relatives, Table& table, TextView sMode) {

@@ -221,10 +221,17 @@ class frmMain : public Application, public ListCommands {
     std::optional<Text> MarkedLines();
     void JumpTo(Table& target, TextView sKey);
 
-    void RequestKinship(const std::function<void(TextView& step, std::int32_t& row)>& steps);
+    /// A kinship request under way: its step and the row that it has come to, for the trail, and the wait
+    /// cursor once it searches.
+    struct KinshipRequest {
+        TextView step;
+        std::int32_t row = 0;
+        std::optional<ScopedFlag> wait = {};
+    };
+    void RequestKinship(const std::function<void(KinshipRequest& request)>& steps);
     void cmdFindPath_Click();
     void RefuseKinship(const KinshipChoices& choices);
-    void FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step);
+    void FindPath(std::int32_t lFrom, std::int32_t lTo, KinshipRequest& request);
 
     void DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll);
     void DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll);

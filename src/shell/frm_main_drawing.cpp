@@ -48,7 +48,7 @@ void frmMain::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
         cmdSelectDirKinship.Click();
         if (bDialogCancelled) return;
     }
-    bWaitCursor = true;
+    const ScopedFlag wait(bWaitCursor);
     trail.Guard(
         "DrawKinshipAll",
         [&] {
@@ -64,7 +64,6 @@ void frmMain::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
             return Concat({bSpouses ? "True" : "False", "/", bHtml ? "True" : "False", "/",
                            bAll ? "True" : "False", "/", cboKinship.Get()});
         });
-    bWaitCursor = false;
 }
 
 void frmMain::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll) {

@@ -30,7 +30,7 @@ void frmMain::cmdSaveGed_Click() {
     const char* step = "Open";
     std::unique_ptr<File> out;
     std::optional<modSaveGed::ExtractWriter> writer;
-    bWaitCursor = true;
+    const ScopedFlag wait(bWaitCursor);
     trail.GuardElse(
         "cmdSaveGed_Click",
         [&] {
@@ -56,7 +56,6 @@ void frmMain::cmdSaveGed_Click() {
                 // The failure that began it was told.
             }
         });
-    bWaitCursor = false;
 }
 
 void frmMain::ChangeGedOutExtension() {

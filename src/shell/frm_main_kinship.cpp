@@ -18,27 +18,27 @@ void frmMain::BindKinship() {
     mnuFindPath.Operation = [this] { cmdFindPath_Click(); };
 }
 
-/// Runs the steps of a request under the trail; `steps` gets the text that tells the present one.
-void frmMain::RequestKinship(const std::function<void(TextView& step, std::int32_t& row)>& steps) {
+/// Runs the steps of a request under the trail.
+void frmMain::RequestKinship(const std::function<void(KinshipRequest& request)>& steps) {
     if (modKinship.IsRunning()) {
         pnlMessage.Set("Une recherche de parenté est déjà en cours."_t);
         return;
     }
-    TextView step = kDefineChoices;
-    std::int32_t row = 0;
-    trail.Guard(
-        "cmdFindPath_Click", [&] { steps(step, row); },
-        [&] {
-            return Concat({step, "/", Decimal(row)});
-        });
-    bWaitCursor = false;
+    {
+        KinshipRequest request{kDefineChoices};
+        trail.Guard(
+            "cmdFindPath_Click", [&] { steps(request); },
+            [&] {
+                return Concat({request.step, "/", Decimal(request.row)});
+            });
+    }
     SetAllColumnIcons(*this);
 }
 
 void frmMain::cmdFindPath_Click() {
-    RequestKinship([this](TextView& step, std::int32_t& row) {
+    RequestKinship([this](KinshipRequest& request) {
         KinshipChoices choices;
-        choices.Define(lvwIn, row);
+        choices.Define(lvwIn, request.row);
         bAbort = true;
         frmKinshipSelect.ClearChoices();
         bool isUsable = false;
@@ -58,22 +58,22 @@ void frmMain::cmdFindPath_Click() {
         if (!pair) return;
         bAbort = false;
         const bool inverted = frmKinshipSelect.chkInverted.Checked();
-        FindPath(inverted ? pair->second : pair->first, inverted ? pair->first : pair->second, step);
+        FindPath(inverted ? pair->second : pair->first, inverted ? pair->first : pair->second, request);
     });
 }
 
 bool frmMain::FindPathBetween(TextView sFromId, TextView sToId) {
     bool isAccepted = false;
-    RequestKinship([&](TextView& step, std::int32_t& row) {
+    RequestKinship([&](KinshipRequest& request) {
         const Row from = lvwIn.Item(sFromId), to = lvwIn.Item(sToId);
         if (from == to || from.Cell(In::IslandNr) != to.Cell(In::IslandNr)) {
             KinshipChoices choices;
-            choices.Define(lvwIn, row);
+            choices.Define(lvwIn, request.row);
             bAbort = true;
             return RefuseKinship(choices);
         }
         isAccepted = true;
-        FindPath(from.Index(), to.Index(), step);
+        FindPath(from.Index(), to.Index(), request);
     });
     return isAccepted;
 }
@@ -90,14 +90,14 @@ void frmMain::RefuseKinship(const KinshipChoices& choices) {
         BoxButtons::Ok, BoxIcon::Exclamation);
 }
 
-void frmMain::FindPath(std::int32_t lFrom, std::int32_t lTo, TextView& step) {
+void frmMain::FindPath(std::int32_t lFrom, std::int32_t lTo, KinshipRequest& request) {
     modKinship.SetPair(lFrom, lTo);
     const Row from = lvwIn.Item(lFrom), to = lvwIn.Item(lTo);
     lvwKinship.Tip =
         Concat({"Liens de parenté de"_t, kLineEnd, "    ", from.Text(), " : ", modKinship.sKinshipFrom,
                 kLineEnd, "vers", kLineEnd, "    ", to.Text(), " : ", modKinship.sKinshipTo});
-    bWaitCursor = true;
-    step = kSearching;
+    request.wait.emplace(bWaitCursor);
+    request.step = kSearching;
     pnlMessage.Set(kSearching);
     DisableKinshipCommands();
     modKinship.FindKinship(from.Cell(In::IslandNr), lFrom, lTo);

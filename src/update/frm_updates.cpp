@@ -119,13 +119,11 @@ bool frmUpdates::DownloadFile(TextView sUrl, TextView sLocal) {
     app_.trail.GuardElse(
         "DownloadFile",
         [&] {
-            bWaitCursor = true;
+            const ScopedFlag wait(bWaitCursor);
             app_.ports.network.Download(sUrl, sLocal);  // an old copy serves when nothing comes
-            bWaitCursor = false;
             isDone = true;
         },
         [&] {
-            bWaitCursor = false;
             app_.Box(" - OpenURL", Concat({"Erreur d'accès au fichier de mises-à-jour"_t, kLineEnd,
                                            "Site : ", sUrl, kLineEnd, "Local : ", sLocal}));
         });

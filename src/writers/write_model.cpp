@@ -152,7 +152,7 @@ class Document {
 
 void WriteFileFromModel(const ListSource& source, const OutputFormat& format, TextView sOutFile,
                         TextView sModelFile, bool bSelectedOnly) {
-    source.feedback.bWaitCursor = true;
+    const ScopedFlag wait(source.feedback.bWaitCursor);
     bool opened = false;
     source.feedback.trail.GuardElse(
         "WriteFileFromModel",
@@ -172,7 +172,6 @@ void WriteFileFromModel(const ListSource& source, const OutputFormat& format, Te
                                     Concat({"Erreur d'écriture dans le fichier "_t, sOutFile, "."}));
             }
         });
-    source.feedback.bWaitCursor = false;
 }
 
 }  // namespace swiftroll::modGenFileFromModel
