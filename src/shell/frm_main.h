@@ -11,7 +11,7 @@
 #include "shell/frm_kinship_select.h"
 #include "shell/frm_preview.h"
 #include "shell/frm_splash.h"
-#include "shell/list_commands.h"
+#include "shell/main_commands.h"
 #include "shell/parameter_set.h"
 #include "shell/setting_parts.h"
 #include "update/frm_updates.h"
@@ -33,43 +33,13 @@ struct ListKey {
 /// The main window without a screen: owner of all tables, options and commands. Loading it starts the
 /// application. A window, the headless program and the tests are presentations that set its controls and
 /// click its commands.
-class frmMain : public Application, public ListCommands {
+class frmMain : public Application, public MainCommands {
   public:
     explicit frmMain(const Ports& applicationPorts);
 
     /// Starts the application; `sCommandLine` is the file to put in `cboGedIn`, quotes allowed, or empty.
     /// @throws ProgramEnd after the report of a failure
     void Form_Load(TextView sCommandLine);
-
-    // Reading
-    Command cmdLoad, mnuReadGedCom;
-    Command cmdRecalcIn;
-    // The list
-    Command cmdCalcOutput, mnuRecalcOut;
-    Command cmdSaveSwift, mnuSaveSwift;
-    Command cmdCopyGedIn2SwiftOut, mnuCopyGedIn2SwiftOut;
-    // Files
-    Command cmdSelectDirGedIn, cmdSelectDirSwiftOut, cmdSelectDirModel;
-    // Commands that depend on what was read
-    Command cmdFindPath, mnuFindPath;
-    // The extract
-    Command cmdSaveGed, mnuSaveGed;
-    Command cmdSelectDirGedOut;
-    Command cmdCopyGedIn2GedOut, mnuCopyGedIn2GedOut;
-    Command mnuDrawKinship, cmdDrawKinship, cmdCopyTitle2kinship, cmdPrintKinship;
-    // Drawings
-    Command mnuDrawKinshipOne, mnuDrawKinshipOneSpouse, mnuDrawKinshipAll, mnuDrawKinshipAllSpouse;
-    Command cmdSelectDirKinship;
-    Command picTreeH, picTreeV;
-    Command cmdFont;
-    // Opening files
-    Command cmdDisplayGedIn, cmdDisplayGedOut, cmdDisplaySwiftOut, cmdDisplayModel, cmdDisplayKinship;
-    // The menu bar, help and the end
-    Command mnuFile, mnuContext1, mnuContext2, mnuHelp;
-    Command cmdHelp, mnuDoc, mnuAbout, cmdExit, mnuExit;
-    // Updates and the problem report
-    Command mnuCheckUpdate, PicturepicKeepUpdated, mnuSaveParams;
-    std::vector<Menu> MenuBar();
 
     /// Opens the help at a topic, 0 for its beginning; false, and the message line tells it, when there is
     /// none.
@@ -81,10 +51,6 @@ class frmMain : public Application, public ListCommands {
     std::vector<Window*> SecondaryWindows() {
         return {&frmSplash, &frmUpdates, &frmFind, &frmPreview, &frmKinshipSelect};
     }
-    // Parameter sets and favourites
-    Command cmdSaveCells, cmdSaveColumns, cmdSavePlace;
-    Command cmdGotoFavorite;
-
     /// Puts the current row of the current table among the favourites of the present tab.
     void mnuAddFavorite_Click();
     /// Saves all settings, as the end of the run does; a failure is reported, and the former ones stay.
@@ -203,7 +169,6 @@ class frmMain : public Application, public ListCommands {
 
     void BindLists();
     void BindContextMenu();
-    Menu ContextMenu();
     void OnActiveTable(const char* sProc, const std::function<void(Table&)>& command,
                        TextView arguments = {});
     bool TabHasTable() const;

@@ -6,42 +6,10 @@
 namespace swiftroll {
 namespace {
 
-std::vector<Menu> Entries(std::initializer_list<Command*> commands, std::array<Command, 3>& values) {
-    std::vector<Menu> entries;
-    for (Command* command : commands) entries.push_back({*command});
-    for (Command& value : values) entries.push_back({value});
-    return entries;
-}
-
 constexpr TextView kComparisons[] = {" est <=", " est =", " est >="};
 constexpr TextView kValueModes[] = {"V<=", "V=", "V>="};
 
 }  // namespace
-
-Menu frmMain::ContextMenu() {
-    return {
-        mnuContextTitle,
-        {{mnuAddFavorite},
-         {mnuCol, {{mnuColSelect}, {mnuColUnselect}, {mnuResetCol}}},
-         {mnuSpe2},
-         {mnuNextSelected},
-         {mnuDeselectCurrent},
-         {mnuDeselectAll},
-         {mnuSelectAll},
-         {mnuInvertSelection},
-         {mnuCopy},
-         {mnuFind},
-         {mnuFindNext},
-         {mnuSelect},
-         {mnuDeselectIn},
-         {mnuAdd, Entries({&mnuAddIndi, &mnuAddParents, &mnuAddSpouses, &mnuAddChildren}, mnuAddValue)},
-         {mnuRemove, Entries({&mnuRemoveIndi, &mnuRemoveParents, &mnuRemoveSpouses, &mnuRemoveChildren},
-                             mnuRemoveValue)},
-         {mnuKinship},
-         {mnuFindPath},
-         {mnuDrawKinship,
-          {{mnuDrawKinshipOne}, {mnuDrawKinshipOneSpouse}, {mnuDrawKinshipAll}, {mnuDrawKinshipAllSpouse}}}}};
-}
 
 void frmMain::BindContextMenu() {
     const auto bind = [this](Command& command, bool bSelect, TextView sMode) {
