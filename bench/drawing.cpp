@@ -69,14 +69,14 @@ int main(int argumentCount, char** arguments) {
     app.Read(gedcom.string());
     main.txtKinH.SetText(main.txtKinWidth.Get());
     app.pump.Watch(main, paths);
-    main.FindPathBetween("@M0@", "@F" + std::to_string(kGenerations) + "@");
+    main.kinshipRequest.FindPathBetween("@M0@", "@F" + std::to_string(kGenerations) + "@");
 
     const auto start = std::chrono::steady_clock::now();
     main.cmdDrawKinship.Click();
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     const std::size_t cells = CountCells(page);
     std::printf("%lld paths, %zu cells, %.1f MB in %.3f s: %.0f cells a second\n",
-                static_cast<long long>(main.modKinship.lNrLinks), cells,
+                static_cast<long long>(main.kinshipSearch.lNrLinks), cells,
                 static_cast<double>(std::filesystem::file_size(page)) / 1e6, seconds,
                 static_cast<double>(cells) / seconds);
     std::filesystem::remove_all(folder);

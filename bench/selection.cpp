@@ -46,7 +46,7 @@ class SelectionBench {
 
   private:
     void Measure(Table& table, const swiftroll::Text& key, const char* sMode) {
-        auto& engine = main_.modSelectionIn;
+        auto& engine = main_.selection;
         engine.context.SetClickedCell(main_, table, table.FindColumn(key)->Index);
         // Without the column that the mode needs, the command is not offered.
         const bool isOffered =

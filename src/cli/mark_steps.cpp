@@ -59,8 +59,8 @@ bool MarkSteps::Run(Session& session) const {
         }
         const auto& selection = std::get<Selection>(step);
         main.lvwActiveListView = &main.lvwIn;
-        main.modSelectionIn.context.SetClickedCell(main, main.lvwIn, selection.column);
-        main.modSelectionIn.Add_Remove_Selection(selection.bSelect, selection.sMode);
+        main.selection.context.SetClickedCell(main, main.lvwIn, selection.column);
+        main.selection.Add_Remove_Selection(selection.bSelect, selection.sMode);
     }
     return true;
 }

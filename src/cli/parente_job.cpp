@@ -109,14 +109,15 @@ bool ParenteJob::MarkRows(Session& session) {
 /// False when the request was refused.
 bool ParenteJob::Search(Session& session) {
     using Clock = std::chrono::steady_clock;
-    modKinship::Search& search = session.main.modKinship;
+    modKinship::Search& search = session.main.kinshipSearch;
     const auto end = Clock::now() + std::chrono::duration_cast<Clock::duration>(
                                         std::chrono::duration<double>(options_.mostSeconds));
     const auto hasAllPaths = [&] { return options_.mostPaths > 0 && search.lNrLinks >= options_.mostPaths; };
     session.pump.stopWhen = [&] {
         return hasAllPaths() || (options_.mostSeconds > 0 && Clock::now() >= end);
     };
-    const bool accepted = session.main.FindPathBetween(TextOf(options_.fromId), TextOf(options_.toId));
+    const bool accepted =
+        session.main.kinshipRequest.FindPathBetween(TextOf(options_.fromId), TextOf(options_.toId));
     session.pump.stopWhen = nullptr;
     session.stopped = accepted && (session.IsStopped() || hasAllPaths());
     return accepted;

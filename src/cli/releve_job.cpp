@@ -84,7 +84,7 @@ void ReleveJob::Prepare(Session& session) {
     output = FileNameToText(options_.output);
     main.cboSaveSwift.SetListIndex(FormatOf(session, options_));
     if (!options_.model.empty()) main.cboFileModel.SetText(FileNameToText(options_.model));
-    stylesheet_ = main.StylesheetOf(output);
+    stylesheet_ = main.writing.StylesheetOf(output);
     if (stylesheet_.empty()) return;
     if (output == kStandardOutput) throw UsageError("--xsl demande un fichier de sortie");
     if (stylesheet_ == output) {
@@ -101,7 +101,7 @@ void ReleveJob::Do(Session& session) {
     if (session.IsStopped()) return;
     MarkGroups(session.main);
     session.main.cmdSaveSwift.Click();
-    if (!session.main.bWriteComplete) {
+    if (!session.main.writing.bWriteComplete) {
         session.Refuse(Concat({"Erreur d'écriture dans le fichier "_t, session.dialogs.outputFile, "."}));
     }
     session.stopped = session.IsStopped();

@@ -1,11 +1,24 @@
 #pragma once
 
-#include "text/text.h"
+#include "app/option_record.h"
 
 namespace swiftroll::modCommon {
 
 /// The name with what stands from its last "." on replaced by "." and `sExt`; a name without "." gets them
 /// behind it. Dots of the folders do not count.
 Text ChangeExtension(TextView sFile, TextView sExt);
+
+/// The extensions that belong to the chosen format: of its files, and of its models.
+const Text& OutExtension(const OptionRecord& options);
+const Text& ModelExtension(const OptionRecord& options);
+/// That of the drawings, which are HTML whatever is chosen.
+const Text& KinshipExtension(const OptionRecord& options);
+
+/// Give the name in a file combo its extension; an empty one follows the file that is read.
+void ChangeSwiftOutExtension(OptionRecord& options);
+void ChangeGedOutExtension(OptionRecord& options);
+/// Give the name in a file combo its extension.
+void ChangeModelExtension(OptionRecord& options);
+void ChangeKinshipExtension(OptionRecord& options);
 
 }  // namespace swiftroll::modCommon

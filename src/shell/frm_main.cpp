@@ -1,8 +1,8 @@
 #include "shell/frm_main.h"
 
-#include "gedcom/places.h"
-#include "list/calc_output.h"
 #include "shell/file_names.h"
+#include "shell/list_tips.h"
+#include "shell/option_rules.h"
 #include "tables/column_icon.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -13,29 +13,32 @@ namespace swiftroll {
 frmMain::frmMain(const Ports& applicationPorts)
     : Application(applicationPorts, modGenFileFromModel::FormatOptions()),
       MainCommands(static_cast<Window&>(*this)),
-      mnuContext(TableMenu()),
-      modReadGedcom(*this),
-      modKinship(*this),
-      frmKinshipSelect(*this),
-      frmSplash(*this),
-      frmPreview(*this),
-      frmUpdates(*this),
-      modSelectionIn(*this),
-      frmFind(*this, modSelectionIn) {
-    DisableKinshipCommands();
-    BindReading();
-    BindWriting();
-    BindFiles();
-    BindOptionRules();
-    BindLists();
-    BindContextMenu();
-    BindKinship();
-    BindDrawing();
-    BindExtract();
-    BindWindow();
-    BindReport();
-    BindParameterSets();
-    BindFavorites();
+      reader(*this),
+      kinshipSearch(*this),
+      selection(*this),
+      kinshipDialog(*this),
+      about(*this),
+      preview(*this),
+      updates(*this),
+      findDialog(*this, selection),
+      savedSettings(*this, {{*this, All()}, {findDialog}, {preview}, {kinshipDialog}, {about}, {updates}}),
+      fileCombos(*this, *this, *this),
+      drawing(*this, *this, kinshipSearch, fileCombos),
+      favorites(*this, mnuAddFavorite, cmdGotoFavorite),
+      tabs(*this, mnuCopy, favorites, drawing),
+      lists(*this, *this, selection, findDialog, tabs),
+      contextMenu(*this, *this, selection, lists),
+      kinshipRequest(*this, *this, kinshipDialog, kinshipSearch, drawing),
+      writing(*this, *this, cmdSelectDirSwiftOut, reader.lines, fileCombos),
+      reading_(*this, *this, reader, drawing),
+      extract_(*this, *this, reader.lines, fileCombos),
+      report_(*this, *this, updates, savedSettings),
+      parameterSets_(*this, *this) {
+    BindOptionRules(*this);
+    cmdHelp.Operation = mnuDoc.Operation = [this] { LaunchHTMLHelp(0); };
+    cmdExit.Operation = mnuExit.Operation = [this] { cmdExit_Click(); };
+    mnuAbout.Operation = [this] { about.Show(); };
+    mnuContext2.Operation = [this] { mnuContext2_Click(); };
 }
 
 void frmMain::Form_Load(TextView sCommandLine) {
@@ -46,7 +49,7 @@ void frmMain::Form_Load(TextView sCommandLine) {
             bStarting = true;
             InitPaths();
             step = "InitCTT";
-            AttachTips();
+            AttachTips(*this);
             step = "InitMisc";
             for (Panel* panel : {&pnlLines, &pnlIndividuals, &pnlFamilies}) panel->Set("");
             pnlMessage.Set(
@@ -54,22 +57,25 @@ void frmMain::Form_Load(TextView sCommandLine) {
                 "\"Aide / Vérifier...\""_t);
             step = "GetAllControls";
             SetAllColumnIcons(*this);
-            RestoreSettings();
+            savedSettings.GetAllControls();
+            cboLoad.SetListIndex(chkProcFamilies.Checked() ? 0 : 1);
+            writing.ShowFormat();
+            savedSettings.ShowNotice();
             step = "InitCombos";
             InitCombos();
             cboDrawKinship.SetListIndex(3);
-            txtFont_Change();
+            drawing.txtFont_Change();
             InitIndexes();
             step = "EndInit";
             const Text file(Trim(ReplaceAll(sCommandLine, "\"", "")));
             if (!file.empty()) {
                 cboGedIn.SetText(file);
-                FileCombo_LostFocus(cboGedIn);
+                fileCombos.FileCombo_LostFocus(cboGedIn);
             }
             // The check may have to wait for the network, and the user can end the wait.
             Show();
-            if (chkCheckUpdates.Checked()) frmUpdates.GetUpdates(true);
-            RepeatNotice();
+            if (chkCheckUpdates.Checked()) updates.GetUpdates(true);
+            savedSettings.RepeatNotice();
             bStarting = false;
         },
         [&] {
@@ -99,14 +105,55 @@ void frmMain::InitPaths() {
 void frmMain::InitCombos() {
     if (cboGedIn.Get().empty()) cboGedIn.SetText(PathOf(sUserMyDocuments, ".ged"));
     if (cboGedOut.Get().empty()) cboGedOut.SetText(PathOf(sUserMyDocuments, ".Extrait.ged"));
-    if (cboSwiftOut.Get().empty() || cboSwiftOut.Get().starts_with('.')) cmdCopyGedIn2SwiftOut_Click();
+    if (cboSwiftOut.Get().empty() || cboSwiftOut.Get().starts_with('.')) cmdCopyGedIn2SwiftOut.Click();
     if (cboFileModel.Get().empty()) {
         cboFileModel.SetText(PathOf(ports.folders.Models(), "SwiftRoll.Modele.html"));
-        ChangeModelExtension();
+        modCommon::ChangeModelExtension(*this);
     }
     if (cboKinship.Get().empty()) {
         cboKinship.SetText(PathOf(sUserMyDocuments, "Kinship"));
-        ChangeKinshipExtension();
+        modCommon::ChangeKinshipExtension(*this);
+    }
+}
+
+bool frmMain::LaunchHTMLHelp(int topic) {
+    if (!ports.files.Exists(sHelpFile)) {
+        pnlMessage.Set(Concat({"Le manuel n'a pas été trouvé : "_t, sHelpFile}));
+        return false;
+    }
+    const bool isOpen = ports.desktop.OpenHelp(sHelpFile, topic);
+    if (!isOpen) pnlMessage.Set(Concat({"Aucun programme n'a pu ouvrir le manuel : "_t, sHelpFile}));
+    return isOpen;
+}
+
+void frmMain::mnuContext2_Click() {
+    Box(" - Menu Contextuel"_t,
+        Concat({"Un clic dans les listes avec le bouton droit de la souris"_t, kLineEnd,
+                "permet la sélection d'individus dans la liste 'Entrée'"_t, kLineEnd,
+                "ou dans la liste courante suivant différents critères"_t, kLineEnd,
+                "en fonction de l'élément cliqué (Individu, Famille,...)."_t, kLineEnd,
+                "Voir l'aide pour plus de détails"_t}));
+}
+
+void frmMain::cmdExit_Click() {
+    LeaveFocus();  // a name that was just typed enters its history
+    savedSettings.SaveAllControls();
+    bExiting = true;
+    for (Window* window : SecondaryWindows()) window->Hide();
+    bEnded = true;
+}
+
+bool frmMain::Form_QueryUnload() {
+    switch (Box(" - Abort"_t, "Voulez-vous sauvegarder les paramètres ?"_t, BoxButtons::YesNoCancel,
+                BoxIcon::Question)) {
+        case BoxAnswer::Yes:
+            cmdExit_Click();
+            return true;
+        case BoxAnswer::No:
+            bEnded = true;
+            return true;
+        default:
+            return false;
     }
 }
 

@@ -65,7 +65,7 @@ class AboutDialog : public SecondaryDialog {
 }  // namespace
 
 SecondaryDialog* BuildAboutDialog(Presenter& presenter, QWidget* owner) {
-    return new AboutDialog(presenter, presenter.Main().frmSplash, owner);
+    return new AboutDialog(presenter, presenter.Main().about, owner);
 }
 
 }  // namespace swiftroll::ui

@@ -46,7 +46,7 @@ QWidget* ConditionFrame(Binder& binder, frmFind& form, std::size_t condition) {
 }  // namespace
 
 SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
-    frmFind& form = presenter.Main().frmFind;
+    frmFind& form = presenter.Main().findDialog;
     auto* dialog = new SecondaryDialog(presenter, form, owner);
     dialog->setObjectName(QStringLiteral("frmFind"));
     dialog->helpTopic = Topic::Find;

@@ -32,7 +32,7 @@ class DoubleClick : public QObject {
 }  // namespace
 
 SecondaryDialog* BuildKinshipDialog(Presenter& presenter, QtDialogs& dialogs, QWidget* owner) {
-    frmKinshipSelect& form = presenter.Main().frmKinshipSelect;
+    frmKinshipSelect& form = presenter.Main().kinshipDialog;
     auto* dialog = new SecondaryDialog(presenter, form, owner);
     dialog->setObjectName(QStringLiteral("frmKinshipSelect"));
     dialog->setModal(true);

@@ -24,8 +24,6 @@ namespace {
 constexpr int kTableMargin = 8;
 constexpr int kFavoritesWidth = 170;
 constexpr QSize kDesignSize(960, 680);
-constexpr const char* kTabCaptions[] = {"Entrée",  "Sortie",      "Famille Xref", "Xref",   "Famille",
-                                        "Parenté", "Opt. Format", "Opt. Liens",   "Options"};
 
 /// A page that stays whole in a small window.
 QWidget* Scrolled(QWidget* page) {
@@ -68,7 +66,7 @@ MainWindow::MainWindow(Presenter& presenter)
     setCentralWidget(centre);
     BuildStatusBar();
     presenter_.OnRefresh([this] { Refresh(); });
-    main_.OnTabFocus = [this] { focusesTable_ = true; };
+    main_.tabs.OnTabFocus = [this] { focusesTable_ = true; };
 }
 
 void MainWindow::TakeDesignSize() {
@@ -118,7 +116,7 @@ QWidget* MainWindow::BuildTabs() {
                               Scrolled(BuildLinksTab(main_, binder_, presenter_)),
                               Scrolled(BuildOptionsTab(main_, binder_))};
     for (std::size_t i = 0; i < std::size(pages); ++i) {
-        tabs_->addTab(pages[i], QString::fromUtf8(kTabCaptions[i]));
+        tabs_->addTab(pages[i], ToQt(kTabCaptions[i]));
     }
     const std::pair<Table*, const char*> names[] = {{&main_.lvwIn, "Individus"},
                                                     {&main_.lvwOut, "Relevé-vif"},
@@ -144,7 +142,7 @@ QWidget* MainWindow::BuildTabs() {
     tabs_->setUsesScrollButtons(false);
     connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::OnTabChosen);
     connect(tabs_, &QTabWidget::tabBarDoubleClicked, this,
-            [this](int) { presenter_.Act([this] { main_.SSTab1_DblClick(); }); });
+            [this](int) { presenter_.Act([this] { main_.lists.SSTab1_DblClick(); }); });
     tabs_->tabBar()->installEventFilter(this);
     return tabs_;
 }
@@ -187,19 +185,19 @@ void MainWindow::BuildStatusBar() {
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event) {
     if (object == panels_.back() && event->type() == QEvent::MouseButtonDblClick) {
-        presenter_.Act([this] { main_.StatusBar1_DblClick(); });
+        presenter_.Act([this] { main_.lists.StatusBar1_DblClick(); });
         return true;
     }
     if (object == tabs_->tabBar() && event->type() == QEvent::MouseButtonPress) {
         // No cell of the list that comes to the front was clicked.
-        presenter_.Act([this] { main_.HitTest(-1, -1); });
+        presenter_.Act([this] { main_.lists.HitTest(-1, -1); });
     }
     if (object == tabs_->tabBar() && event->type() == QEvent::MouseButtonRelease) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         const int tab = tabs_->tabBar()->tabAt(mouse->position().toPoint());
         if (mouse->button() == Qt::RightButton && tab >= 0) {
             tabs_->setCurrentIndex(tab);
-            presenter_.ActLater([this] { main_.SSTab1_RightClick(); });
+            presenter_.ActLater([this] { main_.contextMenu.SSTab1_RightClick(); });
         }
     }
     return QMainWindow::eventFilter(object, event);
@@ -209,7 +207,7 @@ void MainWindow::OnTabChosen(int index) {
     if (index == static_cast<int>(main_.SSTab1)) return;
     presenter_.Act([&] {
         main_.SSTab1 = static_cast<Tab>(index);
-        main_.SSTab1_GotFocus();
+        main_.tabs.SSTab1_GotFocus();
     });
 }
 

@@ -97,7 +97,7 @@ void Presenter::SettleFocus() {
     const bool isCurrent = focus->table == main_.lvwActiveListView && main_.ActiveControl() == nullptr;
     if (focus->table != nullptr && isCurrent) return;
     if (focus->table != nullptr) {
-        main_.TableGotFocus(*focus->table);
+        main_.tabs.TableGotFocus(*focus->table);
     } else if (focus->window->ActiveControl() != focus->control) {
         focus->window->SetFocus(*focus->control);
     }

@@ -25,9 +25,9 @@ constexpr QMarginsF kMargins(8, 8, 8, 8);  // millimetres
 }  // namespace
 
 PreviewDialog::PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWidget* owner)
-    : SecondaryDialog(presenter, presenter.Main().frmPreview, owner),
+    : SecondaryDialog(presenter, presenter.Main().preview, owner),
       presenter_(presenter),
-      form_(presenter.Main().frmPreview),
+      form_(presenter.Main().preview),
       drawing_(drawing),
       binder_(presenter, form_),
       layout_(QPageSize(QPageSize::A4), QPageLayout::Landscape, kMargins, QPageLayout::Millimeter) {

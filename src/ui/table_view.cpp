@@ -70,7 +70,7 @@ void TableView::BindHeader() {
     });
     connect(header_, &QHeaderView::sectionClicked, this, [this](int section) {
         presenter_.Act([&] {
-            presenter_.Main().lvw_ColumnClick(Data(), Data().ColumnAt(ColumnId::OfSection(section)));
+            presenter_.Main().lists.lvw_ColumnClick(Data(), Data().ColumnAt(ColumnId::OfSection(section)));
         });
     });
 }
@@ -108,7 +108,7 @@ int TableView::RowAt(const QPoint& point) const {
 
 void TableView::HitTest(const QPoint& point) {
     const int row = RowAt(point);
-    presenter_.Main().HitTest(row, row < 0 ? -1 : header_->logicalIndexAt(point.x()));
+    presenter_.Main().lists.HitTest(row, row < 0 ? -1 : header_->logicalIndexAt(point.x()));
 }
 
 /// The cell that the menu of the keyboard is about: the one under the pointer, or where the pointer is not
@@ -116,9 +116,9 @@ void TableView::HitTest(const QPoint& point) {
 void TableView::HitTestOfKeyboard() {
     const QPoint point = viewport()->mapFromGlobal(QCursor::pos());
     if (viewport()->rect().contains(point)) return HitTest(point);
-    const int row = CurrentRow(), clicked = presenter_.Main().lHitCol.Section();
+    const int row = CurrentRow(), clicked = presenter_.Main().lists.lHitCol.Section();
     const bool isColumn = clicked >= 0 && clicked < header_->count();
-    presenter_.Main().HitTest(row, row < 0 ? -1 : isColumn ? clicked : header_->logicalIndex(0));
+    presenter_.Main().lists.HitTest(row, row < 0 ? -1 : isColumn ? clicked : header_->logicalIndex(0));
     scrollTo(model_.index(row, 0));
 }
 
@@ -324,7 +324,7 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
 
 void TableView::StartDrag() {
     Text text;
-    presenter_.Act([&] { text = presenter_.Main().DragText(); });
+    presenter_.Act([&] { text = presenter_.Main().lists.DragText(); });
     if (text.empty()) return;
     auto* content = new QMimeData;
     content->setText(ToQt(text));
@@ -337,7 +337,7 @@ void TableView::mouseReleaseEvent(QMouseEvent* event) {
     const int row = std::exchange(pressedRow_, -1);
     const bool selects = std::exchange(selectsOnRelease_, false);
     if (event->button() == Qt::RightButton) {
-        presenter_.ActLater([this] { presenter_.Main().lvw_MouseUp(MouseButton::Right); });
+        presenter_.ActLater([this] { presenter_.Main().contextMenu.lvw_MouseUp(MouseButton::Right); });
     } else if (selects && row >= 0) {
         presenter_.Act([&] { Select(row, Qt::NoModifier); });
     }
@@ -350,7 +350,7 @@ void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (row >= 0 && TickRect(row).adjusted(-3, -3, 3, 3).contains(point)) return mousePressEvent(event);
     presenter_.Act([&] {
         HitTest(point);
-        presenter_.Main().lvw_DblClick(Data());
+        presenter_.Main().lists.lvw_DblClick(Data());
     });
 }
 
@@ -406,7 +406,7 @@ bool TableView::OnListKey(const QKeyEvent& event) {
     if (!key) return false;
     presenter_.ActLater([this, key = *key] {
         if (key.OpensMenu()) HitTestOfKeyboard();
-        presenter_.Main().lvw_KeyDown(key);
+        presenter_.Main().contextMenu.lvw_KeyDown(key);
     });
     return true;
 }

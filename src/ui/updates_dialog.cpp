@@ -118,7 +118,7 @@ class UpdatesDialog : public SecondaryDialog {
 }  // namespace
 
 SecondaryDialog* BuildUpdatesDialog(Presenter& presenter, QWidget* owner) {
-    return new UpdatesDialog(presenter, presenter.Main().frmUpdates, owner);
+    return new UpdatesDialog(presenter, presenter.Main().updates, owner);
 }
 
 }  // namespace swiftroll::ui

@@ -72,7 +72,7 @@ TEST(CellTexts, TellWhatTheOptionsAskFor) {
 
 TEST(KinshipPage, IsWrittenByteForByte) {
     Couple t;
-    t.main.FindPathBetween("@I3@", "@I2@");
+    t.main.kinshipRequest.FindPathBetween("@I3@", "@I2@");
     t.SetAll(false);
     t.main.txtKinH.SetText("150");
     const TextView head =
@@ -153,7 +153,7 @@ TEST(KinshipPrint, TextsAreThoseOfThePageWithoutItsTags) {
 
 TEST(KinshipPage, WithoutPathsNoFileIsCreated) {
     Couple t;
-    t.main.FindPathBetween("@I3@", "@I2@");
+    t.main.kinshipRequest.FindPathBetween("@I3@", "@I2@");
     t.dialogs.boxes.clear();
     EXPECT_EQ(t.Draw(0), "") << "no row is marked";
     ASSERT_EQ(t.dialogs.boxes.size(), 1u);
@@ -166,7 +166,7 @@ TEST(KinshipPage, WithoutPathsNoFileIsCreated) {
 
 TEST(KinshipPage, WhatCannotBeWrittenIsTold) {
     Couple t;
-    t.main.FindPathBetween("@I3@", "@I2@");
+    t.main.kinshipRequest.FindPathBetween("@I3@", "@I2@");
     t.dialogs.boxes.clear();
     t.files.room = 100;
     const Text page = t.Draw(2);
@@ -182,7 +182,7 @@ TEST(KinshipPage, WhatCannotBeWrittenIsTold) {
 
 TEST(KinshipPage, CouplesNeedGapsAsWideAsBoxes) {
     Couple t;
-    t.main.FindPathBetween("@I3@", "@I2@");
+    t.main.kinshipRequest.FindPathBetween("@I3@", "@I2@");
     const struct {
         bool across;
         BoxAnswer answer;
@@ -227,9 +227,9 @@ TEST(KinshipPage, CouplesNeedGapsAsWideAsBoxes) {
 
 TEST(DrawingOptions, AreSetByTheirDialogs) {
     Couple t;
-    t.main.FindPathBetween("@I3@", "@I2@");
+    t.main.kinshipRequest.FindPathBetween("@I3@", "@I2@");
     t.main.cboKinship.SetText("dir/x.html");
-    t.main.modKinship.sKinshipPair = "[A/B, \"C\"] et [D: *E?, F]";
+    t.main.kinshipSearch.sKinshipPair = "[A/B, \"C\"] et [D: *E?, F]";
     t.main.cmdCopyTitle2kinship.Click();
     EXPECT_EQ(t.main.cboKinship.Get(), "dir/Parenté [A B,  C ] et [D   E , F].html"_t);
     t.main.cboKinship.SetText("x.html");

@@ -60,7 +60,7 @@ TEST(ReadCommand, WithoutFamiliesPassesThemOver) {
     EXPECT_EQ(RowsOf(t.main.lvwXref), Rows({"@I2@|ALIA|@I3@||||", "@I3@|ALIA|@I2@||||"}));
     EXPECT_EQ(CellsOf(t.main.lvwIn, {In::IslandNr}), Rows({"0001", "0002"}));
     EXPECT_EQ(Panels(t.main), Rows({"Ligne(s) GEDCOM : 12"_t, "2 Individu(s)"_t, "", "Lecture terminée"_t}));
-    EXPECT_TRUE(t.main.modReadGedcom.lines.colRecords().Find("FAM @F1@").has_value());
+    EXPECT_TRUE(t.main.reader.lines.colRecords().Find("FAM @F1@").has_value());
     t.main.cboLoad.SetListIndex(0);
     EXPECT_EQ(t.main.cmdLoad.Caption, "Lire Tout");
     EXPECT_FALSE(FamilyCommandsEnabled(t.main)) << "until the next read";
@@ -180,7 +180,7 @@ TEST(ReadCommand, ASmallFileFillsAllTables) {
               "@I5@|ALIA|@I3@||||"}));
     EXPECT_EQ(Panels(t.main),
               Rows({"Ligne(s) GEDCOM : 57"_t, "6 Individu(s)"_t, "2 Famille(s)"_t, "Lecture terminée"_t}));
-    EXPECT_EQ(t.main.modReadGedcom.lines.colRecords().Count(), 10u);
+    EXPECT_EQ(t.main.reader.lines.colRecords().Count(), 10u);
     EXPECT_EQ(Slice(WithCrLf(text), t.main.lvwIn.Item("@I6@")), "0 @I6@ INDI\r\n1 NAME Inconnu\r\n");
     // Widths for the export are those of the widest texts.
     EXPECT_EQ(t.main.lMaxLenIn[In::Place], 22);

@@ -21,7 +21,7 @@ void ExpectRanges(std::vector<Text> records, TextView lineEnd, TextView fileEnd)
     if (fileEnd != "|") file += ReplaceAll(fileEnd, "|", lineEnd);
     t.Read(Text(file));
     SCOPED_TRACE('"' + file + '"');
-    const auto& lines = t.main.modReadGedcom.lines;
+    const auto& lines = t.main.reader.lines;
     const auto expect = [&](TextView sign, const Text& told) {
         const auto has = [&](const Text& record) { return record.find(sign) != Text::npos; };
         EXPECT_EQ(told, *std::find_if(records.begin(), records.end(), has));
@@ -57,7 +57,7 @@ TEST(RecordRanges, AreTheBytesOfTheRecordsWhateverTheLineEndsAndTheOrder) {
 TEST(RecordRanges, AreThoseOfTheLastFileOnlyAndEndWithALevelOfSeveralDigits) {
     AfterReading t("0 HEAD\n0 @S1@ SUBN\n0 @N1@ NOTE\n0 TRLR\n");
     t.Read("0 @I1@ INDI\r\n1 NAME Jean /DUPONT/\r\n10 SOUR\r\n0 @I2@ INDI\r\n0 TRLR\r\n");
-    const auto& lines = t.main.modReadGedcom.lines;
+    const auto& lines = t.main.reader.lines;
     EXPECT_EQ(lines.head, (RecordRange{1, 1}));
     EXPECT_EQ(lines.subn, (RecordRange{0, 0}));
     EXPECT_EQ(lines.colRecords().Count(), 1u);
@@ -73,7 +73,7 @@ TEST(RecordRanges, ASecondRecordOfOneReferenceIsToldOnceAndLosesNothing) {
                                   TextView("0 @I1@ INDI\n1 SEX M\n"), TextView(), TextView(unfinished)}) {
         SCOPED_TRACE(behind.substr(0, 40));
         AfterReading t(Concat({"0 @N1@ NOTE a\n0 @n1@ NOTE b\n1 CONC d\n", behind}));
-        const auto& records = t.main.modReadGedcom.lines.colRecords();
+        const auto& records = t.main.reader.lines.colRecords();
         const auto& boxes = t.dialogs.boxes;
         ASSERT_EQ(boxes.size(), 2u);
         EXPECT_EQ(boxes[0].topic, BoxTopic::LineError);
@@ -100,7 +100,7 @@ TEST(RecordRanges, ASecondIndividualOfOneReferenceIsPassedOverWhole) {
                                "0 @I1@ INDI\n1 NAME Luc /B/\n1 SEX F\n1 FAMS @F1@\n1 ALIA @i1@\n", behind}));
         EXPECT_EQ(t.main.trail.Reports(), 0);
         EXPECT_EQ(t.main.lvwFamilyXref.Count() + t.main.lvwXref.Count(), 0);
-        EXPECT_EQ(t.main.modReadGedcom.lines.lNrNames, 1);
+        EXPECT_EQ(t.main.reader.lines.lNrNames, 1);
         const bool isMore = !behind.empty();
         EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::LastName, In::Sex}),
                   isMore ? Rows({"@I1@|A|M", "@i1@||", "@I2@||"}) : Rows({"@I1@|A|M", "@i1@||"}));

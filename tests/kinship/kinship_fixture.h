@@ -37,7 +37,7 @@ struct AfterRead : TestMain {
         : AfterRead(FamilyFile(people, families)) {}
 
     void Find(TextView from, TextView to) {
-        main.FindPathBetween(Concat({"@", from, "@"}), Concat({"@", to, "@"}));
+        main.kinshipRequest.FindPathBetween(Concat({"@", from, "@"}), Concat({"@", to, "@"}));
     }
     /// The paths in the order of the table, each as "000001 A Fils B ... (spouses, rows)".
     std::vector<Text> Paths() {

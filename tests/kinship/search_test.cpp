@@ -59,7 +59,7 @@ TEST(KinshipSearch, RemovedLinksStayInTheirTableWithoutTheirTarget) {
     AfterRead t = DoubleCousins();
     t.Find("X", "Y");
     // The grandmothers lead nowhere but to their husbands, and whoever has come down to B2 has passed Gf1.
-    EXPECT_EQ(t.main.modKinship.lRemovedPaths, 3);
+    EXPECT_EQ(t.main.kinshipSearch.lRemovedPaths, 3);
     EXPECT_EQ(t.main.lvwXref1.Count(), t.main.lvwXref.Count());
     Texts removed;
     for (std::int32_t i = 1; i <= t.main.lvwXref1.Count(); ++i) {
@@ -98,10 +98,10 @@ TEST(KinshipSearch, TellsWhatItDoesInTheOrderOfTheSteps) {
     t.Find("X", "Y");
     EXPECT_EQ(seen, Rows({"Simplification de l'arbre... : 0 éliminés / 20"_t, "Chemins enlevés = 3"_t,
                           "1 lien(s) de parenté trouvé(s). Suite de la recherche..."_t}));
-    EXPECT_EQ(t.main.modKinship.lNrCalls, 10) << "B1 was entered once for both ways";
+    EXPECT_EQ(t.main.kinshipSearch.lNrCalls, 10) << "B1 was entered once for both ways";
     EXPECT_EQ(t.main.lvwKinship.Tip,
               WithCrLf("Liens de parenté de\n    @X@ : X, DE X\nvers\n    @Y@ : Y, DE Y"_t));
-    EXPECT_EQ(t.main.modKinship.sKinshipTitle, "Liens de Parenté entre [X, DE X] et [Y, DE Y]"_t);
+    EXPECT_EQ(t.main.kinshipSearch.sKinshipTitle, "Liens de Parenté entre [X, DE X] et [Y, DE Y]"_t);
 }
 
 /// A ladder of couples: the children of each marry the children of the next, so that paths are many.
@@ -124,7 +124,7 @@ Text LadderFile(int rungs) {
 /// Every path stands whole: all its rows and its separator.
 void ExpectWholePaths(AfterRead& t, std::int64_t paths) {
     EXPECT_EQ(static_cast<std::int64_t>(t.Paths().size()), paths);
-    EXPECT_EQ(t.main.modKinship.lNrLinks, paths);
+    EXPECT_EQ(t.main.kinshipSearch.lNrLinks, paths);
     for (std::int32_t i = 1; i <= t.main.lvwKinship.Count(); ++i) {
         const Row row = t.main.lvwKinship.Item(i);
         const std::int32_t length = ToLong(row.Cell(Kinship::NrLink));
@@ -138,7 +138,7 @@ void ExpectWholePaths(AfterRead& t, std::int64_t paths) {
 TEST(KinshipSearch, EscapeKeepsWholePathsAndSortsThem) {
     AfterRead t(LadderFile(12));
     t.events.onYield = [&] {
-        if (t.main.modKinship.IsRunning() && t.main.modKinship.lNrLinks == 5) t.main.RequestAbort();
+        if (t.main.kinshipSearch.IsRunning() && t.main.kinshipSearch.lNrLinks == 5) t.main.RequestAbort();
     };
     t.Find("M0", "W12");
     ExpectWholePaths(t, 5);
@@ -169,7 +169,7 @@ TEST(KinshipSearch, AnotherRequestIsRefusedWhileOneRuns) {
     AfterRead t(LadderFile(4));
     int refusals = 0;
     t.events.onYield = [&] {
-        if (t.main.modKinship.lNrLinks != 2 || refusals > 0) return;
+        if (t.main.kinshipSearch.lNrLinks != 2 || refusals > 0) return;
         t.main.lvwIn.Item(1).SetSelected(true);
         t.main.cmdFindPath.Click();
         refusals += t.main.pnlMessage.Get() == "Une recherche de parenté est déjà en cours."_t ? 1 : 0;
@@ -177,18 +177,18 @@ TEST(KinshipSearch, AnotherRequestIsRefusedWhileOneRuns) {
     t.Find("M0", "W4");
     EXPECT_EQ(refusals, 1);
     EXPECT_TRUE(t.dialogs.boxes.size() == 1u) << "that of the read";
-    const std::int64_t found = t.main.modKinship.lNrLinks;
+    const std::int64_t found = t.main.kinshipSearch.lNrLinks;
     ExpectWholePaths(t, found);
     t.events.onYield = nullptr;
     t.Find("M0", "W4");
-    EXPECT_EQ(t.main.modKinship.lNrLinks, found);
+    EXPECT_EQ(t.main.kinshipSearch.lNrLinks, found);
 }
 
 TEST(KinshipSearch, AReadDuringTheWalkEndsItThroughTheTrail) {
     AfterRead t(LadderFile(6));
     bool hasRead = false;
     t.events.onYield = [&] {
-        if (t.main.modKinship.lNrLinks != 3 || std::exchange(hasRead, true)) return;
+        if (t.main.kinshipSearch.lNrLinks != 3 || std::exchange(hasRead, true)) return;
         t.main.cmdLoad.Click();
     };
     t.Find("M0", "W6");
@@ -209,7 +209,7 @@ TEST(KinshipSearch, StopsBeforeTheMemoryIsFull) {
     EXPECT_EQ(limit, 1000);
     EXPECT_GE(t.main.lvwKinship.Count(), limit);
     EXPECT_LT(t.main.lvwKinship.Count(), limit + 40) << "the last path stands whole";
-    ExpectWholePaths(t, t.main.modKinship.lNrLinks);
+    ExpectWholePaths(t, t.main.kinshipSearch.lNrLinks);
     EXPECT_TRUE(t.main.pnlMessage.Get().ends_with(
         "au total. Recherche arrêtée : la mémoire ne suffit pas pour plus de 1000 lignes."_t))
         << t.main.pnlMessage.Get();
@@ -260,11 +260,12 @@ TEST(KinshipSearch, FindsWhatTheLiteralSearchFindsInRandomFamilies) {
         PlainWalk(
             links, 1, to, [&](const auto&) { return ++paths < 300; }, [] { return true; });
         t.events.onYield = [&] {
-            if (t.main.modKinship.lNrLinks >= 300) t.main.RequestAbort();
+            if (t.main.kinshipSearch.lNrLinks >= 300) t.main.RequestAbort();
         };
-        t.main.FindPathBetween(Text(t.main.lvwIn.Item(1).Text()), Text(t.main.lvwIn.Item(to).Text()));
-        EXPECT_EQ(t.main.modKinship.lNrLinks, paths) << "round " << round;
-        EXPECT_EQ(static_cast<std::size_t>(t.main.modKinship.lRemovedPaths), removed) << "round " << round;
+        t.main.kinshipRequest.FindPathBetween(Text(t.main.lvwIn.Item(1).Text()),
+                                              Text(t.main.lvwIn.Item(to).Text()));
+        EXPECT_EQ(t.main.kinshipSearch.lNrLinks, paths) << "round " << round;
+        EXPECT_EQ(static_cast<std::size_t>(t.main.kinshipSearch.lRemovedPaths), removed) << "round " << round;
         EXPECT_EQ(t.main.trail.Reports(), 0);
     }
 }

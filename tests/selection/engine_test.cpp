@@ -15,8 +15,8 @@ struct Selected : AfterRead {
     /// Clicks on a column and adds.
     void Run(Table& table, ColumnId column, TextView sMode) {
         main.lvwActiveListView = &table;
-        main.modSelectionIn.context.SetClickedCell(main, table, column);
-        main.modSelectionIn.Add_Remove_Selection(true, sMode);
+        main.selection.context.SetClickedCell(main, table, column);
+        main.selection.Add_Remove_Selection(true, sMode);
     }
     /// The marked individuals: "A B".
     Text Marked() {
@@ -42,7 +42,7 @@ TEST(Selection, OnlyColumnsBeforeTheNumberFormGroupsAndBesideTheColumnsIsNothing
     TestMain t;
     t.main.lvwOut.MoveColumn(Out::Place, 1);
     t.main.InitIndexes();
-    auto& context = t.main.modSelectionIn.context;
+    auto& context = t.main.selection.context;
     Texts before;
     for (const Column& column : t.main.lvwOut.Columns()) {
         context.SetClickedCell(t.main, t.main.lvwOut, column.Index);

@@ -38,7 +38,7 @@ class AnySelection : public TestMain {
         main.chkIgnoreCase.SetChecked(Below(2) == 0);
         main.chkDelAccents.SetChecked(Below(2) == 0);
         main.lvwActiveListView = &table;
-        auto& context = main.modSelectionIn.context;
+        auto& context = main.selection.context;
         context.SetClickedCell(main, table, Column(table));
         context.bRestoreClickedRow = true;
         const bool bSelect = Below(2) == 0;
@@ -54,7 +54,7 @@ class AnySelection : public TestMain {
         const auto expected = Marks();
         SetMarks(before);
         const int reports = main.trail.Reports();
-        main.modSelectionIn.Add_Remove_Selection(bSelect, sMode);
+        main.selection.Add_Remove_Selection(bSelect, sMode);
         changes += expected != before;
         failures += fails;
         if (Marks() == expected && main.trail.Reports() == reports + (fails ? 1 : 0) && !main.bWaitCursor &&

@@ -11,7 +11,7 @@ struct ContextMenu : Lists {
     Text Offer(Table& table, std::int32_t row, std::int32_t column) {
         Text offer;
         dialogs.onMenu = [&](const Menu& menu) {
-            EXPECT_EQ(&menu, &main.mnuContext);
+            EXPECT_EQ(&menu, &main.contextMenu.mnuContext);
             const std::pair<const Command*, char> entries[] = {
                 {&main.mnuAddIndi, 'I'},         {&main.mnuAddParents, 'P'},
                 {&main.mnuAddSpouses, 'S'},      {&main.mnuAddChildren, 'C'},
@@ -26,7 +26,7 @@ struct ContextMenu : Lists {
             }
         };
         Point(table, row, column);
-        main.lvw_MouseUp(MouseButton::Right);
+        main.contextMenu.lvw_MouseUp(MouseButton::Right);
         dialogs.onMenu = nullptr;
         return offer;
     }
@@ -68,8 +68,8 @@ TEST_F(ContextMenu, OffersWhatTheCellNames) {
     EXPECT_EQ(main.mnuAddValue[0].Caption, "ID est <=");
     main.SSTab1 = Tab::Kinship;
     EXPECT_EQ(Offer(main.lvwKinship, 2, -1), "cfD");
-    main.SSTab1_RightClick();
-    EXPECT_EQ(main.lHitRow, -1);
+    main.contextMenu.SSTab1_RightClick();
+    EXPECT_EQ(main.lists.lHitRow, -1);
 }
 
 TEST_F(ContextMenu, MarksTheClickedRowForItsTime) {
@@ -87,12 +87,12 @@ TEST_F(ContextMenu, MarksTheClickedRowForItsTime) {
     for (const auto& c : cases) {
         Mark(main.lvwIn, c.before);
         Point(main.lvwIn, 0, In::LastName - 1);
-        main.frmFind.cboTextToFind[0].SetText("nobody");
+        main.findDialog.cboTextToFind[0].SetText("nobody");
         dialogs.onMenu = [&](const Menu&) {
             EXPECT_TRUE(main.lvwIn.Item(1).Selected());
             if (c.chosen != nullptr) c.chosen->Click();
         };
-        main.lvw_MouseUp(MouseButton::Right);
+        main.contextMenu.lvw_MouseUp(MouseButton::Right);
         EXPECT_EQ(Marks(main.lvwIn), c.after) << (c.chosen == nullptr ? "none" : c.chosen->Name());
     }
     // A command that takes long lets other menus open meanwhile.
@@ -101,10 +101,10 @@ TEST_F(ContextMenu, MarksTheClickedRowForItsTime) {
     dialogs.onMenu = [&](const Menu&) {
         dialogs.onMenu = nullptr;
         Point(main.lvwOut, 2, 1);
-        main.lvw_MouseUp(MouseButton::Right);
+        main.contextMenu.lvw_MouseUp(MouseButton::Right);
     };
     Point(main.lvwIn, 1, 0);
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(Concat({Marks(main.lvwIn), Marks(main.lvwOut)}), "........");
     main.lvwIn.Item(1).SetChecked(true);
     EXPECT_EQ(main.lvwIn.Item(1).Look(), CellLook());
@@ -113,13 +113,13 @@ TEST_F(ContextMenu, MarksTheClickedRowForItsTime) {
     Point(main.lvwIn, 1, 0);
     dialogs.onMenu = [&](const Menu&) {
         main.ShowTab(Tab::Out);
-        main.HitTest(0, 2);
+        main.lists.HitTest(0, 2);
     };
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(Marks(main.lvwIn), ".....");
     dialogs.onMenu = [&](const Menu&) { main.lvwIn.Clear(); };
     Point(main.lvwIn, 4, 0);
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_TRUE(dialogs.boxes.empty());
 }
 
@@ -145,18 +145,18 @@ TEST_F(ContextMenu, PaintsTheCellsOfTheMarkedRows) {
         others = painted(*main.lvwActiveListView, In::LastName);
     };
     Point(in, 0, In::BirthPlace - 1);
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(Concat({rows, " ", cells, " ", others}), "..... x.... .....") << "only cells with a text";
     EXPECT_EQ(painted(in, In::BirthPlace), ".....");
     EXPECT_EQ(in.Item(4).Look(In::BirthPlace), own);
     Point(in, 0, 0);
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(Concat({rows, " ", cells}), "xxx.. .....");
     Point(in, 0, -1);
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(rows, ".....");
     Point(main.lvwOut, 0, Out::Place - 1);
-    main.lvw_MouseUp(MouseButton::Right);
+    main.contextMenu.lvw_MouseUp(MouseButton::Right);
     EXPECT_EQ(painted(main.lvwOut, Out::Place).find('x'), Text::npos);
     EXPECT_EQ(Marks(main.lvwOut).find('s'), Text::npos) << "a column that forms no groups marks no row";
 }
@@ -166,14 +166,16 @@ TEST_F(ContextMenu, OpensAndWorksByTheKeyboard) {
     int opened = 0;
     dialogs.onMenu = [&](const Menu&) { ++opened; };
     Point(main.lvwIn, 0, 0);
-    main.lvw_KeyDown({Code::ContextMenu});
-    main.lvw_KeyDown({Code::F10, 0, true});
-    main.lvw_KeyDown({Code::Other, 0, false, false, true});
-    main.lvw_KeyDown({Code::F10});
-    main.lvw_KeyDown({Code::Letter, 'A', true});
+    main.contextMenu.lvw_KeyDown({Code::ContextMenu});
+    main.contextMenu.lvw_KeyDown({Code::F10, 0, true});
+    main.contextMenu.lvw_KeyDown({Code::Other, 0, false, false, true});
+    main.contextMenu.lvw_KeyDown({Code::F10});
+    main.contextMenu.lvw_KeyDown({Code::Letter, 'A', true});
     EXPECT_EQ(opened, 3);
     EXPECT_EQ(Marks(main.lvwIn), ".....");
-    const auto press = [&](char letter) { main.lvw_KeyDown({Code::Letter, letter, false, true}); };
+    const auto press = [&](char letter) {
+        main.contextMenu.lvw_KeyDown({Code::Letter, letter, false, true});
+    };
     press('A');
     EXPECT_EQ(Marks(main.lvwIn), "bbbbb");
     press('W');
@@ -181,7 +183,7 @@ TEST_F(ContextMenu, OpensAndWorksByTheKeyboard) {
     press('X');
     EXPECT_EQ(Marks(main.lvwIn), "b....");
     press('N');
-    EXPECT_EQ(main.lHitRow, 0) << "nothing is marked behind the first row";
+    EXPECT_EQ(main.lists.lHitRow, 0) << "nothing is marked behind the first row";
     main.mnuDeselectCurrent.Enabled = false;
     press('W');
     EXPECT_EQ(Marks(main.lvwIn), "b....");
@@ -194,8 +196,8 @@ TEST_F(ContextMenu, OpensAndWorksByTheKeyboard) {
     press('D');
     EXPECT_EQ(Marks(main.lvwOut), "...");
     press('F');
-    EXPECT_TRUE(main.frmFind.Visible());
-    main.frmFind.cboTextToFind[0].SetText("");
+    EXPECT_TRUE(main.findDialog.Visible());
+    main.findDialog.cboTextToFind[0].SetText("");
     press('S');
     EXPECT_EQ(Marks(main.lvwOut), "s..");
     EXPECT_EQ(opened, 3);

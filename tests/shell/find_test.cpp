@@ -9,11 +9,11 @@ using Texts = std::vector<Text>;
 struct Find : Lists {
     Find() {
         Point(main.lvwIn, -1, In::LastName - 1);
-        main.ModifyContextMenu();
+        main.contextMenu.ModifyContextMenu();
         main.mnuFind.Click();
-        main.frmFind.Activate();
+        main.findDialog.Activate();
     }
-    frmFind& Dialog() { return main.frmFind; }
+    frmFind& Dialog() { return main.findDialog; }
     /// Writes the texts of both conditions, looks from the top on, and gives the rows found one after the
     /// other: "134".
     Text Look(TextView first, TextView second = {}) {
@@ -88,7 +88,7 @@ TEST_F(Find, GoesOnFromTheRowFoundAndKeepsOtherMarks) {
     Dialog().cboTextToFind[0].SetText("dupont");
     Dialog().cmdFind.Click();
     Point(main.lvwIn, 3, In::FirstName - 1);
-    main.ModifyContextMenu();
+    main.contextMenu.ModifyContextMenu();
     main.mnuFindNext.Click();
     EXPECT_EQ(Marks(main.lvwIn), "s.s..");
     Dialog().cboTextToFind[0].SetText("le gall");
@@ -98,7 +98,7 @@ TEST_F(Find, GoesOnFromTheRowFoundAndKeepsOtherMarks) {
     EXPECT_EQ(Marks(main.lvwOut), ".s.");
     main.ShowTab(Tab::FamilyXref);
     Dialog().cboColumns[0].SetListIndex(10);
-    main.modSelectionIn.find.lFindNext = 0;
+    main.selection.find.lFindNext = 0;
     main.mnuFindNext.Click();
     ASSERT_EQ(dialogs.boxes.size(), 1u) << "a column that the table lacks is told";
     EXPECT_NE(dialogs.boxes[0].text.find("|lvwFamilyXref/-1/?N/"), Text::npos) << dialogs.boxes[0].text;
@@ -123,7 +123,7 @@ TEST_F(Find, TheDialogFollowsTheTableAndTheCell) {
     Dialog().cmdFindNext.Click();
     Options(false, true);
     Point(main.lvwFamilyXref, 1, FamilyXref::Indi - 1);
-    main.ModifyContextMenu();
+    main.contextMenu.ModifyContextMenu();
     main.mnuFind.Click();
     EXPECT_EQ(Dialog().cboTextToFind[0].Get(), main.lvwFamilyXref.Item(2).Cell(FamilyXref::Indi));
     EXPECT_EQ(Dialog().cboTextToFind[1].Get(), "");
@@ -133,7 +133,7 @@ TEST_F(Find, TheDialogFollowsTheTableAndTheCell) {
     EXPECT_EQ(Dialog().cboColumns[0].Items().size(), 6u);
     EXPECT_EQ(Dialog().cboColumns[1].Get(), "ID Famille") << "the table has no seventh column";
     // Where the stored column is too big for the first condition, too, and without any table.
-    main.modSelectionIn.context.iClickedCol = In::IslandNr;
+    main.selection.context.iClickedCol = In::IslandNr;
     Dialog().Activate();
     EXPECT_EQ(Dialog().cboColumns[0].ListIndex(), 0);
     main.lvwActiveListView = nullptr;

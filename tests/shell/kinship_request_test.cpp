@@ -21,12 +21,12 @@ struct Request : TestMain {
         Read(file + "0 @F0@ FAM\r\n1 HUSB @I1@\r\n1 CHIL @I2@\r\n1 CHIL @I3@\r\n1 CHIL @I4@\r\n0 TRLR\r\n");
         dialogs.boxes.clear();
         dialogs.onWindow = [this](Window& window) {
-            ASSERT_EQ(&window, &main.frmKinshipSelect);
+            ASSERT_EQ(&window, &main.kinshipDialog);
             EXPECT_TRUE(window.Visible());
             ++shown;
             offered.clear();
             for (int i = 1; i <= kReadings; ++i) {
-                if (main.frmKinshipSelect.Option(i).Enabled) offered.push_back(i);
+                if (main.kinshipDialog.Option(i).Enabled) offered.push_back(i);
             }
             if (inDialog) inDialog();
         };
@@ -42,11 +42,11 @@ struct Request : TestMain {
         Mark(selected, checked);
         shown = 0;
         offered.clear();
-        main.modKinship.sKinshipPair.clear();
+        main.kinshipSearch.sKinshipPair.clear();
         main.cmdFindPath.Click();
     }
-    const Text& Pair() const { return main.modKinship.sKinshipPair; }
-    frmKinshipSelect& Dialog() { return main.frmKinshipSelect; }
+    const Text& Pair() const { return main.kinshipSearch.sKinshipPair; }
+    frmKinshipSelect& Dialog() { return main.kinshipDialog; }
 
     int shown = 0;
     std::vector<int> offered;
@@ -174,9 +174,9 @@ TEST(KinshipRequest, ADoubleClickOnAPathGoesToThePersonOrTheFamily) {
     t.Find({1, 2}, {});
     t.Mark({}, {});
     const auto click = [&](std::int32_t row, ColumnId column) {
-        t.main.HitTest(row - 1, column.Section());
+        t.main.lists.HitTest(row - 1, column.Section());
         t.main.SSTab1 = Tab::Kinship;
-        t.main.lvw_DblClick(t.main.lvwKinship);
+        t.main.lists.lvw_DblClick(t.main.lvwKinship);
         return t.main.SSTab1;
     };
     EXPECT_EQ(click(1, Kinship::Indi), Tab::In);

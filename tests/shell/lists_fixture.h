@@ -22,7 +22,7 @@ struct Lists : testing::Test, TestMain {
                      "0 @I4@ INDI\n1 NAME Anne /Dupont/\n1 SEX F\n1 BIRT\n2 PLAC PARIS\n"
                      "0 @I5@ INDI\n1 NAME Jean /Le Gall/\n"
                      "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 CHIL @I3@\n1 CHIL @I4@\n0 TRLR\n"_t));
-        main.FindPathBetween("@I3@", "@I1@");
+        main.kinshipRequest.FindPathBetween("@I3@", "@I1@");
         dialogs.boxes.clear();
         // The computation sorted the individuals.
         main.lvwIn.SortBy(In::ID, 0);
@@ -52,8 +52,8 @@ struct Lists : testing::Test, TestMain {
     }
     /// A hit test in a table that gets the focus.
     void Point(Table& table, std::int32_t row, std::int32_t column) {
-        main.TableGotFocus(table);
-        main.HitTest(row, column);
+        main.tabs.TableGotFocus(table);
+        main.lists.HitTest(row, column);
     }
 };
 

@@ -13,7 +13,7 @@ TEST_F(Lists, TheNextMarkedRowIsShownAndTheSortEnds) {
     for (int i = 0; i < 5; ++i) main.mnuNextSelected.Click();
     EXPECT_EQ(seen, (std::vector<std::int32_t>{1, 3, 4}));
     EXPECT_EQ(Marks(main.lvwIn), "b.bs.");
-    EXPECT_EQ(main.lHitRow, 3);
+    EXPECT_EQ(main.lists.lHitRow, 3);
     EXPECT_FALSE(main.lvwIn.Sorted());
 }
 
@@ -33,7 +33,7 @@ TEST_F(Lists, CopiesTheMarkedRows) {
     main.chkIncludeHeaders.SetChecked(false);
     main.mnuCopy.Click();
     EXPECT_EQ(desktop.clipboard, "Jean-Pierre Dupont  Paris      \r\nAnne        Dupont  PARIS      \r\n");
-    EXPECT_EQ(main.DragText(), desktop.clipboard);
+    EXPECT_EQ(main.lists.DragText(), desktop.clipboard);
     // The links of a kinship search, which nothing has measured.
     Point(main.lvwXref1, 0, 0);
     Mark(main.lvwXref1, "s");
@@ -45,7 +45,7 @@ TEST_F(Lists, CopiesTheMarkedRows) {
     desktop.clipboard = "before";
     main.lvwActiveListView = nullptr;
     main.mnuCopy.Click();
-    EXPECT_EQ(main.DragText(), "");
+    EXPECT_EQ(main.lists.DragText(), "");
     EXPECT_EQ(desktop.clipboard, "before");
 }
 
@@ -66,14 +66,14 @@ TEST_F(Lists, ColumnsAreSwitchedAndResetTogether) {
     EXPECT_EQ(dialogs.boxes[0].title, "SwiftRoll (v3.4.0) - Sélection Colonnes"_t);
     // Shift and a click switches one.
     desktop.shiftIsDown = true;
-    main.lvw_ColumnClick(family, family.ColumnAt(Family::IDWife));
+    main.lists.lvw_ColumnClick(family, family.ColumnAt(Family::IDWife));
     EXPECT_EQ(icons(family), "OfOfOnOfOfOf");
     main.mnuColSelect.Click();
     EXPECT_EQ(icons(family), "OnOnOnOnOnOn");
     EXPECT_EQ(dialogs.boxes.size(), 1u);
     desktop.shiftIsDown = false;
     family.SetSorted(false);
-    main.lvw_ColumnClick(family, family.ColumnAt(Family::IDWife));
+    main.lists.lvw_ColumnClick(family, family.ColumnAt(Family::IDWife));
     EXPECT_EQ(family.ColumnAt(Family::IDWife).Icon, "OnDw");
     Point(main.lvwOut, 0, 0);
     const Text before = icons(main.lvwOut);
@@ -97,8 +97,8 @@ TEST_F(Lists, AJumpGoesToWhatTheCellNames) {
             const char target = c.targets[column];
             // Links are sorted or not; the first one that leads from the father to the mother is meant.
             if (&c.table == &main.lvwXref)
-                main.HitTest(main.lvwXref.Item("@I1@@I2@").Index() - 1, main.lHitCol.Section());
-            main.lvw_DblClick(c.table);
+                main.lists.HitTest(main.lvwXref.Item("@I1@@I2@").Index() - 1, main.lists.lHitCol.Section());
+            main.lists.lvw_DblClick(c.table);
             Text marked = Marks(main.lvwIn) + Marks(main.lvwFamily);
             Text expected(6, '.');
             if (target != '.') expected[target == 'F' ? 5u : static_cast<std::size_t>(target - '1')] = 'b';
@@ -115,15 +115,15 @@ TEST_F(Lists, AJumpGoesToWhatTheCellNames) {
     main.SSTab1 = Tab::Family;
     main.lvwFamily.Item(1).SetCell(Family::IDHusb, TextView());
     Point(main.lvwFamily, 0, Family::IDHusb - 1);
-    main.lvw_DblClick(main.lvwFamily);
+    main.lists.lvw_DblClick(main.lvwFamily);
     EXPECT_EQ(Marks(main.lvwIn), "b..c.");
     EXPECT_EQ(main.SSTab1, Tab::Family);
     main.bFamiliesRead = false;
-    main.HitTest(0, Family::IDWife - 1);
-    main.lvw_DblClick(main.lvwFamily);
-    main.HitTest(99, Family::IDWife - 1);
+    main.lists.HitTest(0, Family::IDWife - 1);
+    main.lists.lvw_DblClick(main.lvwFamily);
+    main.lists.HitTest(99, Family::IDWife - 1);
     main.bFamiliesRead = true;
-    main.lvw_DblClick(main.lvwFamily);
+    main.lists.lvw_DblClick(main.lvwFamily);
     EXPECT_EQ(Marks(main.lvwIn), "b..c.");
     EXPECT_TRUE(dialogs.boxes.empty());
 }
@@ -132,12 +132,12 @@ TEST_F(Lists, ADoubleClickInTheListMarksTheGroups) {
     ASSERT_EQ(RowsOf(main.lvwOut).size(), 3u);
     Mark(main.lvwOut, "c.s");
     Point(main.lvwOut, 1, 0);
-    main.lvw_DblClick(main.lvwOut);
+    main.lists.lvw_DblClick(main.lvwOut);
     EXPECT_EQ(Marks(main.lvwIn), "bbbb.");
     EXPECT_EQ(main.lvwActiveListView, &main.lvwOut);
     Mark(main.lvwIn, ".....");
     Point(main.lvwOut, 1, -1);
-    main.lvw_DblClick(main.lvwOut);
+    main.lists.lvw_DblClick(main.lvwOut);
     EXPECT_EQ(Marks(main.lvwIn), ".....");
 }
 
@@ -163,7 +163,7 @@ TEST_F(Lists, ATabGivesTheFocusToWhatItIsFor) {
         main.txtMaxLinks.SetText("0");
     }
     EXPECT_EQ(main.txtMaxLinks.Get(), "0");
-    main.TableGotFocus(main.lvwXref1);
+    main.tabs.TableGotFocus(main.lvwXref1);
     EXPECT_EQ(main.txtMaxLinks.Get(), "1") << "it lost the focus";
 }
 

@@ -168,7 +168,7 @@ struct Favourites : ParameterSets {
     ComboBox& Combo() { return main.cboFavorites[0]; }
     void Add(std::int32_t row) {
         main.lvwIn.SetCurrent(main.lvwIn.Item(row));
-        main.mnuAddFavorite_Click();
+        main.favorites.mnuAddFavorite_Click();
     }
     /// As a user who goes to the combo, writes a text and leaves it.
     void Edit(TextView text) { Combo().SetFromText(text); }
@@ -192,9 +192,9 @@ TEST_F(Favourites, ARowHasOneAndItsKeyStays) {
     EXPECT_TRUE(main.cboFavorites[4].Items().empty());
     main.ShowTab(Tab::Family);
     EXPECT_TRUE(main.cboFavorites[4].Visible && !Combo().Visible);
-    main.mnuAddFavorite_Click();  // no current row
+    main.favorites.mnuAddFavorite_Click();  // no current row
     main.ShowTab(Tab::Options);
-    main.mnuAddFavorite_Click();
+    main.favorites.mnuAddFavorite_Click();
     EXPECT_TRUE(main.cboFavorites[4].Visible);
     EXPECT_TRUE(dialogs.boxes.size() == 1) << "only the question of the read";
 }

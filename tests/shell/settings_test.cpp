@@ -108,7 +108,7 @@ void SaveAndCompare(const std::function<std::shared_ptr<SettingsStore>()>& open)
         } else {
             for (const auto& [name, value] : Everything(run.main)) EXPECT_EQ(value, before[name]) << name;
         }
-        run.main.SaveAllControls();
+        run.main.savedSettings.SaveAllControls();
         EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
         EXPECT_EQ(store->GetSetting("Product", run.main.sVersion, ""), std::to_string(generation + 1));
         EXPECT_EQ(store->GetSetting("Product", "LastRun", ""), "22/11/2026 14:05:09");
@@ -133,10 +133,10 @@ TEST_F(SavedSettings, StandUnderTheNamesOfTheirControls) {
         run.main.cboGedIn.SetItems({"a", "  ", "b"});
         run.main.cboFavorites[5].SetItems({"k^"});
         run.main.lvwOut.ColumnAt(Out::Number).Key.clear();
-        run.main.frmKinshipSelect.chkInverted.SetChecked(true);
+        run.main.kinshipDialog.chkInverted.SetChecked(true);
         run.main.Place = {-32000, 7, 0, 800, true, true};
         Section("Settings\\frmMain\\cboGedIn") = {{"002", " "}, {"004", "B"}, {"010", "unknown"}};
-        run.main.SaveAllControls();
+        run.main.savedSettings.SaveAllControls();
     });
     const TextView array = "°"_t;
     EXPECT_EQ(Section("Settings\\frmMain\\chkTips"), (Values{{"CheckOrOptionBox", "0"}}));
@@ -167,15 +167,15 @@ TEST_F(SavedSettings, PlacesOfWindowsAreMadeUsable) {
         {"WinTop", "-450"}, {"WinLeft", "300"}, {"WinWidth", "900"}, {"Other", "x"}};
     Section("Settings\\frmKinshipSelect") = {{"WinWidth", "9000"}};
     OneRun run(store);
-    run.main.frmKinshipSelect.Place.resizable = false;
-    run.main.frmKinshipSelect.Place.width = 500;
+    run.main.kinshipDialog.Place.resizable = false;
+    run.main.kinshipDialog.Place.width = 500;
     run.Start();
     EXPECT_EQ(run.main.Place.top, 0);
     EXPECT_EQ(run.main.Place.left, 20);
     EXPECT_EQ(run.main.Place.width, 1000 / 15);
     EXPECT_TRUE(run.main.Place.known);
-    EXPECT_EQ(run.main.frmKinshipSelect.Place.width, 500);
-    EXPECT_FALSE(run.main.frmKinshipSelect.Place.known);
+    EXPECT_EQ(run.main.kinshipDialog.Place.width, 500);
+    EXPECT_FALSE(run.main.kinshipDialog.Place.known);
 }
 
 TEST_F(SavedSettings, HistoriesWithoutAFirstItemAreLeftOut) {
@@ -259,7 +259,7 @@ TEST_F(SavedSettings, AValueThatMeansNothingIsPassedOverAndKept) {
         EXPECT_TRUE(run.main.chkTips.Checked() && run.main.chkInvertNames.Checked());
         EXPECT_EQ(run.main.txtKinV.Get(), "31");
         run.main.txtKinH.SetText("7");
-        run.main.SaveAllControls();
+        run.main.savedSettings.SaveAllControls();
     });
     EXPECT_EQ(Section("Settings\\frmMain")["WinWidth"], "large");
     EXPECT_EQ(Section("Settings\\frmMain\\chkTips")["CheckOrOptionBox"], "perhaps");
@@ -277,7 +277,7 @@ TEST_F(SavedSettings, AValueThatMeansNothingIsPassedOverAndKept) {
         run.main.lbOuputPlacesOrder.Move(2, 0);
         run.main.lvwXref1.MoveColumn(Xref1::Indi2, 1);
         run.main.Place.width = 1000;
-        run.main.SaveAllControls();
+        run.main.savedSettings.SaveAllControls();
     });
     Start([](OneRun& run) {
         EXPECT_TRUE(run.dialogs.boxes.empty()) << run.dialogs.boxes.front().text;
@@ -306,9 +306,9 @@ TEST_F(SavedSettings, TwoProgramsAtATimeKeepWhatBothDid) {
     first.main.chkMaxLinks.SetChecked(true);
     first.main.cboGedIn.SetItems({"m", "A", "b"});
     first.main.cboGedOut.SetFromText("o9");
-    second.main.SaveAllControls();
+    second.main.savedSettings.SaveAllControls();
     // A second save of the same run meets the same.
-    for (int i = 0; i < 2; ++i) first.main.SaveAllControls();
+    for (int i = 0; i < 2; ++i) first.main.savedSettings.SaveAllControls();
     EXPECT_EQ(Section("Settings\\frmMain\\cboGedIn"), (Values{{"000", "m"}, {"001", "A"}, {"002", "n"}}));
     EXPECT_EQ(Section("Settings\\frmMain\\cboFavorites°5"_t), (Values{{"000", "k^new"}}));
     const Values& out = Section("Settings\\frmMain\\cboGedOut");
@@ -326,7 +326,7 @@ TEST_F(SavedSettings, SelectorsKeepTheirItemsAndStoresThatGrewShrink) {
     const Text section = "Settings\\frmFind\\cboColumns" + Text("°"_t) + "0";
     Start([&](OneRun& run) {
         for (int generation = 0; generation < 30; ++generation) {
-            for (const Text& item : run.main.frmFind.cboColumns[0].Items()) {
+            for (const Text& item : run.main.findDialog.cboColumns[0].Items()) {
                 const std::string number = std::to_string(Section(section).size());
                 Section(section)[std::string(3 - std::min<std::size_t>(3, number.size()), '0') + number] =
                     item;
@@ -337,9 +337,9 @@ TEST_F(SavedSettings, SelectorsKeepTheirItemsAndStoresThatGrewShrink) {
     Section(section)["other"] = "x";
     for (int generation = 0; generation < 2; ++generation) {
         Start([&](OneRun& run) {
-            EXPECT_EQ(run.main.frmFind.cboColumns[0].Items().size(), 17u);
-            EXPECT_EQ(run.main.frmFind.cboColumns[0].ListIndex(), 0);
-            run.main.SaveAllControls();
+            EXPECT_EQ(run.main.findDialog.cboColumns[0].Items().size(), 17u);
+            EXPECT_EQ(run.main.findDialog.cboColumns[0].ListIndex(), 0);
+            run.main.savedSettings.SaveAllControls();
             EXPECT_EQ(Section(section).size(), 18u);
         });
     }
@@ -354,7 +354,7 @@ TEST_F(SavedSettings, TheNoticeOfADamagedStoreOutlivesTheCheckOfUpdates) {
 }
 
 TEST_F(SavedSettings, ASaveThatFailsLeavesTheFormerOnesWhole) {
-    Start([](OneRun& run) { run.main.SaveAllControls(); });
+    Start([](OneRun& run) { run.main.savedSettings.SaveAllControls(); });
     const auto before = store.sections;
     Start([&](OneRun& run) {
         ChangeEverything(run.main);
@@ -362,14 +362,14 @@ TEST_F(SavedSettings, ASaveThatFailsLeavesTheFormerOnesWhole) {
         for (const int room : {1, 40, 200}) {
             run.dialogs.boxes.clear();
             store.room = room;
-            run.main.SaveAllControls();
+            run.main.savedSettings.SaveAllControls();
             EXPECT_EQ(store.sections, before) << room;
             ASSERT_FALSE(run.dialogs.boxes.empty());
             EXPECT_NE(run.dialogs.boxes.back().text.find("|Forms=frmMain/sName="), Text::npos);
             EXPECT_LE(run.dialogs.boxes.size(), 2u);
         }
         store.room = -1;
-        run.main.SaveAllControls();
+        run.main.savedSettings.SaveAllControls();
         EXPECT_NE(store.sections, before);
     });
 }

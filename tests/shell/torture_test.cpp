@@ -89,7 +89,7 @@ class Monkey : public Dialogs, public EventPump {
         main.cmdLoad.Click();
         main.cmdCalcOutput.Click();
         // Without a search the links of the last one stay.
-        if (!main.FindPathBetween("@I1@", "@I2@")) main.lvwXref1.Clear();
+        if (!main.kinshipRequest.FindPathBetween("@I1@", "@I2@")) main.lvwXref1.Clear();
         std::vector<Text> result;
         for (Table* table : main.All()) {
             for (const Text& row : RowsOf(*table)) result.push_back(Concat({table->Name(), " ", row}));
@@ -104,8 +104,9 @@ class Monkey : public Dialogs, public EventPump {
     void LookAround(int acts) {
         ports_.files.contents = {{"in.ged", file}};
         main.cboGedIn.SetText("in.ged");
-        for (const auto& work : {std::function<void()>([&] { main.cmdLoad.Click(); }),
-                                 std::function<void()>([&] { main.FindPathBetween("@I1@", "@I2@"); })}) {
+        for (const auto& work :
+             {std::function<void()>([&] { main.cmdLoad.Click(); }),
+              std::function<void()>([&] { main.kinshipRequest.FindPathBetween("@I1@", "@I2@"); })}) {
             acts_ = acts;
             isCalm_ = false;
             work();
@@ -119,7 +120,7 @@ class Monkey : public Dialogs, public EventPump {
     void CheckAtRest() {
         EXPECT_FALSE(main.bWaitCursor);
         EXPECT_FALSE(main.bTablesLocked);
-        EXPECT_FALSE(main.modKinship.IsRunning());
+        EXPECT_FALSE(main.kinshipSearch.IsRunning());
         EXPECT_TRUE(main.cmdLoad.Enabled && main.mnuReadGedCom.Enabled && main.cboLoad.Enabled);
         EXPECT_TRUE(internalFailure.empty()) << internalFailure;
         // No menu is open, so nothing is painted.
@@ -245,7 +246,7 @@ void Monkey::DoAnything() {
             if (dice_.OneIn(2)) {
                 main.cmdFindPath.Click();
             } else {
-                main.FindPathBetween("@I1@", "@I2@");
+                main.kinshipRequest.FindPathBetween("@I1@", "@I2@");
             }
             break;
         case 4:
@@ -304,8 +305,8 @@ void Monkey::WorkWithATable() {
     const auto tables = main.All();
     Table& table = *dice_.Pick(tables);
     story += table.Name() + " ";
-    main.TableGotFocus(table);
-    main.HitTest(dice_.Place(table.Count()), dice_.Place(table.ColumnCount()));
+    main.tabs.TableGotFocus(table);
+    main.lists.HitTest(dice_.Place(table.Count()), dice_.Place(table.ColumnCount()));
     for (int i = dice_.Below(4); i > 0 && table.Count() > 0; --i) {
         Row row = table.Item(dice_.Below(table.Count()) + 1);
         row.SetSelected(dice_.OneIn(2));
@@ -317,13 +318,13 @@ void Monkey::WorkWithATable() {
     switch (dice_.Below(7)) {
         case 0:
             ports_.desktop.shiftIsDown = dice_.OneIn(3);
-            return main.lvw_ColumnClick(table, table.ColumnAt(column));
+            return main.lists.lvw_ColumnClick(table, table.ColumnAt(column));
         case 1:
             return table.MoveColumn(column, 1);
         case 2:
-            return main.lvw_DblClick(table);
+            return main.lists.lvw_DblClick(table);
         case 3:
-            main.DragText();
+            main.lists.DragText();
             return;
         case 4:
             key.code = ListKey::Code::Letter;
@@ -331,22 +332,22 @@ void Monkey::WorkWithATable() {
             key.ctrl = true;
             key.alt = dice_.OneIn(8);
             story += key.letter;
-            return main.lvw_KeyDown(key);
+            return main.contextMenu.lvw_KeyDown(key);
         default:
-            return main.lvw_MouseUp(MouseButton::Right);
+            return main.contextMenu.lvw_MouseUp(MouseButton::Right);
     }
 }
 
 void Monkey::WorkWithTheTabs() {
     main.ShowTab(static_cast<Tab>(dice_.Below(9)));
-    if (dice_.OneIn(2)) main.SSTab1_DblClick();
-    if (dice_.OneIn(3)) main.SSTab1_RightClick();
+    if (dice_.OneIn(2)) main.lists.SSTab1_DblClick();
+    if (dice_.OneIn(3)) main.contextMenu.SSTab1_RightClick();
 }
 
 void Monkey::Search() {
-    main.frmFind.Activate();
-    ChangeAnything(main.frmFind);
-    ClickAnything(main.frmFind);
+    main.findDialog.Activate();
+    ChangeAnything(main.findDialog);
+    ClickAnything(main.findDialog);
 }
 
 void Monkey::TakeSettings(const frmMain& other) {

@@ -16,19 +16,19 @@ struct Updates : testing::Test {
         t.desktop.onDownload = [this, content = Text(manifest)](TextView file) {
             t.files.contents[Text(file)] = content;
         };
-        if (silent) return t.main.frmUpdates.GetUpdates(true);
+        if (silent) return t.main.updates.GetUpdates(true);
         t.main.mnuCheckUpdate.Click();
     }
     Updates() { t.main.sWebAddress = "https://maker.test"; }
     /// Texts of the nodes of the first level, and those below a node.
     std::vector<Text> Versions() {
         std::vector<Text> texts;
-        for (const auto& node : t.main.frmUpdates.tvwUpdates.Nodes()) texts.push_back(node->text);
+        for (const auto& node : t.main.updates.tvwUpdates.Nodes()) texts.push_back(node->text);
         return texts;
     }
     std::vector<Text> Below(std::size_t node) {
         std::vector<Text> texts;
-        for (const UpdateNode& child : t.main.frmUpdates.tvwUpdates.Nodes().at(node)->children) {
+        for (const UpdateNode& child : t.main.updates.tvwUpdates.Nodes().at(node)->children) {
             texts.push_back(child.text);
         }
         return texts;
@@ -58,25 +58,25 @@ TEST_F(Updates, ShowTheNewestVersionFirstWithWhatItChanged) {
         "[v2]\r\nDESCR=Second section of that name\r\n");
     EXPECT_EQ(Versions(), Rows({"SwiftRoll", "3.5.0 - 2026 - New", "3.4.0 - 2025 - Old"}));
     EXPECT_EQ(Below(0), Rows({"            Hello", "            !Plain"}));
-    EXPECT_EQ(t.main.frmUpdates.tvwUpdates.Nodes()[0]->children[0].look.foreColour, 255u);
-    EXPECT_EQ(t.main.frmUpdates.tvwUpdates.Nodes()[0]->children[1].look.foreColour, 0u);
+    EXPECT_EQ(t.main.updates.tvwUpdates.Nodes()[0]->children[0].look.foreColour, 255u);
+    EXPECT_EQ(t.main.updates.tvwUpdates.Nodes()[0]->children[1].look.foreColour, 0u);
     EXPECT_EQ(Below(1), (std::vector<Text>{"Version complète       : b.zip (2)"_t.data(),
                                            "Version de Mise-à-jour : <Aucune>"_t.data()}));
-    EXPECT_TRUE(t.main.frmUpdates.tvwUpdates.Nodes()[1]->look.expanded);
-    EXPECT_EQ(t.main.frmUpdates.lblDownloadBeta.Caption, "beta.zip  -  3 Mo");
-    EXPECT_EQ(t.main.frmUpdates.lblDownloadLastFull.Tag, "http://x.example/files/b.zip");
-    EXPECT_EQ(t.main.frmUpdates.lblDownloadLastUpd.Caption, "Pas de version \"Màj\""_t);
-    EXPECT_TRUE(t.main.frmUpdates.Caption.ends_with(" - Une nouvelle version est disponible."));
-    t.main.frmUpdates.lblDownloadLastFull.Click();
+    EXPECT_TRUE(t.main.updates.tvwUpdates.Nodes()[1]->look.expanded);
+    EXPECT_EQ(t.main.updates.lblDownloadBeta.Caption, "beta.zip  -  3 Mo");
+    EXPECT_EQ(t.main.updates.lblDownloadLastFull.Tag, "http://x.example/files/b.zip");
+    EXPECT_EQ(t.main.updates.lblDownloadLastUpd.Caption, "Pas de version \"Màj\""_t);
+    EXPECT_TRUE(t.main.updates.Caption.ends_with(" - Une nouvelle version est disponible."));
+    t.main.updates.lblDownloadLastFull.Click();
     EXPECT_EQ(t.desktop.opened.back(), "http://x.example/files/b.zip");
 }
 
 TEST_F(Updates, ASilentCheckSpeaksOnlyOfWhatIsNewer) {
     Check("[-SwiftRoll]\r\nVERS_00=a\r\n[a]\r\nVERS=3.4.0 b2\r\n", true);
-    EXPECT_FALSE(t.main.frmUpdates.Visible());
+    EXPECT_FALSE(t.main.updates.Visible());
     EXPECT_EQ(t.main.pnlMessage.Get(), "Vous avez la dernière version."_t);
     Check("[-SwiftRoll]\r\nVERS_00=a\r\n[a]\r\nVERS=3.4.1\r\n", true);
-    EXPECT_TRUE(t.main.frmUpdates.Visible());
+    EXPECT_TRUE(t.main.updates.Visible());
     EXPECT_TRUE(t.dialogs.boxes.empty());
 }
 
@@ -112,7 +112,7 @@ TEST_F(Updates, AListThatCannotBeReadDoesNotEndAStart) {
         CheckingStart start(Concat({"[-SwiftRoll]\nVERS_00=a\n[a]\nVERS=", version, "\n"}));
         EXPECT_FALSE(start.main.bStarting);
         EXPECT_TRUE(start.dialogs.boxes.empty());
-        EXPECT_FALSE(start.main.frmUpdates.Visible());
+        EXPECT_FALSE(start.main.updates.Visible());
         EXPECT_EQ(start.main.pnlMessage.Get(), "Vérification impossible."_t);
         const Text& log = start.files.contents["/data/SwiftRoll/SwiftRoll.log"];
         EXPECT_NE(log.find("SwiftRoll (v3.4.0) - Erreur \"GetUpdates : "), Text::npos) << log;
@@ -124,12 +124,12 @@ TEST_F(Updates, VersionsBeyondAllKeysAreShownButNeverNewer) {
         const Text section = Concat({"[b]\nVERS=", version, "\nDATE=2030\nDESCR=Far\nFILE=far.zip\n"});
         CheckingStart start(Concat({"[-SwiftRoll]\nVERS_00=b\n", section}));
         EXPECT_EQ(start.main.pnlMessage.Get(), "Vous avez la dernière version."_t);
-        EXPECT_FALSE(start.main.frmUpdates.Visible());
+        EXPECT_FALSE(start.main.updates.Visible());
         Check(Concat({"[-SwiftRoll]\nDIR_FILE=https://maker.test/\nVERS_00=a\nVERS_01=b\n",
                       "[a]\nVERS=3.5.0\nFILE=a.zip\n", section}));
         EXPECT_EQ(Versions().at(1), Concat({version, " - 2030 - Far"}));
-        EXPECT_FALSE(t.main.frmUpdates.tvwUpdates.Nodes()[1]->look.expanded);
-        EXPECT_EQ(t.main.frmUpdates.lblDownloadLastFull.Tag, "https://maker.test/a.zip");
+        EXPECT_FALSE(t.main.updates.tvwUpdates.Nodes()[1]->look.expanded);
+        EXPECT_EQ(t.main.updates.lblDownloadLastFull.Tag, "https://maker.test/a.zip");
     }
     EXPECT_TRUE(t.dialogs.boxes.empty());
 }
@@ -140,9 +140,8 @@ TEST_F(Updates, OnlyAddressesOfTheWebBecomeLinks) {
         Check(Concat({"[-SwiftRoll]\nVERS_00=a\nURL_BETA=", address, "\nDIR_FILE=", address,
                       "\n[a]\nVERS=3.5.0\nFILE=/f\nFILE_UPD=/u\n"}));
         const std::size_t opened = t.desktop.opened.size();
-        for (DownloadLabel* label :
-             {&t.main.frmUpdates.lblDownloadBeta, &t.main.frmUpdates.lblDownloadLastFull,
-              &t.main.frmUpdates.lblDownloadLastUpd}) {
+        for (DownloadLabel* label : {&t.main.updates.lblDownloadBeta, &t.main.updates.lblDownloadLastFull,
+                                     &t.main.updates.lblDownloadLastUpd}) {
             label->Click();
             EXPECT_FALSE(label->Caption.starts_with("Pas de ")) << "it is text";
             EXPECT_EQ(label->Tag, "");
@@ -150,7 +149,7 @@ TEST_F(Updates, OnlyAddressesOfTheWebBecomeLinks) {
         EXPECT_EQ(t.desktop.opened.size(), opened) << address;
     }
     Check("[-SwiftRoll]\nVERS_00=a\nURL_BETA=HTTPS://x.test/b\n");
-    t.main.frmUpdates.lblDownloadBeta.Click();
+    t.main.updates.lblDownloadBeta.Click();
     EXPECT_EQ(t.desktop.opened.back(), "HTTPS://x.test/b");
 }
 
@@ -160,7 +159,7 @@ TEST_F(Updates, WithoutASiteNothingIsFetched) {
     EXPECT_TRUE(unset.desktop.opened.empty());
     EXPECT_EQ(unset.main.pnlMessage.Get(),
               "Aucun site n'est défini pour les mises-à-jour. Vérification impossible."_t);
-    EXPECT_EQ(unset.main.frmUpdates.tvwUpdates.Nodes().at(0)->children.at(0).text,
+    EXPECT_EQ(unset.main.updates.tvwUpdates.Nodes().at(0)->children.at(0).text,
               "Aucun site n'est défini pour les mises-à-jour."_t);
     t.main.mnuCheckUpdate.Click();
     EXPECT_EQ(t.desktop.opened, Rows({"https://maker.test/Updates.ini"}));

@@ -13,8 +13,8 @@ TEST(WaitCursor, OutlastsTheCommandsWithinACommand) {
     TestMain t;
     const std::pair<const char*, std::function<void()>> commands[] = {
         {"list", [&] { t.main.cmdCalcOutput.Click(); }},
-        {"marks", [&] { t.main.modSelectionIn.Add_Remove_Selection(true, "I"); }},
-        {"kinship", [&] { t.main.FindPathBetween("@I1@", "@I2@"); }},
+        {"marks", [&] { t.main.selection.Add_Remove_Selection(true, "I"); }},
+        {"kinship", [&] { t.main.kinshipRequest.FindPathBetween("@I1@", "@I2@"); }},
         {"drawing", [&] { t.main.cmdPrintKinship.Operation(); }},
     };
     for (const auto& [name, command] : commands) {

@@ -17,7 +17,7 @@ class Preview : public WindowTest {
     void StartWithPaths() {
         Start();
         Read(kFamily);
-        program_->ThePresenter().Act([this] { Main().FindPathBetween("@I1@", "@I5@"); });
+        program_->ThePresenter().Act([this] { Main().kinshipRequest.FindPathBetween("@I1@", "@I5@"); });
     }
     ui::PreviewDialog& Dialog() {
         return *dynamic_cast<ui::PreviewDialog*>(Window().findChild<QDialog*>(QStringLiteral("frmPreview")));
@@ -73,12 +73,12 @@ TEST_F(Preview, ALargeDrawingTakesSheetsOrFitsOne) {
     });
     Print();
     EXPECT_GT(Dialog().Sheets().Count(), 3);
-    EXPECT_EQ(Main().frmPreview.PageCount(), Dialog().Sheets().Count());
-    program_->ThePresenter().Act([this] { Main().frmPreview.cmdNextPage.Click(); });
-    EXPECT_EQ(Main().frmPreview.Page(), 2);
-    program_->ThePresenter().Act([this] { Main().frmPreview.chkFitToPage.SetChecked(true); });
+    EXPECT_EQ(Main().preview.PageCount(), Dialog().Sheets().Count());
+    program_->ThePresenter().Act([this] { Main().preview.cmdNextPage.Click(); });
+    EXPECT_EQ(Main().preview.Page(), 2);
+    program_->ThePresenter().Act([this] { Main().preview.chkFitToPage.SetChecked(true); });
     EXPECT_EQ(Dialog().Sheets().Count(), 1);
-    EXPECT_EQ(Main().frmPreview.Page(), 1);
+    EXPECT_EQ(Main().preview.Page(), 1);
 }
 
 TEST_F(Preview, OpensOnTheFirstPageAndTellsOfAPrinterThatFails) {
@@ -86,7 +86,7 @@ TEST_F(Preview, OpensOnTheFirstPageAndTellsOfAPrinterThatFails) {
     program_->ThePresenter().Act([this] {
         Main().txtKinHeight.SetText("900");
         Main().txtKinWidth.SetText("1500");
-        Main().frmPreview.SetZoom(75);
+        Main().preview.SetZoom(75);
     });
     Print();
     Click("cmdNextPage");
@@ -94,7 +94,7 @@ TEST_F(Preview, OpensOnTheFirstPageAndTellsOfAPrinterThatFails) {
     Click("cmdClose");
     Print();
     EXPECT_EQ(Find<QLineEdit>("txtPageNr").text(), QStringLiteral("1"));
-    EXPECT_EQ(Main().frmPreview.Zoom(), 75);
+    EXPECT_EQ(Main().preview.Zoom(), 75);
     QPrinter printer;
     printer.setOutputFileName(Path(QStringLiteral("no/such/folder/a.pdf")));
     OnBox(QMessageBox::Ok);
@@ -107,15 +107,15 @@ TEST_F(Preview, KeepsItsZoomFromOneRunToTheNext) {
     StartWithPaths();
     Print();
     for (int i = 0; i < 3; ++i) Click("Command1");
-    const int zoom = Main().frmPreview.Zoom();
+    const int zoom = Main().preview.Zoom();
     ASSERT_GT(zoom, 100);
-    const std::vector<Text> zooms = Main().frmPreview.cboZoom.Items();
+    const std::vector<Text> zooms = Main().preview.cboZoom.Items();
     for (int run = 0; run < 2; ++run) {
         Click("cmdExit");
         program_ = std::make_unique<ui::DesktopApplication>();
         Start();
-        EXPECT_EQ(Main().frmPreview.Zoom(), zoom);
-        EXPECT_EQ(Main().frmPreview.cboZoom.Items(), zooms);
+        EXPECT_EQ(Main().preview.Zoom(), zoom);
+        EXPECT_EQ(Main().preview.cboZoom.Items(), zooms);
     }
 }
 

@@ -16,7 +16,7 @@ TEST_F(Writing, AFullDiskLeavesTheBeginningAndIsKnown) {
             EXPECT_EQ(Write(format, kBareHtml), whole.substr(0, room));
             EXPECT_FALSE(main.bWaitCursor);
             if (format == kXml) {
-                EXPECT_FALSE(main.bWriteComplete) << room;
+                EXPECT_FALSE(main.writing.bWriteComplete) << room;
                 EXPECT_TRUE(Told().empty());
                 continue;
             }
@@ -27,7 +27,7 @@ TEST_F(Writing, AFullDiskLeavesTheBeginningAndIsKnown) {
         // What failed once is forgotten at the next writing.
         files.room = whole.size();
         EXPECT_EQ(Write(format, kBareHtml), whole);
-        EXPECT_TRUE(main.bWriteComplete);
+        EXPECT_TRUE(main.writing.bWriteComplete);
         files.room = static_cast<std::size_t>(-1);
     }
 }

@@ -1,5 +1,5 @@
-// The tool tips of the tables.
-#include "shell/frm_main.h"
+#include "shell/list_tips.h"
+
 #include "text/edit.h"
 #include "text/literal.h"
 
@@ -40,21 +40,25 @@ Text ListTip() {
                   "des colonnes qui se trouvent avant la colonne 'Nbre' (mis à part les dates)."_t});
 }
 
-}  // namespace
-
-void frmMain::AttachTips() {
-    for (Table* table : Shown()) {
-        const TextView columns =
-            "Shift+Click sur l'entête de colonne = Inclure ou non une colonne lors du Copier/Coller."_t;
-        if (table != &lvwOut) table->SetBaseTip(Concat({CommonTip(), columns, kLineEnd, table->BaseTip()}));
-    }
-    chkTips.OnClick = [this] { chkTips_Click(); };
-    chkTips_Click();
+/// The tip of the list is long, and the user can do without it.
+void ShowListTip(Application& app) {
+    Table& list = app.lvwOut;
+    list.Tip =
+        app.chkTips.Checked() ? Concat({CommonTip(), list.BaseTip(), kLineEnd, kLineEnd, ListTip()}) : Text();
 }
 
-void frmMain::chkTips_Click() {
-    lvwOut.Tip =
-        chkTips.Checked() ? Concat({CommonTip(), lvwOut.BaseTip(), kLineEnd, kLineEnd, ListTip()}) : Text();
+}  // namespace
+
+void AttachTips(Application& app) {
+    for (Table* table : app.Shown()) {
+        const TextView columns =
+            "Shift+Click sur l'entête de colonne = Inclure ou non une colonne lors du Copier/Coller."_t;
+        if (table != &app.lvwOut) {
+            table->SetBaseTip(Concat({CommonTip(), columns, kLineEnd, table->BaseTip()}));
+        }
+    }
+    app.chkTips.OnClick = [&app] { ShowListTip(app); };
+    ShowListTip(app);
 }
 
 }  // namespace swiftroll

@@ -1,5 +1,5 @@
-// Favourites: rows of a table by their key, with a text of the user's behind it.
-#include "shell/frm_main.h"
+#include "shell/favorites.h"
+
 #include "shell/history.h"
 #include "shell/ignoring_failures.h"
 #include "text/edit.h"
@@ -18,41 +18,45 @@ TextView KeyPart(TextView sText) { return sText.substr(0, GetFavoritePos(sText))
 
 }  // namespace
 
-void frmMain::BindFavorites() {
-    for (std::size_t i = 0; i < cboFavorites.size(); ++i) {
-        cboFavorites[i].OnGotFocus = cboFavorites[i].OnClick = [this, i] { cboFavorites_GotFocus(i); };
-        cboFavorites[i].OnLostFocus = [this, i] { cboFavorites_LostFocus(i); };
+Favorites::Favorites(Application& app, Command& mnuAddFavorite, Command& cmdGotoFavorite) : app_(app) {
+    for (std::size_t i = 0; i < app_.cboFavorites.size(); ++i) {
+        app_.cboFavorites[i].OnGotFocus =
+            app_.cboFavorites[i].OnClick = [this, i] { cboFavorites_GotFocus(i); };
+        app_.cboFavorites[i].OnLostFocus = [this, i] { cboFavorites_LostFocus(i); };
     }
+    mnuAddFavorite.Operation = [this] { mnuAddFavorite_Click(); };
     cmdGotoFavorite.Operation = [this] { cmdGotoFavorite_Click(); };
     ShowFavorites(Tab::In);
 }
 
-/// Brings the combo of a table to the front; the tabs of options leave it as it is.
-void frmMain::ShowFavorites(Tab tab) {
+void Favorites::ShowFavorites(Tab tab) {
     const auto number = static_cast<std::size_t>(tab);
-    if (number >= cboFavorites.size()) return;
-    for (std::size_t i = 0; i < cboFavorites.size(); ++i) cboFavorites[i].Visible = i == number;
+    if (number >= app_.cboFavorites.size()) return;
+    for (std::size_t i = 0; i < app_.cboFavorites.size(); ++i) app_.cboFavorites[i].Visible = i == number;
 }
 
-void frmMain::mnuAddFavorite_Click() {
-    trail.Guard(
+void Favorites::mnuAddFavorite_Click() {
+    app_.trail.Guard(
         "mnuAddFavorite_Click",
         [&] {
-            const auto index = static_cast<std::size_t>(SSTab1);
-            const auto row = lvwActiveListView == nullptr ? std::nullopt : lvwActiveListView->Current();
-            if (!row || index >= cboFavorites.size()) return;
-            cboFavorites[index].SetText(Concat({row->Key(), TextView(&kKeyEnd, 1)}));
+            const auto index = static_cast<std::size_t>(app_.SSTab1);
+            const auto row =
+                app_.lvwActiveListView == nullptr ? std::nullopt : app_.lvwActiveListView->Current();
+            if (!row || index >= app_.cboFavorites.size()) return;
+            app_.cboFavorites[index].SetText(Concat({row->Key(), TextView(&kKeyEnd, 1)}));
             cboFavorites_GotFocus(index);
             cboFavorites_LostFocus(index);
         },
         [] { return Text(); });
 }
 
-void frmMain::cboFavorites_GotFocus(std::size_t Index) { sFavoriteKey_ = KeyPart(cboFavorites[Index].Get()); }
+void Favorites::cboFavorites_GotFocus(std::size_t Index) {
+    sFavoriteKey_ = KeyPart(app_.cboFavorites[Index].Get());
+}
 
-void frmMain::cboFavorites_LostFocus(std::size_t Index) {
-    ComboBox& combo = cboFavorites[Index];
-    trail.Guard(
+void Favorites::cboFavorites_LostFocus(std::size_t Index) {
+    ComboBox& combo = app_.cboFavorites[Index];
+    app_.trail.Guard(
         "cboFavorites_LostFocus",
         [&] {
             const Text text = combo.Get();
@@ -66,7 +70,7 @@ void frmMain::cboFavorites_LostFocus(std::size_t Index) {
 }
 
 /// Of the favourites of one row only the one edited last stays, which stands on top.
-void frmMain::KeepOneFavorite(ComboBox& combo) {
+void Favorites::KeepOneFavorite(ComboBox& combo) {
     std::vector<Text> items;
     for (std::size_t i = 0; i < combo.Items().size(); ++i) {
         const Text& item = combo.Items()[i];
@@ -79,21 +83,21 @@ void frmMain::KeepOneFavorite(ComboBox& combo) {
     if (wasOnTop) combo.SetListIndex(0);
 }
 
-void frmMain::cmdGotoFavorite_Click() {
-    const auto index = static_cast<std::size_t>(SSTab1);
-    if (index >= cboFavorites.size() || lvwActiveListView == nullptr) return;
+void Favorites::cmdGotoFavorite_Click() {
+    const auto index = static_cast<std::size_t>(app_.SSTab1);
+    if (index >= app_.cboFavorites.size() || app_.lvwActiveListView == nullptr) return;
     modCommon::IgnoringFailures([&] {
-        const Text text = cboFavorites[index].Get();
+        const Text text = app_.cboFavorites[index].Get();
         const std::size_t end = GetFavoritePos(text);
         if (end == 0) return;
-        auto row = lvwActiveListView->Find(TextView(text).substr(0, end - 1));
+        auto row = app_.lvwActiveListView->Find(TextView(text).substr(0, end - 1));
         if (!row) return;
         CellLook look = row->Look();
         look.ForeColor = kMagenta;
         look.Bold = true;
         row->SetLook({}, look);
         row->EnsureVisible();
-        if (ports.keyboard.IsShiftDown()) row->SetChecked(true);
+        if (app_.ports.keyboard.IsShiftDown()) row->SetChecked(true);
     });
 }
 

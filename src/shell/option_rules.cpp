@@ -1,8 +1,8 @@
-// Small rules of single options.
+#include "shell/option_rules.h"
+
 #include <algorithm>
 #include <optional>
 
-#include "shell/frm_main.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 
@@ -30,12 +30,12 @@ void CheckLimit(const CheckBox& check, TextBox& limit) {
 
 }  // namespace
 
-void frmMain::BindOptionRules() {
-    txtINDEX.OnLostFocus = [this] {
-        const Text& text = txtINDEX.Get();
-        if (text > "9" || text < "0") txtINDEX.SetText("1");
+void BindOptionRules(OptionRecord& options) {
+    options.txtINDEX.OnLostFocus = [&options] {
+        const Text& text = options.txtINDEX.Get();
+        if (text > "9" || text < "0") options.txtINDEX.SetText("1");
     };
-    txtINDEX.Accepts = [](TextView text) { return WholePart(text).has_value(); };
+    options.txtINDEX.Accepts = [](TextView text) { return WholePart(text).has_value(); };
     const auto bindLimit = [](CheckBox& check, TextBox& limit) {
         limit.Accepts = [](TextView text) { return WholePart(text).value_or(0) >= 1; };
         limit.OnLostFocus = [&] { CheckLimit(check, limit); };
@@ -43,8 +43,8 @@ void frmMain::BindOptionRules() {
             if (check.Checked() && limit.Get().empty()) limit.SetText(kDefaultLimit);
         };
     };
-    bindLimit(chkMaxLinks, txtMaxLinks);
-    bindLimit(chkMaxSpouses, txtMaxSpouses);
+    bindLimit(options.chkMaxLinks, options.txtMaxLinks);
+    bindLimit(options.chkMaxSpouses, options.txtMaxSpouses);
 }
 
 }  // namespace swiftroll

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/application.h"
+#include "shell/main_commands.h"
+
+namespace swiftroll {
+
+/// What a file dialog asks for.
+struct FileRole {
+    TextView title, filterName;
+    Text extension;
+};
+
+/// The five file combos: the dialogs that fill them, the rules of the names in them, and the opening of what
+/// they name.
+class FileCombos {
+  public:
+    FileCombos(Application& app, FileCommands& commands, DisplayCommands& displays);
+
+    /// Asks for a file and puts it in its combo; `bDialogCancelled` tells whether the user wants to go on. To
+    /// save, he is asked about a file that exists.
+    void SelectFile(ComboBox& combo, bool bSave, const FileRole& role);
+    /// Settles the name that stands in a combo: no two of them name one file.
+    void FileCombo_LostFocus(ComboBox& cbo);
+
+  private:
+    bool GetFile(ComboBox& combo, bool bSave, const FileRole& role);
+    bool MayOverwrite(TextView sFile, BoxAnswer& answer);
+    bool CheckFileCbo(ComboBox& cbo);
+    void OpenFile(TextView sFile);
+
+    Application& app_;
+    /// The name that the combo with the focus began with.
+    Text sPrevFile_;
+};
+
+}  // namespace swiftroll

@@ -1,0 +1,72 @@
+#include "shell/gedcom_extract.h"
+
+#include "extract/extract_writer.h"
+#include "shell/file_names.h"
+#include "text/edit.h"
+#include "text/literal.h"
+#include "text/numbers.h"
+
+namespace swiftroll {
+
+GedcomExtract::GedcomExtract(Application& app, ExtractCommands& commands,
+                             const modReadGedcom::LineReader& lines, FileCombos& fileCombos)
+    : app_(app), commands_(commands), lines_(lines) {
+    commands_.cmdSaveGed.Operation = commands_.mnuSaveGed.Operation = [this] { cmdSaveGed_Click(); };
+    commands_.cmdSelectDirGedOut.Operation = [this, &fileCombos] {
+        fileCombos.SelectFile(app_.cboGedOut, true,
+                              {"Choisissez le fichier GEDCOM à sauver"_t, "Gedcom", "ged"});
+    };
+    commands_.cmdCopyGedIn2GedOut.Operation =
+        commands_.mnuCopyGedIn2GedOut.Operation = [this] { cmdCopyGedIn2GedOut_Click(); };
+}
+
+void GedcomExtract::cmdSaveGed_Click() {
+    commands_.cmdSelectDirGedOut.Click();
+    if (app_.bDialogCancelled) return;
+    const Text input = app_.cboGedIn.Get(), output = app_.cboGedOut.Get();
+    if (app_.ports.files.AreSame(input, output)) {
+        app_.Box(" - Extrait GEDCOM"_t,
+                 Concat({"L'extrait écraserait le fichier GEDCOM lu :"_t, kLineEnd, output, kLineEnd,
+                         kLineEnd, "Rien n'a été écrit. Choisissez un autre nom pour la sortie."_t}),
+                 BoxButtons::Ok, BoxIcon::Exclamation);
+        return;
+    }
+    const char* step = "Open";
+    std::unique_ptr<File> out;
+    std::optional<modSaveGed::ExtractWriter> writer;
+    const ScopedFlag wait(app_.bWaitCursor);
+    app_.trail.GuardElse(
+        "cmdSaveGed_Click",
+        [&] {
+            // The input first: without it, nothing of an older output is lost.
+            modSaveGed::ExtractWriter::Input in{app_.ports.files.Open(input, Files::Mode::Read),
+                                                app_.ports.files.Open(input, Files::Mode::Read)};
+            out = app_.ports.files.Open(output, Files::Mode::Write);
+            writer.emplace(app_, lines_, input, std::move(in), *out);
+            step = "Write";
+            writer->Write();
+            step = "Close";
+            out->Close();
+            app_.pnlMessage.Set(Concat({"Extrait écrit : "_t, Decimal(writer->Individuals()),
+                                        " individu(s), ", Decimal(writer->Families()), " famille(s)"}));
+        },
+        [&] {
+            const Text report = Concat({input, "/", output, "/", step});
+            app_.trail.ErrorLog(report);
+            try {
+                // The output stays as far as it was written.
+                if (writer) writer->Finish();
+            } catch (const Failure&) {
+                // The failure that began it was told.
+            }
+        });
+}
+
+void GedcomExtract::cmdCopyGedIn2GedOut_Click() {
+    app_.cboGedOut.SetText("");
+    modCommon::ChangeGedOutExtension(app_);
+    app_.cboGedOut.TakeFocus();
+    app_.cboGedOut.LoseFocus();
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,178 @@
+#include "shell/path_drawing.h"
+
+#include "drawing/kinship_page.h"
+#include "drawing/kinship_print.h"
+#include "shell/file_names.h"
+#include "tables/columns.h"
+#include "text/edit.h"
+#include "text/literal.h"
+
+namespace swiftroll {
+
+PathDrawing::PathDrawing(Application& app, DrawingCommands& commands, const modKinship::Search& search,
+                         FileCombos& fileCombos)
+    : app_(app), commands_(commands), search_(search), fileCombos_(fileCombos) {
+    DisableKinshipCommands();
+    commands_.mnuDrawKinshipOne.Operation = [this] { DrawKinshipAll(false, true, false); };
+    commands_.mnuDrawKinshipOneSpouse.Operation = [this] { DrawKinshipAll(true, true, false); };
+    commands_.mnuDrawKinshipAll.Operation = [this] { DrawKinshipAll(false, true, true); };
+    commands_.mnuDrawKinshipAllSpouse.Operation = [this] { DrawKinshipAll(true, true, true); };
+    commands_.cmdDrawKinship.Operation = [this] {
+        const Command* const drawings[] = {&commands_.mnuDrawKinshipOne, &commands_.mnuDrawKinshipOneSpouse,
+                                           &commands_.mnuDrawKinshipAll, &commands_.mnuDrawKinshipAllSpouse};
+        drawings[app_.cboDrawKinship.ListIndex()]->Click();
+    };
+    commands_.cmdPrintKinship.Operation = [this] {
+        const int action = app_.cboDrawKinship.ListIndex();
+        DrawKinshipAll(action % 2 != 0, false, action >= 2);
+    };
+    app_.cboDrawKinship.OnClick = [this] { commands_.cmdDrawKinship.Caption = app_.cboDrawKinship.Get(); };
+    commands_.cmdCopyTitle2kinship.Operation = [this] { cmdCopyTitle2kinship_Click(); };
+    commands_.cmdSelectDirKinship.Operation = [this] {
+        fileCombos_.SelectFile(app_.cboKinship, true,
+                               {"Choisissez le fichier des Liens de Parenté à écrire"_t, "HTML",
+                                modCommon::KinshipExtension(app_)});
+    };
+    commands_.picTreeH.Operation = [this] { app_.txtKinshipLandscape.SetChecked(true); };
+    commands_.picTreeV.Operation = [this] { app_.txtKinshipLandscape.SetChecked(false); };
+    for (ColourButton* button : {&app_.cmdColorMale, &app_.cmdColorFemale, &app_.cmdColorUndefined}) {
+        button->OnClick = [this, button] {
+            std::uint32_t colour = button->Colour();
+            if (app_.ports.dialogs.AskColour(colour)) button->SetColour(colour);
+        };
+    }
+    commands_.cmdFont.Operation = app_.lblFont.OnDblClick = [this] { cmdFont_Click(); };
+    app_.txtFont.OnChange = [this] { txtFont_Change(); };
+}
+
+void PathDrawing::DisableKinshipCommands() {
+    commands_.mnuDrawKinship.Enabled = commands_.cmdDrawKinship.Enabled = app_.cboDrawKinship.Enabled =
+        commands_.cmdCopyTitle2kinship.Enabled = commands_.cmdPrintKinship.Enabled = false;
+}
+
+void PathDrawing::EnableKinshipCommands() {
+    commands_.mnuDrawKinship.Enabled = commands_.cmdDrawKinship.Enabled = app_.cboDrawKinship.Enabled =
+        commands_.cmdCopyTitle2kinship.Enabled = true;
+}
+
+void PathDrawing::OfferPrinting() {
+    const bool hasPaths = app_.lvwActiveListView == &app_.lvwKinship && app_.lvwKinship.Count() > 0;
+    if (hasPaths && !search_.IsRunning()) commands_.cmdPrintKinship.Enabled = true;
+}
+
+void PathDrawing::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
+    if (bSpouses && !CheckWidths()) return;
+    if (bHtml) {
+        commands_.cmdSelectDirKinship.Click();
+        if (app_.bDialogCancelled) return;
+    }
+    const ScopedFlag wait(app_.bWaitCursor);
+    app_.trail.Guard(
+        "DrawKinshipAll",
+        [&] {
+            const modKinshipOutput::DrawingSource source{app_, app_, app_};
+            modKinshipOutput::KinshipPage page(source, search_.sKinshipTitle, app_, app_.ports.files,
+                                               app_.ports.clock);
+            modPrint::KinshipPrint print(source, search_.sKinshipTitle, app_.ports.preview);
+            modKinshipOutput::KinshipDocument& document =
+                bHtml ? static_cast<modKinshipOutput::KinshipDocument&>(page) : print;
+            DrawPaths(bSpouses, document, bAll);
+        },
+        [&] {
+            return Concat({bSpouses ? "True" : "False", "/", bHtml ? "True" : "False", "/",
+                           bAll ? "True" : "False", "/", app_.cboKinship.Get()});
+        });
+}
+
+void PathDrawing::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll) {
+    constexpr TextView kFirstLine = "000001";
+    constexpr int kFirst = 1, kFurther = 2, kLast = 9;
+    const ColumnId previousSortKey = app_.lvwKinship.SortKey();
+    app_.lvwKinship.SortBy(Kinship::SeqNr, 0);
+    int iStage = kFirst;
+    for (std::int32_t i = 1; i <= app_.lvwKinship.Count(); ++i) {
+        const Row row = app_.lvwKinship.Item(i);
+        const bool isDrawn =
+            bAll ? row.Text().ends_with(kFirstLine) : !row.Cell(Kinship::IDIndi).empty() && row.Marked();
+        if (!isDrawn) continue;
+        if (document.DisplayKinship(iStage,
+                                    modKinshipOutput::MakeKinshipTable(app_, app_.trail, i, bSpouses)))
+            return;
+        iStage = kFurther;
+    }
+    if (iStage == kFirst) {
+        MessageBox box;
+        box.title = "Graphicage des parentés"_t;
+        box.text = Concat({"Aucune parenté à écrire."_t, kLineEnd, "Fichier non créé."_t});
+        app_.ports.dialogs.Show(box);
+    } else if (document.DisplayKinship(kLast, {})) {
+        return;
+    }
+    app_.lvwKinship.SetSortKey(previousSortKey);
+}
+
+/// In a drawing with spouses a child's box stands in the gap between its parents, so that both must be equal.
+/// The usual gap is too small for a box and the answer lasts, so that a hasty one changes the gap.
+bool PathDrawing::CheckWidths() {
+    const bool across = app_.txtKinshipLandscape.Checked();
+    TextBox& box = across ? app_.txtKinWidth : app_.txtKinHeight;
+    TextBox& gap = across ? app_.txtKinH : app_.txtKinV;
+    if (box.Get() == gap.Get()) return true;
+    const TextView what = across ? "la largeur des boîtes"_t : "la hauteur des boîtes"_t;
+    const TextView direction = across ? "horizontal"_t : "vertical"_t;
+    const BoxAnswer answer =
+        app_.Box(across ? " - Inégalité hargeurs && écarts"_t : " - Inégalité hauteurs && écarts"_t,
+                 Concat({"Pour afficher les conjoints en mode "_t,
+                         direction,
+                         ", il est nécessaire que "_t,
+                         what,
+                         " (=",
+                         box.Get(),
+                         ")",
+                         kLineEnd,
+                         "soit égale à l'écart "_t,
+                         direction,
+                         " entre elles (=",
+                         gap.Get(),
+                         ")",
+                         kLineEnd,
+                         kLineEnd,
+                         "Oui = Changer ",
+                         what,
+                         kLineEnd,
+                         "Non = Changer l'écart "_t,
+                         direction,
+                         " entre les boîtes"_t,
+                         kLineEnd,
+                         "Cancel = Arrêter la génération"_t}),
+                 BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::UnequalSizes, BoxAnswer::No);
+    if (answer == BoxAnswer::Yes) box.SetText(gap.Get());
+    if (answer == BoxAnswer::No) gap.SetText(box.Get());
+    return answer != BoxAnswer::Cancel;
+}
+
+void PathDrawing::cmdCopyTitle2kinship_Click() {
+    Text pair = search_.sKinshipPair;
+    for (char& c : pair) {
+        if (TextView("'\"/\\:*?|").find(c) != TextView::npos) c = ' ';
+    }
+    const auto folderOf = [](TextView file) {
+        return file.substr(0, file.size() - FileNamePart(file).size());
+    };
+    const Text kinship = app_.cboKinship.Get(), list = app_.cboSwiftOut.Get();
+    const TextView folder = folderOf(kinship).empty() ? folderOf(list) : folderOf(kinship);
+    app_.cboKinship.SetText(Concat({folder, "Parenté "_t, pair, ".", modCommon::KinshipExtension(app_)}));
+}
+
+void PathDrawing::cmdFont_Click() {
+    CellFont font = ParseCellFont(app_.txtFont.Get()).value_or(CellFont());
+    if (app_.ports.dialogs.AskFont(font)) app_.txtFont.SetText(CellFontFields(font));
+}
+
+void PathDrawing::txtFont_Change() {
+    if (app_.bFormLoading) return;
+    const auto font = ParseCellFont(app_.txtFont.Get());
+    if (font) app_.lblFont.Caption = CellFontCaption(*font);
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,72 @@
+#include "shell/reading.h"
+
+#include "gedcom/places.h"
+#include "list/calc_output.h"
+#include "tables/column_icon.h"
+#include "text/edit.h"
+#include "text/literal.h"
+
+namespace swiftroll {
+
+Reading::Reading(Application& app, MainCommands& commands, modReadGedcom::Reader& reader,
+                 PathDrawing& drawing)
+    : app_(app), commands_(commands), reader_(reader), drawing_(drawing) {
+    commands_.cmdLoad.Operation = commands_.mnuReadGedCom.Operation = [this] { cmdLoad_Click(); };
+    app_.cboLoad.OnClick = [this] { cboLoad_Click(); };
+    app_.chkProcFamilies.OnClick = [this] { chkProcFamilies_Click(); };
+    commands_.cmdRecalcIn.Operation = [this] { modReadGedcom::SetInDates(app_); };
+    commands_.cmdCalcOutput.Operation = commands_.mnuRecalcOut.Operation = [this] { cmdCalcOutput_Click(); };
+    reader_.OnFamiliesRead = [this] { EnableFamilyCommands(true); };
+}
+
+void Reading::cmdLoad_Click() {
+    commands_.cmdLoad.Enabled = commands_.mnuReadGedCom.Enabled = app_.cboLoad.Enabled = false;
+    app_.trail.Guard(
+        "cmdLoad_Click", [this] { ReadFile(); }, [] { return Text(); });
+    commands_.cmdLoad.Enabled = commands_.mnuReadGedCom.Enabled = app_.cboLoad.Enabled = true;
+}
+
+void Reading::ReadFile() {
+    app_.SetFocus(app_.cboGedIn);
+    for (Panel* panel : {&app_.pnlLines, &app_.pnlIndividuals, &app_.pnlFamilies, &app_.pnlMessage})
+        panel->Set("");
+    app_.bAbort = app_.bFamiliesRead = false;
+    EnableFamilyCommands(false);
+    drawing_.DisableKinshipCommands();
+    app_.SSTab1 = Tab::Options;  // no table is seen during the read; the focus stays where it is
+    if (reader_.lines.InitGedcom(app_.cboGedIn.Get())) {
+        const ScopedFlag lock(app_.bTablesLocked);
+        reader_.ProcessGedcom();
+    }
+    reader_.lines.Close();
+    app_.ShowTab(Tab::In);
+    if (!app_.bAbort) {
+        const BoxAnswer answer = app_.Box(" - Recalcul"_t,
+                                          Concat({"Voulez-vous recalculer la sortie ?"_t, kLineEnd, kLineEnd,
+                                                  "(Nécessaire après une lecture, ou lorsque"_t, kLineEnd,
+                                                  " les colonnes en sortie ont été permutées)"_t}),
+                                          BoxButtons::YesNo, BoxIcon::Question, BoxTopic::Recalculation);
+        if (answer == BoxAnswer::Yes) cmdCalcOutput_Click();
+    }
+    SetAllColumnIcons(app_);
+}
+
+void Reading::cboLoad_Click() {
+    commands_.cmdLoad.Caption = app_.cboLoad.Get();
+    app_.chkProcFamilies.SetChecked(app_.cboLoad.ListIndex() == 0);
+    chkProcFamilies_Click();
+}
+
+void Reading::chkProcFamilies_Click() { EnableFamilyCommands(app_.bFamiliesRead); }
+
+void Reading::EnableFamilyCommands(bool enabled) {
+    commands_.cmdFindPath.Enabled = commands_.cmdSaveGed.Enabled = commands_.mnuFindPath.Enabled = enabled;
+}
+
+void Reading::cmdCalcOutput_Click() {
+    modCalcOut::CalcOuptut(app_, app_);
+    app_.ShowTab(Tab::Out);
+    SetAllColumnIcons(app_);
+}
+
+}  // namespace swiftroll

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "gedcom/reader.h"
+#include "shell/path_drawing.h"
+
+namespace swiftroll {
+
+/// The commands that read a file and compute from it.
+class Reading {
+  public:
+    /// What a read gives decides which of `commands` can be used.
+    Reading(Application& app, MainCommands& commands, modReadGedcom::Reader& reader, PathDrawing& drawing);
+
+  private:
+    void cmdLoad_Click();
+    void ReadFile();
+    void cboLoad_Click();
+    void chkProcFamilies_Click();
+    void EnableFamilyCommands(bool enabled);
+    void cmdCalcOutput_Click();
+
+    Application& app_;
+    MainCommands& commands_;
+    modReadGedcom::Reader& reader_;
+    PathDrawing& drawing_;
+};
+
+}  // namespace swiftroll

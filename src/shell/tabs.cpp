@@ -1,0 +1,32 @@
+#include "shell/tabs.h"
+
+namespace swiftroll {
+
+void Tabs::TableGotFocus(Table& table) {
+    app_.LeaveFocus();
+    app_.lvwActiveListView = &table;
+    mnuCopy_.Enabled = true;
+    drawing_.OfferPrinting();
+}
+
+void Tabs::ShowTab(Tab tab) {
+    app_.SSTab1 = tab;
+    SSTab1_GotFocus();
+}
+
+void Tabs::SSTab1_GotFocus() {
+    favorites_.ShowFavorites(app_.SSTab1);
+    Table* const tables[] = {&app_.lvwIn,   &app_.lvwOut,    &app_.lvwFamilyXref,
+                             &app_.lvwXref, &app_.lvwFamily, &app_.lvwKinship};
+    if (TabHasTable(app_.SSTab1)) {
+        TableGotFocus(*tables[static_cast<std::size_t>(app_.SSTab1)]);
+        if (OnTabFocus) OnTabFocus();
+        return;
+    }
+    mnuCopy_.Enabled = false;
+    if (app_.SSTab1 == Tab::FormatOptions) app_.SetFocus(app_.lbOuputPlacesOrder);
+    if (app_.SSTab1 == Tab::LinkOptions) app_.SetFocus(app_.txtKinHeight);
+    if (app_.SSTab1 == Tab::Options) app_.SetFocus(app_.chkIgnoreCase);
+}
+
+}  // namespace swiftroll
