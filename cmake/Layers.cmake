@@ -14,16 +14,20 @@ endif()
 
 # swiftroll_layer(NAME [layers below ...]): the folder src/NAME as a static library that sees only the layers
 # it names. Headers are included as "NAME/file.h"; each layer publishes its own folder through a private
-# include tree, so that a folder that is not linked cannot be included.
+# include tree, so that a folder that is not linked cannot be included. A folder within another one, as in
+# OUTER/INNER, is the target swiftroll_OUTER_INNER.
 function(swiftroll_layer name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
-  set(tree ${CMAKE_BINARY_DIR}/include/${name})
-  file(MAKE_DIRECTORY ${tree})
+  string(REPLACE / _ layer ${name})
+  set(tree ${CMAKE_BINARY_DIR}/include/${layer})
+  cmake_path(GET name PARENT_PATH outer)
+  file(MAKE_DIRECTORY ${tree}/${outer})
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${name} ${tree}/${name} SYMBOLIC)
-  add_library(swiftroll_${name} STATIC ${sources})
-  target_include_directories(swiftroll_${name} PUBLIC ${tree})
-  target_link_libraries(swiftroll_${name} PRIVATE swiftroll_warnings)
+  add_library(swiftroll_${layer} STATIC ${sources})
+  target_include_directories(swiftroll_${layer} PUBLIC ${tree})
+  target_link_libraries(swiftroll_${layer} PRIVATE swiftroll_warnings)
   foreach(below ${ARGN})
-    target_link_libraries(swiftroll_${name} PUBLIC swiftroll_${below})
+    string(REPLACE / _ below ${below})
+    target_link_libraries(swiftroll_${layer} PUBLIC swiftroll_${below})
   endforeach()
 endfunction()

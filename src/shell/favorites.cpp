@@ -1,8 +1,8 @@
 #include "shell/favorites.h"
 
-#include "shell/history.h"
-#include "shell/ignoring_failures.h"
+#include "shell/settings/history.h"
 #include "text/edit.h"
+#include "text/ignoring_failures.h"
 
 namespace swiftroll {
 namespace {
@@ -86,7 +86,7 @@ void Favorites::KeepOneFavorite(ComboBox& combo) {
 void Favorites::cmdGotoFavorite_Click() {
     const auto index = static_cast<std::size_t>(app_.SSTab1);
     if (index >= app_.cboFavorites.size() || app_.lvwActiveListView == nullptr) return;
-    modCommon::IgnoringFailures([&] {
+    IgnoringFailures([&] {
         const Text text = app_.cboFavorites[index].Get();
         const std::size_t end = GetFavoritePos(text);
         if (end == 0) return;

@@ -1,6 +1,6 @@
 #include "shell/frm_find.h"
 
-#include "shell/history.h"
+#include "shell/settings/history.h"
 #include "text/edit.h"
 #include "text/literal.h"
 

@@ -1,9 +1,9 @@
 #include "shell/parameter_sets.h"
 
-#include "shell/column_settings.h"
-#include "shell/ignoring_failures.h"
-#include "shell/list_order.h"
+#include "shell/settings/column_settings.h"
+#include "shell/settings/list_order.h"
 #include "text/edit.h"
+#include "text/ignoring_failures.h"
 #include "text/literal.h"
 
 namespace swiftroll {

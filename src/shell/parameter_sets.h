@@ -3,7 +3,7 @@
 #include <deque>
 
 #include "shell/main_commands.h"
-#include "shell/parameter_set.h"
+#include "shell/settings/parameter_set.h"
 
 namespace swiftroll {
 

@@ -1,7 +1,7 @@
 #include "shell/problem_report.h"
 
 #include "app/french_date.h"
-#include "shell/registry_text.h"
+#include "shell/settings/registry_text.h"
 #include "shell/system_name.h"
 #include "text/edit.h"
 #include "text/literal.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/setting_parts.h"
+#include "shell/settings/setting_parts.h"
 
 namespace swiftroll {
 

@@ -1,7 +1,7 @@
 #include "shell/writing.h"
 
 #include "shell/file_names.h"
-#include "shell/history.h"
+#include "shell/settings/history.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "writers/output_format.h"

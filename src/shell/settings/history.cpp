@@ -1,4 +1,4 @@
-#include "shell/history.h"
+#include "shell/settings/history.h"
 
 #include <algorithm>
 

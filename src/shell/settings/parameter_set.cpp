@@ -1,7 +1,7 @@
-#include "shell/parameter_set.h"
+#include "shell/settings/parameter_set.h"
 
-#include "shell/history.h"
-#include "shell/sorted_settings.h"
+#include "shell/settings/history.h"
+#include "shell/settings/sorted_settings.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-namespace swiftroll::modCommon {
+namespace swiftroll {
 
 /// Runs a step whose failure means nothing to what follows, as the removal of what is not there.
 template <class Step>
@@ -14,4 +14,4 @@ void IgnoringFailures(Step&& step) {
     }
 }
 
-}  // namespace swiftroll::modCommon
+}  // namespace swiftroll

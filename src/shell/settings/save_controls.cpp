@@ -1,8 +1,8 @@
 // The walk that saves the settings.
-#include "shell/ignoring_failures.h"
-#include "shell/setting_parts.h"
-#include "shell/settings_sections.h"
-#include "shell/settings_walk.h"
+#include "shell/settings/setting_parts.h"
+#include "shell/settings/settings_sections.h"
+#include "shell/settings/settings_walk.h"
+#include "text/ignoring_failures.h"
 
 namespace swiftroll::modCommon {
 namespace {

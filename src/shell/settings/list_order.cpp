@@ -1,8 +1,8 @@
-#include "shell/list_order.h"
+#include "shell/settings/list_order.h"
 
 #include <algorithm>
 
-#include "shell/sorted_settings.h"
+#include "shell/settings/sorted_settings.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 

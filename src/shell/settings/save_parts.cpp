@@ -1,10 +1,10 @@
 // How what this program holds meets what stands in the store.
 #include <algorithm>
 
-#include "shell/history.h"
-#include "shell/ignoring_failures.h"
-#include "shell/setting_parts.h"
-#include "shell/settings_sections.h"
+#include "shell/settings/history.h"
+#include "shell/settings/setting_parts.h"
+#include "shell/settings/settings_sections.h"
+#include "text/ignoring_failures.h"
 
 namespace swiftroll::modCommon {
 namespace {

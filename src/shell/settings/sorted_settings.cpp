@@ -1,4 +1,4 @@
-#include "shell/sorted_settings.h"
+#include "shell/settings/sorted_settings.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/settings_walk.h"
+#include "shell/settings/settings_walk.h"
 
 namespace swiftroll::modCommon {
 

@@ -1,8 +1,8 @@
-#include "shell/column_settings.h"
+#include "shell/settings/column_settings.h"
 
-#include "shell/ignoring_failures.h"
-#include "shell/sorted_settings.h"
+#include "shell/settings/sorted_settings.h"
 #include "text/edit.h"
+#include "text/ignoring_failures.h"
 #include "text/numbers.h"
 
 namespace swiftroll::modCommon {

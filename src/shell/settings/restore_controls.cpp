@@ -2,13 +2,13 @@
 #include <algorithm>
 
 #include "app/french_date.h"
-#include "shell/column_settings.h"
-#include "shell/ignoring_failures.h"
-#include "shell/list_order.h"
-#include "shell/setting_parts.h"
-#include "shell/settings_sections.h"
-#include "shell/settings_walk.h"
-#include "shell/sorted_settings.h"
+#include "shell/settings/column_settings.h"
+#include "shell/settings/list_order.h"
+#include "shell/settings/setting_parts.h"
+#include "shell/settings/settings_sections.h"
+#include "shell/settings/settings_walk.h"
+#include "shell/settings/sorted_settings.h"
+#include "text/ignoring_failures.h"
 
 namespace swiftroll::modCommon {
 namespace {

@@ -1,12 +1,12 @@
 // What a save writes of windows, controls and tables.
-#include "shell/setting_parts.h"
+#include "shell/settings/setting_parts.h"
 
 #include <algorithm>
 
-#include "shell/column_settings.h"
-#include "shell/list_order.h"
-#include "shell/settings_sections.h"
-#include "shell/sorted_settings.h"
+#include "shell/settings/column_settings.h"
+#include "shell/settings/list_order.h"
+#include "shell/settings/settings_sections.h"
+#include "shell/settings/sorted_settings.h"
 
 namespace swiftroll::modCommon {
 namespace {

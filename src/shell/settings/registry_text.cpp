@@ -1,4 +1,4 @@
-#include "shell/registry_text.h"
+#include "shell/settings/registry_text.h"
 
 #include "text/edit.h"
 #include "text/literal.h"
