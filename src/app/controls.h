@@ -5,117 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "text/text.h"
+#include "app/control.h"
 
 namespace swiftroll {
-
-class Control;
-
-/// Where a window stands on the screen, in pixels. The presentation fills it before the settings are restored
-/// and before they are saved, and reads it after the restore.
-struct WindowPlace {
-    int top = 0, left = 0;
-    int width = 0, height = 0;
-    /// Whether the user can change the size.
-    bool resizable = true;
-    /// Whether there is a place: a window that was never on a screen has none, unless one was restored.
-    bool known = false;
-    /// Place and size are then those that the window takes when it is maximised no more.
-    bool maximised = false;
-};
-
-/// A window without a screen: the ordered list of its controls. Presentations, settings and the headless
-/// program walk it; the controls themselves are members of the class that derives from it.
-class Window {
-  public:
-    /// `name` stands for the window in the settings.
-    explicit Window(TextView name = {}) : name_(name) {}
-    Window(const Window&) = delete;
-    Window& operator=(const Window&) = delete;
-
-    const Text& Name() const { return name_; }
-    const std::vector<Control*>& Controls() const { return controls_; }
-    /// The control of a name as users write it, "txtPlaceFormat" or "txtOutExtension(0)"; nullptr if none.
-    Control* Find(TextView name) const;
-
-    /// The control that has the focus, or nullptr.
-    Control* ActiveControl() const { return activeControl_; }
-    /// Gives a control the focus: the one that had it loses it first.
-    void SetFocus(Control& control);
-    /// Takes the focus from the control that has it, as when a table gets it.
-    void LeaveFocus();
-    /// For the presentation, which moves its own focus after.
-    std::function<void()> OnFocusChanged;
-
-    WindowPlace Place;
-    Text Caption;
-    bool Visible() const { return visible_; }
-    void Show();
-    /// For the presentation, which brings the window to the screen at once.
-    std::function<void()> OnShow;
-    /// Ends the dialog that shows the window.
-    void Hide();
-    /// For the presentation, which takes the window from the screen.
-    std::function<void()> OnHide;
-
-  private:
-    friend class Control;
-    Text name_;
-    std::vector<Control*> controls_;
-    Control* activeControl_ = nullptr;
-    bool visible_ = false;
-};
-
-using Event = std::function<void()>;
-
-/// What a control is called and says. An index tells the members of a control array apart.
-struct ControlTexts {
-    TextView name;
-    TextView caption = {};
-    TextView tip = {};
-    int index = -1;
-};
-
-enum class ControlKind {
-    CheckBox,
-    OptionButton,
-    OptionGroup,
-    TextBox,
-    ComboBox,
-    OrderedList,
-    Colour,
-    Label,
-    Command
-};
-
-/// A control of the option record or a command. Setting a value fires the events that belong to it.
-class Control {
-  public:
-    Control(Window& window, ControlKind kind, const ControlTexts& texts);
-    Control(const Control&) = delete;
-    Control& operator=(const Control&) = delete;
-    virtual ~Control() = default;
-
-    ControlKind Kind() const { return kind_; }
-    /// The name with the index in parentheses where there is one.
-    const Text& Name() const { return name_; }
-    /// Sets the value from a text as the settings and the command line write it.
-    /// @throws Failure TypeMismatch when the text is no value of this control, or it has none
-    virtual void SetFromText(TextView text);
-
-    Text Caption;
-    Text Tip;
-    bool Enabled = true;
-    bool Visible = true;
-    Event OnGotFocus;
-    Event OnLostFocus;
-    void TakeFocus() const;
-    void LoseFocus() const;
-
-  private:
-    ControlKind kind_;
-    Text name_;
-};
 
 /// Holds 0 or 1.
 class CheckBox : public Control {
@@ -124,7 +16,9 @@ class CheckBox : public Control {
         : Control(window, ControlKind::CheckBox, texts), checked_(checked) {}
     bool Checked() const { return checked_; }
     void SetChecked(bool checked);
-    void SetFromText(TextView text) override;
+    // "0" or "1".
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
     Event OnClick;
 
   private:
@@ -143,7 +37,9 @@ class OptionButton : public Control {
     bool Value() const { return value_; }
     /// Setting it clears the others of the group.
     void SetValue(bool value);
-    void SetFromText(TextView text) override;
+    // For the settings "True" or "False"; a user writes "0" or "1".
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
     Event OnDblClick;
 
   private:
@@ -172,7 +68,9 @@ class OptionGroup : public Control {
     void SetMember(int index, bool value);
     const std::vector<Text>& Captions() const { return captions_; }
     const std::vector<Text>& Tips() const { return tips_; }
-    void SetFromText(TextView text) override;
+    // For the settings "True" or "False" for each button; a user writes the number of one.
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
     Event OnClick;
 
   private:
@@ -187,8 +85,8 @@ class TextBox : public Control {
         : Control(window, ControlKind::TextBox, texts), text_(value) {}
     const Text& Get() const { return text_; }
     void SetText(TextView text);
-    /// As a user who types the text and goes on to another control.
-    void SetFromText(TextView text) override;
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
     /// Whether a text of the command line is a value, where not every text is one. A user's text is mended
     /// instead when the focus leaves.
     std::function<bool(TextView text)> Accepts;
@@ -202,11 +100,10 @@ class TextBox : public Control {
 class ComboBox : public Control {
   public:
     ComboBox(Window& window, const ControlTexts& texts, std::vector<Text> items = {})
-        : Control(window, ControlKind::ComboBox, texts),
-          isSelector_(!items.empty()),
+        : Control(window, items.empty() ? ControlKind::ComboBox : ControlKind::Selector, texts),
           items_(std::move(items)) {}
     /// Whether the text can only be one of the items.
-    bool IsSelector() const { return isSelector_; }
+    bool IsSelector() const { return Kind() == ControlKind::Selector; }
     Text Get() const;
     /// Writes the text; no item is the picked one then.
     void SetText(TextView text);
@@ -218,18 +115,23 @@ class ComboBox : public Control {
     int ListIndex() const { return listIndex_; }
     /// Picks an item. @throws Failure IndexOutOfRange
     void SetListIndex(int index);
-    /// As a user who types the text, or picks the item of a selector by its number or text, and goes on.
-    void SetFromText(TextView text) override;
+    // For the settings all items that are not blank, of which the first one is picked; those of a selector
+    // are the program's, and stay. A user types a text, or picks the item of a selector by its number or
+    // text.
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
     Event OnClick;
     /// Whether the settings keep which item of a selector is picked: they hold the items alone, that one
     /// first.
     bool KeepsPick = false;
 
   private:
-    bool isSelector_;
+    void Restore(const std::vector<Text>& texts);
+    void PickFor(TextView text);
+
     std::vector<Text> items_;
     Text text_;
-    int listIndex_ = isSelector_ ? 0 : -1;
+    int listIndex_ = IsSelector() ? 0 : -1;
 };
 
 /// Rows with a number each, which the user puts in order.
@@ -246,8 +148,10 @@ class OrderedList : public Control {
     /// @throws Failure IndexOutOfRange
     void Move(std::size_t from, std::size_t to);
     void SetItems(std::vector<Item> items) { items_ = std::move(items); }
-    /// Puts the rows in the order of their numbers, as in "2,1,3".
-    void SetFromText(TextView text) override;
+    // For the settings the number and the text of each row, as in "002 Décès"; a user writes the numbers of
+    // all rows, as in "2,1,3".
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
 
   private:
     std::vector<Item> items_;
@@ -262,8 +166,9 @@ class ColourButton : public Control {
     /// The user presses it to choose another colour.
     Event OnClick;
     void SetColour(std::uint32_t colour) { colour_ = colour & 0xFFFFFFu; }
-    /// Decimal, or hexadecimal behind "0x".
-    void SetFromText(TextView text) override;
+    // Decimal; a user may write it hexadecimal behind "0x".
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
 
   private:
     std::uint32_t colour_;
@@ -272,6 +177,9 @@ class ColourButton : public Control {
 class Label : public Control {
   public:
     Label(Window& window, const ControlTexts& texts) : Control(window, ControlKind::Label, texts) {}
+    // The caption; a user cannot set it.
+    std::vector<Text> ToTexts() const override;
+    void FromTexts(const ValueTexts& value) override;
     Event OnDblClick;
 };
 

@@ -1,7 +1,7 @@
 #include "shell/parameter_sets.h"
 
 #include "shell/settings/column_settings.h"
-#include "shell/settings/list_order.h"
+#include "shell/settings/stored_controls.h"
 #include "text/edit.h"
 #include "text/ignoring_failures.h"
 #include "text/literal.h"
@@ -26,30 +26,31 @@ void DeleteFormerOrder(SettingsStore& store, TextView section) {
 }  // namespace
 
 ParameterSets::ParameterSets(Application& app, SetCommands& commands) : app_(app) {
+    constexpr auto kAsItIs = ParameterSet::Form::AsItIs, kNumber = ParameterSet::Form::Number;
     sets_.emplace_back(app_, app_.cboCells, commands.cmdSaveCells,
                        ParameterSet::Parts{.loadName = "cboCells_LostFocus",
                                            .saveName = "cmdSaveCells_Click",
                                            .section = "OutCells",
-                                           .fields = {NumberField("Horiz", app_.txtKinH),
-                                                      NumberField("Vertic", app_.txtKinV),
-                                                      NumberField("Height", app_.txtKinHeight),
-                                                      NumberField("Width", app_.txtKinWidth),
-                                                      ColourField("FColor", app_.cmdColorFemale),
-                                                      ColourField("MColor", app_.cmdColorMale),
-                                                      ColourField("UColor", app_.cmdColorUndefined),
-                                                      FlagField("Landscape", app_.txtKinshipLandscape),
-                                                      OptionField("optFullName0", app_.optFullName, 0),
-                                                      OptionField("optFullName1", app_.optFullName, 1),
-                                                      FlagField("chkIndiID", app_.chkIndiID),
-                                                      FlagField("chkIndiBirthDate", app_.chkIndiBirthDate),
-                                                      FlagField("chkIndiBirthPlace", app_.chkIndiBirthPlace),
-                                                      FlagField("chkIndiDeathDate", app_.chkIndiDeathDate),
-                                                      FlagField("chkIndiDeathPlace", app_.chkIndiDeathPlace),
-                                                      FlagField("chkMarrID", app_.chkMarrID),
-                                                      FlagField("chkMarrDate", app_.chkMarrDate),
-                                                      FlagField("chkMarrPlace", app_.chkMarrPlace),
-                                                      CaptionField("lblFont", app_.lblFont),
-                                                      TextField("txtFont", app_.txtFont)}});
+                                           .fields = {{"Horiz", app_.txtKinH, kNumber},
+                                                      {"Vertic", app_.txtKinV, kNumber},
+                                                      {"Height", app_.txtKinHeight, kNumber},
+                                                      {"Width", app_.txtKinWidth, kNumber},
+                                                      {"FColor", app_.cmdColorFemale},
+                                                      {"MColor", app_.cmdColorMale},
+                                                      {"UColor", app_.cmdColorUndefined},
+                                                      {"Landscape", app_.txtKinshipLandscape},
+                                                      {"optFullName0", app_.optFullName, kAsItIs, 0},
+                                                      {"optFullName1", app_.optFullName, kAsItIs, 1},
+                                                      {"chkIndiID", app_.chkIndiID},
+                                                      {"chkIndiBirthDate", app_.chkIndiBirthDate},
+                                                      {"chkIndiBirthPlace", app_.chkIndiBirthPlace},
+                                                      {"chkIndiDeathDate", app_.chkIndiDeathDate},
+                                                      {"chkIndiDeathPlace", app_.chkIndiDeathPlace},
+                                                      {"chkMarrID", app_.chkMarrID},
+                                                      {"chkMarrDate", app_.chkMarrDate},
+                                                      {"chkMarrPlace", app_.chkMarrPlace},
+                                                      {"lblFont", app_.lblFont},
+                                                      {"txtFont", app_.txtFont}}});
 
     const auto withTables = [this](const auto& step) {
         return [this, step](const Text& section) {
@@ -76,17 +77,18 @@ ParameterSets::ParameterSets(Application& app, SetCommands& commands) : app_(app
             .loadName = "cboOutPlace_LostFocus",
             .saveName = "cmdSavePlace_Click",
             .section = "OutPlace",
-            .fields = {TextField("Format", app_.txtPlaceFormat), TextField("Separ", app_.txtPlaceSepar),
-                       FlagField("Trim", app_.chkTrimSepar)},
+            .fields = {{"Format", app_.txtPlaceFormat},
+                       {"Separ", app_.txtPlaceSepar},
+                       {"Trim", app_.chkTrimSepar}},
             .loadMore =
                 [this](const Text& section) {
-                    SetListOrder(app_, app_.lbOuputPlacesOrder,
+                    RestoreOrder(app_, app_.lbOuputPlacesOrder,
                                  app_.ports.settings.GetAllSettings(Concat({section, kOrderSubSection})));
                 },
             .saveMore =
                 [this](const Text& section) {
                     const Text below = Concat({section, kOrderSubSection});
-                    for (const SettingEntry& entry : ListOrderEntries(app_.lbOuputPlacesOrder, below)) {
+                    for (const SettingEntry& entry : EntriesOf(app_.lbOuputPlacesOrder, below)) {
                         app_.ports.settings.SaveSetting(entry.section, entry.key, entry.value);
                     }
                 },

@@ -9,6 +9,8 @@
 namespace swiftroll {
 namespace {
 
+constexpr TextView kTrue = "True", kFalse = "False";
+
 template <class Integer>
 Integer Narrow(TextView text) {
     const TextView digits = Trim(text);
@@ -51,5 +53,12 @@ std::optional<std::int64_t> ParseDecimal(TextView text) {
 std::int32_t ToLong(TextView text) { return Narrow<std::int32_t>(text); }
 
 std::int16_t ToInteger(TextView text) { return Narrow<std::int16_t>(text); }
+
+TextView BooleanText(bool value) { return value ? kTrue : kFalse; }
+
+bool ToBoolean(TextView text) {
+    if (SameButCase(text, kTrue)) return true;
+    return !SameButCase(text, kFalse) && ToLong(text) != 0;
+}
 
 }  // namespace swiftroll

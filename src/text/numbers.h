@@ -21,4 +21,9 @@ std::optional<std::int64_t> ParseDecimal(TextView text);
 std::int32_t ToLong(TextView text);
 std::int16_t ToInteger(TextView text);
 
+/// A truth value as the settings hold it, and back: a number but 0 is true.
+/// @throws Failure as ToLong does, when the text is none
+TextView BooleanText(bool value);
+bool ToBoolean(TextView text);
+
 }  // namespace swiftroll

@@ -1,7 +1,6 @@
 #include "shell/settings/parameter_set.h"
 
 #include "shell/settings/history.h"
-#include "shell/settings/sorted_settings.h"
 #include "text/edit.h"
 #include "text/numbers.h"
 
@@ -21,6 +20,11 @@ ParameterSet::ParameterSet(Application& app, ComboBox& combo, Command& save, Par
     };
     combo.OnLostFocus = [this] { Load(); };
     save.Operation = [this] { Save(); };
+}
+
+void ParameterSet::Field::Set(TextView text) const {
+    control.FromTexts(
+        {.texts = {form == Form::Number ? Decimal(ToLong(text)) : Text(text)}, .button = button});
 }
 
 /// A "\" would begin a sub-section.
@@ -57,9 +61,9 @@ void ParameterSet::LoadFields() {
     const Text name = store.GetSetting(section, kNameKey, typed);
     if (name != typed) ShowName(name);
     for (const Field& field : parts_.fields) {
-        const Text present = field.get();
+        const Text present = field.Get();
         const Text stored = store.GetSetting(section, field.key, present);
-        if (stored != present) field.set(stored);
+        if (stored != present) field.Set(stored);
     }
     if (parts_.loadMore) parts_.loadMore(section);
 }
@@ -90,35 +94,8 @@ void ParameterSet::SaveFields(TextView name) {
     const Text section = SectionOf(name);
     store.SaveSetting(parts_.section, StoredKey(name), name);
     store.SaveSetting(section, kNameKey, name);
-    for (const Field& field : parts_.fields) store.SaveSetting(section, field.key, field.get());
+    for (const Field& field : parts_.fields) store.SaveSetting(section, field.key, field.Get());
     if (parts_.saveMore) parts_.saveMore(section);
-}
-
-ParameterSet::Field TextField(TextView key, TextBox& box) {
-    return {key, [&] { return box.Get(); }, [&](TextView text) { box.SetText(text); }};
-}
-
-ParameterSet::Field NumberField(TextView key, TextBox& box) {
-    return {key, [&] { return box.Get(); }, [&](TextView text) { box.SetText(Decimal(ToLong(text))); }};
-}
-
-ParameterSet::Field FlagField(TextView key, CheckBox& box) {
-    return {key, [&] { return Text(box.Checked() ? "1" : "0"); },
-            [&](TextView text) { box.SetChecked(ToBoolean(text)); }};
-}
-
-ParameterSet::Field OptionField(TextView key, OptionGroup& group, int member) {
-    return {key, [&group, member] { return Text(BooleanText(group.Index() == member)); },
-            [&group, member](TextView text) { group.SetMember(member, ToBoolean(text)); }};
-}
-
-ParameterSet::Field ColourField(TextView key, ColourButton& button) {
-    return {key, [&] { return Decimal(button.Colour()); },
-            [&](TextView text) { button.SetColour(static_cast<std::uint32_t>(ToLong(text))); }};
-}
-
-ParameterSet::Field CaptionField(TextView key, Label& label) {
-    return {key, [&] { return label.Caption; }, [&](TextView text) { label.Caption = text; }};
 }
 
 }  // namespace swiftroll::modCommon

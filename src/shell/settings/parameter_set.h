@@ -8,11 +8,17 @@ namespace swiftroll::modCommon {
 /// was never saved under a name keeps its present value when the name is picked.
 class ParameterSet {
   public:
-    /// One option: how it stands in the store. `set` throws Failure when the text means nothing.
+    /// How a text stands in the store: as the control gives it, or as the number that it tells.
+    enum class Form { AsItIs, Number };
+    /// One option, or one button of a group of them.
     struct Field {
         TextView key;
-        std::function<Text()> get;
-        std::function<void(TextView text)> set;
+        Control& control;
+        Form form = Form::AsItIs;
+        int button = 0;
+        Text Get() const { return control.ToTexts()[static_cast<std::size_t>(button)]; }
+        /// @throws Failure when the text means nothing
+        void Set(TextView text) const;
     };
     /// What is done with the section of a set beyond its fields.
     using WithSection = std::function<void(const Text& section)>;
@@ -45,13 +51,5 @@ class ParameterSet {
     Parts parts_;
     bool bComboClick_ = false;  // while a pick from the list is handled
 };
-
-/// Fields that are one control each.
-ParameterSet::Field TextField(TextView key, TextBox& box);
-ParameterSet::Field NumberField(TextView key, TextBox& box);
-ParameterSet::Field FlagField(TextView key, CheckBox& box);
-ParameterSet::Field OptionField(TextView key, OptionGroup& group, int member);
-ParameterSet::Field ColourField(TextView key, ColourButton& button);
-ParameterSet::Field CaptionField(TextView key, Label& label);
 
 }  // namespace swiftroll::modCommon

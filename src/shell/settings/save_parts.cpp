@@ -9,7 +9,6 @@
 namespace swiftroll::modCommon {
 namespace {
 
-using Kind = SettingPart::Kind;
 using Names = std::vector<Text>;
 
 void Save(SettingsStore& store, const SettingEntry& entry) {
@@ -26,7 +25,7 @@ void Delete(SettingsStore& store, TextView section, TextView key) {
 
 void SaveValue(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
     const bool isChanged = part.entries != shown.entries;
-    if (isChanged && part.kind == Kind::Order) {
+    if (isChanged && part.form == StoredAs::Order) {
         IgnoringFailures([&] { store.DeleteSetting(part.section); });
     }
     if (part.entries.empty()) {
@@ -98,13 +97,16 @@ void SaveHistory(SettingsStore& store, const SettingPart& part, const SettingPar
 }  // namespace
 
 void SavePart(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
-    switch (part.kind) {
-        case Kind::Value:
-        case Kind::Order:
+    switch (part.form) {
+        case StoredAs::Nothing:
+            return;
+        case StoredAs::Value:
+        case StoredAs::Buttons:
+        case StoredAs::Order:
             return SaveValue(store, part, shown);
-        case Kind::History:
+        case StoredAs::History:
             return SaveHistory(store, part, shown);
-        case Kind::Selector:
+        case StoredAs::Selector:
             return SaveSelector(store, part);
     }
 }

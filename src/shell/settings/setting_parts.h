@@ -1,19 +1,14 @@
 #pragma once
 
 #include "shell/settings/settings_walk.h"
+#include "shell/settings/stored_controls.h"
 
 namespace swiftroll::modCommon {
 
 /// What a save writes as a whole: the value of a control, one side of a window, the order of the columns of a
 /// table, the width of one of them.
 struct SettingPart {
-    enum class Kind {
-        Value,    // keys that belong together
-        Order,    // the same for a list, whose section holds nothing else
-        History,  // the names of a combo, to which another program may have added some
-        Selector  // the fixed items of a selector: they are the program's, not the user's
-    };
-    Kind kind = Kind::Value;
+    StoredAs form = StoredAs::Value;
     Text window;   // by its name, for reports, as are the next ones
     Text section;  // of the control or of the table
     Text table = {}, column = {};

@@ -32,8 +32,6 @@ Text& At(std::vector<Text>& elements, std::int64_t index) {
     return elements[static_cast<std::size_t>(index)];
 }
 
-constexpr TextView kTrue = "True", kFalse = "False";
-
 }  // namespace
 
 std::vector<Text> SortMySettings(Application& app, const Pairs& a) {
@@ -53,13 +51,6 @@ std::vector<Text> SortMySettings0(Application& app, const Pairs& a) {
     // Never more than there are pairs; none at all after a failure, which leaves one empty element too.
     sorted.resize(std::max<std::size_t>(sorted.empty() ? 0 : count, 1));
     return sorted;
-}
-
-TextView BooleanText(bool value) { return value ? kTrue : kFalse; }
-
-bool ToBoolean(TextView text) {
-    if (SameButCase(text, kTrue)) return true;
-    return !SameButCase(text, kFalse) && ToLong(text) != 0;
 }
 
 }  // namespace swiftroll::modCommon

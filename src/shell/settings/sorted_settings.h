@@ -12,9 +12,4 @@ std::vector<Text> SortMySettings(Application& app, const SettingsStore::Pairs& a
 /// empty. Pairs with other keys are left out. There is at least one element.
 std::vector<Text> SortMySettings0(Application& app, const SettingsStore::Pairs& a);
 
-/// A truth value as the settings hold it, and back: a number but 0 is true.
-/// @throws Failure TypeMismatch when the text is none
-TextView BooleanText(bool value);
-bool ToBoolean(TextView text);
-
 }  // namespace swiftroll::modCommon
