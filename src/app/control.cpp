@@ -23,7 +23,7 @@ Control* Window::Find(TextView name) const {
 }
 
 Control::Control(Window& window, ControlKind kind, const ControlTexts& texts)
-    : Caption(texts.caption), Tip(texts.tip), kind_(kind), name_(FullName(texts)) {
+    : Caption(texts.caption), Tip(texts.tip), Visible(texts.visible), kind_(kind), name_(FullName(texts)) {
     window.controls_.push_back(this);
 }
 

@@ -76,7 +76,14 @@ struct ControlTexts {
     TextView caption = {};
     TextView tip = {};
     int index = -1;
+    bool visible = true;
 };
+
+/// The same for a control that is not shown.
+constexpr ControlTexts Hidden(ControlTexts texts) {
+    texts.visible = false;
+    return texts;
+}
 
 /// A selector is a combo whose text can only be one of its items.
 enum class ControlKind {
@@ -130,7 +137,7 @@ class Control {
     Text Caption;
     Text Tip;
     bool Enabled = true;
-    bool Visible = true;
+    bool Visible;
     Event OnGotFocus;
     Event OnLostFocus;
     void TakeFocus() const;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -52,13 +54,14 @@ class OptionButton : public Control {
 /// Option buttons of which one is set: `GetOptionIndex`, `SetOptionIndex`.
 class OptionGroup : public Control {
   public:
+    OptionGroup(Window& window, const ControlTexts& texts, std::vector<Text> captions, int index)
+        : Control(window, ControlKind::OptionGroup, texts), captions_(std::move(captions)), index_(index) {}
     /// `tips` has one for each caption, or is empty.
-    OptionGroup(Window& window, const ControlTexts& texts, std::vector<Text> captions, int index,
-                std::vector<Text> tips = {})
-        : Control(window, ControlKind::OptionGroup, texts),
-          captions_(std::move(captions)),
-          tips_(std::move(tips)),
-          index_(index) {}
+    OptionGroup(Window& window, const ControlTexts& texts, std::initializer_list<TextView> captions,
+                int index, std::initializer_list<TextView> tips = {})
+        : OptionGroup(window, texts, std::vector<Text>(captions.begin(), captions.end()), index) {
+        tips_.assign(tips.begin(), tips.end());
+    }
     /// The first one, when none is set.
     int Index() const { return index_ < 0 ? 0 : index_; }
     /// @throws Failure IndexOutOfRange
@@ -102,6 +105,12 @@ class ComboBox : public Control {
     ComboBox(Window& window, const ControlTexts& texts, std::vector<Text> items = {})
         : Control(window, items.empty() ? ControlKind::ComboBox : ControlKind::Selector, texts),
           items_(std::move(items)) {}
+    ComboBox(Window& window, const ControlTexts& texts, std::initializer_list<TextView> items)
+        : ComboBox(window, texts, std::vector<Text>(items.begin(), items.end())) {}
+    /// With a text that is not among the items.
+    ComboBox(Window& window, const ControlTexts& texts, TextView text) : ComboBox(window, texts) {
+        text_ = text;
+    }
     /// Whether the text can only be one of the items.
     bool IsSelector() const { return Kind() == ControlKind::Selector; }
     Text Get() const;
@@ -147,7 +156,6 @@ class OrderedList : public Control {
     /// Takes the row at 0-based place `from` out and puts it in at the place of row `to`.
     /// @throws Failure IndexOutOfRange
     void Move(std::size_t from, std::size_t to);
-    void SetItems(std::vector<Item> items) { items_ = std::move(items); }
     // For the settings the number and the text of each row, as in "002 Décès"; a user writes the numbers of
     // all rows, as in "2,1,3".
     std::vector<Text> ToTexts() const override;
@@ -203,5 +211,16 @@ struct Menu {
     Command& head;
     std::vector<Menu> entries = {};
 };
+
+/// A control array: members that are called alike but for their index.
+template <class Member, std::size_t n>
+std::array<Member, n> ArrayOf(Window& window, ControlTexts texts) {
+    const auto member = [&](std::size_t index) {
+        texts.index = static_cast<int>(index);
+        return Member(window, texts);
+    };
+    return [&]<std::size_t... i>(std::index_sequence<i...>) { return std::array<Member, n>{member(i)...}; }
+    (std::make_index_sequence<n>());
+}
 
 }  // namespace swiftroll

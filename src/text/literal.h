@@ -17,26 +17,28 @@ struct Utf8Literal {
 
 namespace detail {
 
-template <Utf8Literal literal>
-consteval std::size_t CodePageLength() {
+template <std::size_t N>
+struct CodePageLiteral {
+    char bytes[N]{};
     std::size_t length = 0;
-    for (std::string_view rest = literal.View(); !rest.empty(); ++length) {
-        const Utf8Char next = FirstUtf8Char(rest);
-        // A literal that is no UTF-8, or has a character that the code page lacks, must not compile.
-        if (next.length == 0 || !CodePageByte(next.codePoint)) throw "not a Windows-1252 text";
-        rest.remove_prefix(next.length);
-    }
-    return length;
-}
+};
 
 template <Utf8Literal literal>
 consteval auto ToCodePage() {
-    std::array<char, CodePageLength<literal>() + 1> out{};
-    std::size_t i = 0;
-    for (std::string_view rest = literal.View(); !rest.empty(); ++i) {
-        const Utf8Char next = FirstUtf8Char(rest);
-        out[i] = static_cast<char>(*CodePageByte(next.codePoint));
-        rest.remove_prefix(next.length);
+    CodePageLiteral<sizeof literal.bytes> out;
+    for (std::size_t i = 0; i + 1 < sizeof literal.bytes;) {
+        char& byte = out.bytes[out.length++] = literal.bytes[i];
+        // Most are ASCII, and what is done for each of them costs time in every file that has texts.
+        if (static_cast<unsigned char>(byte) < 0x80) {
+            ++i;
+            continue;
+        }
+        const Utf8Char next = FirstUtf8Char(literal.View().substr(i));
+        const auto converted = CodePageByte(next.codePoint);
+        // A literal that is no UTF-8, or has a character that the code page lacks, must not compile.
+        if (next.length == 0 || !converted) throw "not a Windows-1252 text";
+        byte = static_cast<char>(*converted);
+        i += next.length;
     }
     return out;
 }
@@ -51,7 +53,7 @@ inline namespace literals {
 /// "Décès"_t: a UTF-8 literal of the source as Windows-1252, converted while compiling.
 template <Utf8Literal literal>
 consteval TextView operator""_t() {
-    return {detail::kCodePageLiteral<literal>.data(), detail::kCodePageLiteral<literal>.size() - 1};
+    return {detail::kCodePageLiteral<literal>.bytes, detail::kCodePageLiteral<literal>.length};
 }
 
 }  // namespace literals

@@ -9,8 +9,6 @@
 namespace swiftroll {
 namespace {
 
-constexpr TextView kTrue = "True", kFalse = "False";
-
 template <class Integer>
 Integer Narrow(TextView text) {
     const TextView digits = Trim(text);
@@ -27,6 +25,8 @@ Integer Narrow(TextView text) {
     }
     return static_cast<Integer>(*number);
 }
+
+constexpr TextView kTrue = "True", kFalse = "False";
 
 }  // namespace
 

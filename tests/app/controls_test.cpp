@@ -4,26 +4,15 @@
 
 #include "app/option_record.h"
 #include "support/kind_of.h"
-#include "text/code_page.h"
-#include "text/edit.h"
 #include "text/failure.h"
 #include "text/literal.h"
-#include "text/numbers.h"
 
 namespace swiftroll {
 namespace {
 
-/// The value of an option: a text, or the number of what is chosen.
 Text ValueOf(const Control& control) {
-    if (const auto box = dynamic_cast<const CheckBox*>(&control)) return box->Checked() ? "1" : "0";
-    if (const auto group = dynamic_cast<const OptionGroup*>(&control)) return Decimal(group->Index());
-    if (const auto box = dynamic_cast<const TextBox*>(&control)) return box->Get();
-    if (const auto combo = dynamic_cast<const ComboBox*>(&control)) return combo->Get();
-    if (const auto button = dynamic_cast<const ColourButton*>(&control)) return Decimal(button->Colour());
     Text all;
-    if (const auto list = dynamic_cast<const OrderedList*>(&control)) {
-        for (const auto& item : list->Items()) all += Concat({Decimal(item.value), item.text, "/"});
-    }
+    for (const Text& text : control.ToTexts()) all += text + "/";
     return all;
 }
 
@@ -54,9 +43,9 @@ TEST(Controls, OrderedListsAreDraggedAndDisabledCommandsDoNothing) {
     OptionRecord options({});
     OrderedList& list = options.lbOuputPlacesOrder;
     list.Move(0, 2);
-    EXPECT_EQ(ValueOf(list), "2Décès/3Mariage, Divorce,.../1Naissance/"_t);
+    EXPECT_EQ(ValueOf(list), "002 Décès/003 Mariage, Divorce,.../001 Naissance/"_t);
     list.Move(2, 1);
-    EXPECT_EQ(ValueOf(list), "2Décès/1Naissance/3Mariage, Divorce,.../"_t);
+    EXPECT_EQ(ValueOf(list), "002 Décès/001 Naissance/003 Mariage, Divorce,.../"_t);
     EXPECT_THROW(list.Move(0, 3), Failure);
     EXPECT_THROW(list.Move(3, 0), Failure);
     Command command(options, {"cmdTest", "Essai"}, "Ctrl+T", false);
@@ -66,6 +55,43 @@ TEST(Controls, OrderedListsAreDraggedAndDisabledCommandsDoNothing) {
     command.Enabled = true;
     command.Click();
     EXPECT_EQ(runs, 1);
+}
+
+TEST(Controls, AUsersTextMustBeRightAndThatOfTheSettingsMeanSomething) {
+    struct Case {
+        TextView name, text, ofUser, ofSettings;  // what the control holds then; nothing where it is refused
+    };
+    const TextView order = "002 Décès/001 Naissance/003 Mariage, Divorce,.../"_t;
+    const Case cases[] = {
+        {"chkTips", "0", "0/", "0/"},
+        {"chkTips", "False", "", "0/"},
+        {"chkTips", "-1", "", "1/"},
+        {"chkTips", "perhaps", "", ""},
+        {"optTabSpace", "1", "False/True/", "True/False/"},
+        {"optTabSpace", "2", "", "True/False/"},
+        {"optTabSpace", "True", "", "True/False/"},
+        {"lbOuputPlacesOrder", "2,1,3", order, ""},
+        {"lbOuputPlacesOrder", "2,1,3,9", "", ""},
+        {"lbOuputPlacesOrder", "9,2,3", "", ""},
+        {"lbOuputPlacesOrder", "1,1,3", "", ""},
+        {"cmdColorMale", "0xFF", "255/", ""},
+        {"cmdColorMale", "16777217", "", "1/"},
+        {"lblFont", "Times", "", "Times/"},
+        {"cboLoad", "Lire", "", "Lire Tout/Lire Sans Famille/"},
+    };
+    for (const Case& known : cases) {
+        for (const auto origin : {ValueTexts::Origin::User, ValueTexts::Origin::Settings}) {
+            OptionRecord options({});
+            Control& control = *options.Find(known.name);
+            Text held;
+            test::KindOf([&] {
+                control.FromTexts({.origin = origin, .texts = {Text(known.text)}});
+                held = ValueOf(control);
+            });
+            EXPECT_EQ(held, origin == ValueTexts::Origin::User ? known.ofUser : known.ofSettings)
+                << known.name << "=" << known.text;
+        }
+    }
 }
 
 }  // namespace

@@ -63,20 +63,12 @@ void ChangeEverything(frmMain& main) {
 }
 
 Text Described(const frmMain& main, const Control& control) {
-    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return box->Checked() ? "1" : "0";
-    if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Get();
-    if (const auto* group = dynamic_cast<const OptionGroup*>(&control)) return std::to_string(group->Index());
-    if (const auto* list = dynamic_cast<const OrderedList*>(&control)) {
-        Text items;
-        for (const auto& item : list->Items()) items += std::to_string(item.value) + item.text;
-        return items;
-    }
     const auto* combo = dynamic_cast<const ComboBox*>(&control);
     // A start chooses the widest drawing, whatever was chosen before.
-    if (combo == nullptr || combo == &main.cboDrawKinship) return {};
-    Text items = combo->Get();
-    for (const Text& item : combo->Items()) items += "|" + item;
-    return items;
+    if (combo == &main.cboDrawKinship) return {};
+    Text value = combo == nullptr ? Text() : combo->Get();
+    for (const Text& text : control.ToTexts()) value += "|" + text;
+    return value;
 }
 
 Values Everything(frmMain& main) {

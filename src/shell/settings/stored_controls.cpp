@@ -1,6 +1,6 @@
 #include "shell/settings/stored_controls.h"
 
-#include <algorithm>
+#include <iterator>
 
 #include "shell/settings/settings_sections.h"
 #include "shell/settings/sorted_settings.h"
@@ -50,9 +50,9 @@ SettingEntry EntryOf(const KindForm& form, TextView section, int i, const Text& 
             return {Text(section), Decimal(i, kItemDigits), text};
         case StoredAs::Value:
         case StoredAs::Nothing:
-            break;
+            return {Text(section), Text(form.key), text};
     }
-    return {Text(section), Text(form.key), text};
+    return {};
 }
 
 /// Reads a text of a control, whatever its key.
