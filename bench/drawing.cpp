@@ -38,7 +38,7 @@ class PathLimit : public bench::QuietPump {
         most_ = most;
     }
     void Yield() override {
-        if (main_ != nullptr && main_->modKinship.lNrLinks >= most_) main_->bAbort = true;
+        if (main_ != nullptr && main_->kinshipSearch.lNrLinks >= most_) main_->bAbort = true;
     }
 
   private:
