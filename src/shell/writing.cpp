@@ -109,6 +109,7 @@ void Writing::optOutExtension_Click(int Index) {
     fileCombos_.FileCombo_LostFocus(app_.cboSwiftOut);
     modCommon::ChangeKinshipExtension(app_);
     fileCombos_.FileCombo_LostFocus(app_.cboKinship);
+    if (!format.model) return;  // the model keeps its name for the formats that have one
     modCommon::ChangeModelExtension(app_);
     fileCombos_.FileCombo_LostFocus(app_.cboFileModel);
 }
