@@ -120,15 +120,14 @@ void KeepAlphaNum(benchmark::State& state) {
 BENCHMARK(KeepAlphaNum);
 
 void MakeSortKeyIn(benchmark::State& state) {
-    TableSet tables;
-    bench::QuietDialogs dialogs;
-    Positions positions;
-    tables.lvwOut.MoveColumn(Out::Place, 3);  // the place before the count
-    positions.InitIndexes(tables, dialogs, {});
-    Row row = tables.lvwIn.Add(std::nullopt, TextView("@I1@"), TextView("@I1@"));
+    bench::QuietMain quiet;
+    frmMain& main = quiet.main;
+    main.lvwOut.MoveColumn(Out::Place, 3);  // the place before the count
+    main.InitIndexes();
+    Row row = main.lvwIn.Add(std::nullopt, TextView("@I1@"), TextView("@I1@"));
     row.SetCell(In::LastName, "Lefèvre"_t);
     row.SetCell(In::Place, "Saint-Malo, Ille-et-Vilaine, Bretagne, France"_t);
-    for (auto _ : state) benchmark::DoNotOptimize(modCalcOut::MakeSortKeyIn(positions, row));
+    for (auto _ : state) benchmark::DoNotOptimize(modCalcOut::MakeSortKeyIn(main.positions, row));
 }
 BENCHMARK(MakeSortKeyIn);
 

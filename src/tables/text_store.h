@@ -1,6 +1,7 @@
 #pragma once
 
 #include <boost/unordered/unordered_flat_set.hpp>
+#include <cassert>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -20,8 +21,11 @@ class TextRef {
     /// Whether equal texts of the store share this reference, so that comparing references compares texts.
     bool IsInterned() const { return IsEmpty() || (bits_ & kInternedBit) != 0; }
     friend bool operator==(TextRef, TextRef) = default;
-    /// Number of an interned text, dense from 0 in the order of first use.
-    std::uint32_t Symbol() const { return bits_ & ~kInternedBit; }
+    /// Number of an interned text that is not empty, dense from 0 in the order of first use.
+    std::uint32_t Symbol() const {
+        assert((bits_ & kInternedBit) != 0);
+        return bits_ & ~kInternedBit;
+    }
 
   private:
     friend class TextStore;
