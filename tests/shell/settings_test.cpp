@@ -211,8 +211,8 @@ TEST_F(SavedSettings, AnOrderOfOtherItemsIsDropped) {
 TEST_F(SavedSettings, ColumnsThatAreNotKnownAreSkipped) {
     const Text section = "Settings\\frmMain\\lvwXref1";
     Section(section + "\\Position") = {{"Family", "1"}, {"Gone", "2"}, {"*1", "3"}, {"*99", "4"}};
-    Section(section + "\\Width") = {{"Type", "wide"}, {"*3", "77"}, {"Gone", "5"}, {"Indi1", "-4"}};
-    Section(section + "\\Icon") = {{"Type", "OfDw"}, {"Indi2", "x"}};
+    Section(section + "\\Width") = {{"*3", "77"}, {"Gone", "wide"}, {"*99", "5"}};
+    Section(section + "\\Icon") = {{"Type", "OfDw"}, {"Gone", "x"}};
     Start([](OneRun& run) {
         Text columns;
         for (const Column& column : run.main.lvwXref1.Columns()) {
@@ -235,17 +235,20 @@ TEST_F(SavedSettings, AValueThatMeansNothingIsPassedOverAndKept) {
     Section("Settings\\frmMain\\chkInvertNames") = {{"CheckOrOptionBox", "1"}};
     Section(tabs + "0") = {{"CheckOrOptionBox", ""}};
     Section(order) = unreadable;
-    Section("Settings\\frmMain\\lvwXref1\\Width") = {{"Type", "wide"}};
+    Section("Settings\\frmMain\\lvwXref1\\Width") = {{"Type", "wide"}, {"Indi1", "-4"}};
+    Section("Settings\\frmMain\\lvwXref1\\Icon") = {{"Indi2", "x"}};
     Section("Settings\\frmMain\\lvwXref1\\Position") = {{"Type", "first"}};
     Section("Settings\\frmMain\\cboGedOut") = {{"000", " "}, {"001", "hidden"}};
     Section("Settings\\frmMain\\txtKinV") = {{"TextBox", "31"}};
     Start([&](OneRun& run) {
         Text told;
         for (const MessageBox& box : run.dialogs.boxes) told += box.text;
-        for (const TextView key : {"|Load/Settings\\frmMain/WinWidth|", "chkTips/CheckOrOptionBox|"}) {
+        for (const TextView key :
+             {"|Load/Settings\\frmMain/WinWidth|", "chkTips/CheckOrOptionBox|", "lvwXref1\\Width/Type|",
+              "lvwXref1\\Width/Indi1|", "lvwXref1\\Icon/Indi2|"}) {
             EXPECT_NE(told.find(key), Text::npos) << key;
         }
-        EXPECT_EQ(run.dialogs.boxes.size(), 5u) << told;
+        EXPECT_EQ(run.dialogs.boxes.size(), 8u) << told;
         EXPECT_EQ(run.main.Place.top, 20);
         EXPECT_EQ(run.main.Place.height, 800);
         EXPECT_TRUE(run.main.chkTips.Checked() && run.main.chkInvertNames.Checked());
@@ -258,6 +261,7 @@ TEST_F(SavedSettings, AValueThatMeansNothingIsPassedOverAndKept) {
     EXPECT_EQ(Section(tabs + "0")["CheckOrOptionBox"], "");
     EXPECT_EQ(Section(order), unreadable);
     EXPECT_EQ(Section("Settings\\frmMain\\lvwXref1\\Width")["Type"], "wide");
+    EXPECT_EQ(Section("Settings\\frmMain\\lvwXref1\\Icon")["Indi2"], "x");
     EXPECT_EQ(Section("Settings\\frmMain\\lvwXref1\\Position")["Type"], "first");
     EXPECT_EQ(Section("Settings\\frmMain\\cboGedOut"), (Values{{"000", "hidden"}}));
     EXPECT_EQ(Section("Settings\\frmMain\\txtKinV")["TextBox"], "31");
@@ -268,6 +272,9 @@ TEST_F(SavedSettings, AValueThatMeansNothingIsPassedOverAndKept) {
         run.main.optTabSpace.SetIndex(1);
         run.main.lbOuputPlacesOrder.Move(2, 0);
         run.main.lvwXref1.MoveColumn(Xref1::Indi2, 1);
+        run.main.lvwXref1.ColumnAt(Xref1::Type).Width = 300;
+        run.main.lvwXref1.ColumnAt(Xref1::Indi1).Width = 400;
+        run.main.lvwXref1.ColumnAt(Xref1::Indi2).Icon = "OfUp";
         run.main.Place.width = 1000;
         run.main.savedSettings.SaveAllControls();
     });

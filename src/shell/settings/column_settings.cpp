@@ -1,6 +1,7 @@
 #include "shell/settings/column_settings.h"
 
 #include "shell/settings/sorted_settings.h"
+#include "shell/settings/stored_controls.h"
 #include "text/edit.h"
 #include "text/ignoring_failures.h"
 #include "text/numbers.h"
@@ -34,9 +35,12 @@ void SetWidth(Column& column, TextView value) {
 void SetIcon(Column& column, TextView value) {
     for (const TextView selection : {"On", "Of"}) {
         for (const TextView sort : {"No", "Up", "Dw"}) {
-            if (value == Concat({selection, sort})) column.Icon = value;
+            if (value != Concat({selection, sort})) continue;
+            column.Icon = value;
+            return;
         }
     }
+    throw Failure(FailureKind::InvalidArgument);
 }
 
 }  // namespace
@@ -82,12 +86,16 @@ void GetColumsSettings(Application& app, Table& lvw, TextView sSection) {
                 ++position;
                 IgnoringFailures([&] { lvw.MoveColumn(ColumnNamed(lvw, name).Index, position); });
             }
-            for (const auto& pair : pairsBelow(kWidth)) {
-                IgnoringFailures([&] { SetWidth(ColumnNamed(lvw, pair.first), pair.second); });
-            }
-            for (const auto& pair : pairsBelow(kIcon)) {
-                IgnoringFailures([&] { SetIcon(ColumnNamed(lvw, pair.first), pair.second); });
-            }
+            const auto restore = [&](TextView name, auto set) {
+                for (const auto& pair : pairsBelow(name)) {
+                    Column* column = nullptr;
+                    IgnoringFailures([&] { column = &ColumnNamed(lvw, pair.first); });
+                    if (column == nullptr) continue;
+                    ReadValue(app, sSubSection, pair.first, [&] { set(*column, pair.second); });
+                }
+            };
+            restore(kWidth, SetWidth);
+            restore(kIcon, SetIcon);
         },
         [&] {
             return Concat({sSubSection, "/", lvw.Name()});

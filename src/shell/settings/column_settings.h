@@ -15,7 +15,7 @@ ColumnEntries EntriesOf(const Column& column, TextView sSection);
 bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection);
 
 /// Reads them back. A column that the section does not name stays as it is, as does one whose value means
-/// nothing.
+/// nothing, which is reported with its key. The name of a column that is gone is passed over.
 void GetColumsSettings(Application& app, Table& lvw, TextView sSection);
 
 }  // namespace swiftroll::modCommon
