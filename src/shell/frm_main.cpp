@@ -72,11 +72,11 @@ void frmMain::Form_Load(TextView sCommandLine) {
                 cboGedIn.SetText(file);
                 fileCombos.FileCombo_LostFocus(cboGedIn);
             }
-            // The check may have to wait for the network, and the user can end the wait.
+            // The check may have to wait for the network: the user can end the wait, and work meanwhile.
+            bStarting = false;
             Show();
             if (chkCheckUpdates.Checked()) updates.GetUpdates(true);
             savedSettings.RepeatNotice();
-            bStarting = false;
         },
         [&] {
             trail.ErrorLog(

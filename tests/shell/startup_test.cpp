@@ -30,6 +30,20 @@ TEST(Startup, WithoutADataFolderTheTemporaryOneServes) {
     EXPECT_EQ(main.sUserAppData, "/tmp");
 }
 
+TEST(Startup, TheUserIsToldOfANameThatIsTakenAsSoonAsTheWindowIsThere) {
+    TestPorts ports;
+    frmMain main(ports.All());
+    main.OnShow = [&] {
+        main.SetFocus(main.cboGedIn);
+        main.cboGedIn.SetText(main.cboFileModel.Get());
+        main.SetFocus(main.cmdLoad);
+    };
+    main.Form_Load({});
+    ASSERT_EQ(ports.dialogs.boxes.size(), 1u);
+    EXPECT_TRUE(ports.dialogs.boxes[0].text.starts_with("Vous allez écraser"_t))
+        << ports.dialogs.boxes[0].text;
+}
+
 TEST(Startup, TheCommandLineNamesAFileThatIsNotRead) {
     const std::pair<TextView, TextView> cases[] = {
         {" \"/gens/ma famille.ged\" ", "/gens/ma famille.ged"},
