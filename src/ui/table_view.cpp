@@ -44,8 +44,11 @@ TableView::TableView(Presenter& presenter, Table& table, QWidget* parent)
     presenter_.RegisterFocus(*this, table);
     presenter_.OnRefresh([this] { Refresh(); });
     table.OnEnsureVisible = [this](const Row& row) {
-        model_.Sync();
-        scrollTo(model_.index(row.Index() - 1, 0));
+        if (model_.Sync()) updateGeometries();
+        const QModelIndex index = model_.index(row.Index() - 1, 0);
+        if (isVisible()) return scrollTo(index);
+        // When it is shown, it may have another size.
+        awaited_ = index;
     };
 }
 
@@ -184,6 +187,8 @@ int TableView::LastRowInView() const {
 }
 
 void TableView::paintEvent(QPaintEvent*) {
+    // Only now is a view that was hidden laid out for certain.
+    scrollTo(std::exchange(awaited_, QPersistentModelIndex()));
     QPainter painter(viewport());
     if (model_.rowCount() == 0) return PaintHint(painter);
     const int height = RowHeight(), first = verticalScrollBar()->value(), current = CurrentRow();

@@ -77,6 +77,7 @@ class TableView : public QAbstractItemView {
     int pressedRow_ = -1;  // of a left press that may become a drag
     bool selectsOnRelease_ = false;
     int anchor_ = 0;
+    QPersistentModelIndex awaited_;  // the row to scroll to once the view is shown
     bool isShowingColumns_ = false;
 };
 

@@ -1,0 +1,82 @@
+// The search dialog beside the window, and what becomes the current row or comes into view without a click.
+#include <QMenu>
+#include <QScrollBar>
+#include <QWindow>
+
+#include "tables/columns.h"
+#include "window_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+constexpr int kCouples = 120;
+
+/// Couples without children, each in a family of its own.
+QByteArray ManyCouples() {
+    QByteArray people = "0 HEAD\n1 CHAR ANSI\n", families;
+    for (int i = 1; i <= kCouples; ++i) {
+        const QByteArray n = QByteArray::number(i);
+        people += "0 @H" + n + "@ INDI\n1 NAME Jean /Dupont/\n1 SEX M\n1 FAMS @F" + n + "@\n";
+        people += "0 @W" + n + "@ INDI\n1 NAME Anne /Martin/\n1 SEX F\n1 FAMS @F" + n + "@\n";
+        families += "0 @F" + n + "@ FAM\n1 HUSB @H" + n + "@\n1 WIFE @W" + n + "@\n";
+    }
+    return people + families + "0 TRLR\n";
+}
+
+class FindLife : public WindowTest {
+  protected:
+    void ClickCell(Table& table, int row, int column, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(View(table).viewport(), button, {}, CellAt(table, row, column));
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(&View(*Main().lvwActiveListView), key, modifiers);
+        QTest::qWait(20);
+    }
+    void GoTo(QWidget& window) {
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        QTest::qWait(20);
+    }
+    std::string Favorite() { return Find<QComboBox>("cboFavorites(0)").currentText().toStdString(); }
+    /// The key of the row that the next key down starts from.
+    Text CurrentKey() { return Main().lvwActiveListView->Current().value().Key(); }
+    void DismissMenu() {
+        OnDialog([](QWidget& popup) { popup.close(); });
+    }
+    bool IsInView(Table& table, TextView key) {
+        const int row = table.Item(key).Index() - 1;
+        const QRect cell = View(table).visualRect(View(table).model()->index(row, 0));
+        return cell.top() >= 0 && cell.bottom() < View(table).viewport()->height();
+    }
+    /// A double click on a cell of the last row of the present list.
+    void DoubleClickLast(Table& table, int column) {
+        QTest::keyClick(&View(table), Qt::Key_End);
+        View(table).horizontalScrollBar()->setValue(View(table).Header().sectionPosition(column));
+        const int row = table.Count() - 1 - View(table).verticalScrollBar()->value();
+        QTest::mouseDClick(View(table).viewport(), Qt::LeftButton, {}, CellAt(table, row, column));
+        QTest::qWait(50);
+    }
+};
+
+TEST_F(FindLife, AJumpShowsItsRowInAListThatWasHidden) {
+    Start();
+    const QSize smallest = Window().size();
+    Window().resize(smallest + QSize(0, 400));
+    QTest::qWait(20);
+    Read(ManyCouples());
+    ShowTab(0);
+    QTest::qWait(20);
+    ShowTab(2);
+    DoubleClickLast(Main().lvwFamilyXref, FamilyXref::IDFam - 1);
+    ASSERT_EQ(Window().Tabs().currentIndex(), 4);
+    const Text family = CurrentKey();
+    EXPECT_TRUE(IsInView(Main().lvwFamily, family)) << "in a list that was never shown";
+    Window().resize(smallest);
+    QTest::qWait(20);
+    DoubleClickLast(Main().lvwFamily, Family::IDWife - 1);
+    ASSERT_EQ(Window().Tabs().currentIndex(), 0);
+    EXPECT_TRUE(IsInView(Main().lvwIn, CurrentKey())) << "in a list that was larger";
+}
+
+}  // namespace
+}  // namespace swiftroll::test
