@@ -360,6 +360,7 @@ void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void TableView::MoveTo(int row, Qt::KeyboardModifiers modifiers) {
+    if (model_.rowCount() == 0) return;
     row = std::clamp(row, 0, model_.rowCount() - 1);
     presenter_.Act([&] {
         if (modifiers & Qt::ControlModifier) {
