@@ -30,6 +30,7 @@ void FindState::FindNext(Application& app, Table& table, ColumnId iFirstCol) {
         if (!wanted2.text.empty() && !holds(wanted2, iSecondCol)) continue;
         row.EnsureVisible();
         row.SetSelected(true);
+        table.SetCurrent(row);
         lFindNext = i + 1;
         app.pnlMessage.Set("");
         return;

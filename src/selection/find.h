@@ -24,9 +24,10 @@ struct FindState {
     std::int32_t lFindNext = 0;
 
     /// Goes to the next row of the table in which the column `iFirstCol` holds the text of the first
-    /// condition, and the second column that of the second unless it is empty. The row gets `Selected` and is
-    /// scrolled into view, and the next search begins behind it; without one nothing changes. The message
-    /// line tells which. @throws Failure IndexOutOfRange for a column that the table lacks
+    /// condition, and the second column that of the second unless it is empty. The row gets `Selected`, is
+    /// scrolled into view and becomes the current one, and the next search begins behind it; without one
+    /// nothing changes. The message line tells which. @throws Failure IndexOutOfRange for a column that the
+    /// table lacks
     void FindNext(Application& app, Table& table, ColumnId iFirstCol);
 };
 

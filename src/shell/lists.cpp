@@ -120,6 +120,7 @@ void Lists::mnuNextSelected_Click() {
             if (!row.Marked()) continue;
             row.SetSelected(true);
             row.EnsureVisible();
+            table.SetCurrent(row);
             lHitRow = i - 1;
             return;
         }

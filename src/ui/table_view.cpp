@@ -411,7 +411,10 @@ bool TableView::OnListKey(const QKeyEvent& event) {
     const std::optional<ListKey> key = ListKeyOf(event);
     if (!key) return false;
     presenter_.ActLater([this, key = *key] {
-        if (key.OpensMenu()) HitTestOfKeyboard();
+        if (key.OpensMenu()) {
+            HitTestOfKeyboard();
+            SetCurrent(presenter_.Main().lists.lHitRow);
+        }
         presenter_.Main().contextMenu.lvw_KeyDown(key);
     });
     return true;

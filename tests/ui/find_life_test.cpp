@@ -58,6 +58,42 @@ class FindLife : public WindowTest {
     }
 };
 
+TEST_F(FindLife, WhatAKeyLeadsToIsTheCurrentRow) {
+    Start();
+    Read(kFamily);
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    for (const TextView id : {"@I3@", "@I5@"}) table.Item(id).SetChecked(true);
+    const Text marked = table.Item("@I3@").Index() < table.Item("@I5@").Index() ? "@I3@" : "@I5@";
+    ClickCell(table, 0, In::LastName - 1);
+    Press(Qt::Key_N);
+    EXPECT_EQ(CurrentKey(), marked);
+    Press(Qt::Key_J);
+    EXPECT_EQ(Favorite(), marked + "^");
+    const int row = table.Item(marked).Index();
+    Press(Qt::Key_Down, {});
+    EXPECT_EQ(CurrentKey(), table.Item(row + 1).Key());
+    // The menu of the keyboard is about the row under the pointer.
+    ClickCell(table, 0, In::LastName - 1);
+    QTest::mouseMove(View(table).viewport(), CellAt(table, 2, In::LastName - 1));
+    OnDialog([](QWidget& popup) {
+        auto* add = popup.findChild<QAction*>(QStringLiteral("mnuAddFavorite"));
+        popup.close();
+        add->trigger();
+    });
+    Press(Qt::Key_Menu, {});
+    QTest::qWait(50);
+    EXPECT_EQ(Favorite(), table.Item(3).Key() + "^");
+    // A row that the search finds.
+    const Text wanted = table.Item(5).Key();
+    ClickCell(table, 4, In::FirstName - 1);
+    Press(Qt::Key_F);
+    GoTo(Window());
+    ClickCell(table, 0, In::FirstName - 1);
+    Press(Qt::Key_S);
+    EXPECT_EQ(CurrentKey(), wanted);
+}
+
 TEST_F(FindLife, AJumpShowsItsRowInAListThatWasHidden) {
     Start();
     const QSize smallest = Window().size();

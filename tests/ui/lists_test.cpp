@@ -196,9 +196,9 @@ TEST_F(Lists, TheMenuOfTheKeyboardIsAboutThePointerOrElseTheCurrentRow) {
         return rows.toStdString();
     };
     QWidget& list = *Viewport(table);
+    EXPECT_EQ(menuIsAbout(Find<QWidget>("cmdHelp"), QPoint(5, 5)), ".x...+") << "the current row";
     EXPECT_EQ(menuIsAbout(list, CellAt(table, 3, 0)), "...x.+");
     EXPECT_EQ(menuIsAbout(list, QPoint(20, list.height() - 2)), ".....-") << "below the rows";
-    EXPECT_EQ(menuIsAbout(Find<QWidget>("cmdHelp"), QPoint(5, 5)), ".x...+") << "the current row";
     // What lies below the viewport is no row, nor is what lies right of the columns.
     View(table).resize(View(table).width(), View(table).Header().height() + View(table).RowHeight() + 30);
     EXPECT_EQ(View(table).RowAt(QPoint(20, list.height() + 1)), -1);
