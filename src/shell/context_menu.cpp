@@ -49,7 +49,8 @@ void ContextMenu::lvw_MouseUp(MouseButton button) {
         app_.ports.dialogs.PopUp(mnuContext);
         clicked_ = clicked;
         MarkSubItems(iCol, false);
-        commands_.mnuFindPath.Enabled = commands_.mnuDrawKinship.Enabled = true;
+        commands_.mnuAddFavorite.Enabled = commands_.mnuFindPath.Enabled = commands_.mnuDrawKinship.Enabled =
+            true;
     });
 }
 

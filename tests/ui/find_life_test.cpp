@@ -94,6 +94,28 @@ TEST_F(FindLife, WhatAKeyLeadsToIsTheCurrentRow) {
     EXPECT_EQ(CurrentKey(), wanted);
 }
 
+TEST_F(FindLife, AMenuBesideTheRowsLeavesTheKeyOfTheFavorites) {
+    Start();
+    Read(kFamily);
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    QWidget& list = *View(table).viewport();
+    const auto addsFavorite = [&](int row) {
+        ClickCell(table, row, In::LastName - 1);
+        Press(Qt::Key_J);
+        EXPECT_EQ(Favorite(), table.Item(row + 1).Key() + "^");
+    };
+    DismissMenu();
+    QTest::mouseClick(&list, Qt::RightButton, {}, QPoint(20, list.height() - 2));
+    QTest::qWait(50);
+    addsFavorite(1);
+    DismissMenu();
+    QTabBar& tabs = *Window().Tabs().tabBar();
+    QTest::mouseClick(&tabs, Qt::RightButton, {}, tabs.tabRect(0).center());
+    QTest::qWait(50);
+    addsFavorite(2);
+}
+
 TEST_F(FindLife, AJumpShowsItsRowInAListThatWasHidden) {
     Start();
     const QSize smallest = Window().size();
