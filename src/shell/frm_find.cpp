@@ -69,6 +69,11 @@ void frmFind::Open(TextView sText) {
 }
 
 void frmFind::Activate() {
+    Refill();
+    SetFocus(cboTextToFind[0]);
+}
+
+void frmFind::Refill() {
     app_.trail.Guard(
         "Form_Activate",
         [this] {
@@ -84,7 +89,6 @@ void frmFind::Activate() {
             for (ComboBox& columns : cboColumns) columns.SetItems(Captions(table));
             cboColumns[0].SetListIndex(isOf(iFindCol1) ? iFindCol1.Section() : 0);
             cboColumns[1].SetListIndex(iFindCol2.Section());
-            SetFocus(cboTextToFind[0]);
         },
         [] { return Text(); });
 }

@@ -22,8 +22,12 @@ class frmFind : public Window {
 
     /// Shows the dialog with a text to look for.
     void Open(TextView sText);
-    /// To be called each time that the dialog comes to the front.
+    /// To be called each time that the dialog comes to the front: follows the active table, and gives the
+    /// focus to the text.
     void Activate();
+    /// The same where the focus is to stay: tells the options in force, and offers the active table's
+    /// columns.
+    void Refill();
     /// Looks for the next row with the conditions as they stand, without the dialog.
     void FindNext();
 

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QHBoxLayout>
 
 #include "dialogs.h"
@@ -73,6 +74,8 @@ SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
     column->setSizeConstraint(QLayout::SetFixedSize);
     auto* text = static_cast<QComboBox*>(presenter.WidgetOf(form.cboTextToFind[0]));
     dialog->onActivate = [&form, text] {
+        // A button that is pressed in the dialog as it comes to the front loses its click with the focus.
+        if (QApplication::mouseButtons() != Qt::NoButton) return form.Refill();
         form.Activate();
         // The text may have had the focus when the window was left.
         text->setFocus();

@@ -1,6 +1,7 @@
 #include "secondary_dialog.h"
 
 #include <QKeyEvent>
+#include <utility>
 
 #include "qt_text.h"
 #include "window_place.h"
@@ -11,17 +12,25 @@ SecondaryDialog::SecondaryDialog(Presenter& presenter, Window& window, QWidget* 
     : QDialog(owner), presenter_(presenter), window_(window) {
     presenter_.OnRefresh([this] { Refresh(); });
     KeepPlace(*this, window_, false);
+    window_.OnShow = [this] { isDueInFront_ = true; };
 }
 
 void SecondaryDialog::Refresh() {
     const QString title = ToQt(window_.Caption);
     if (windowTitle() != title) setWindowTitle(title);
-    if (isModal() || isVisible() == window_.Visible()) return;
+    if (isModal()) return;
+    const bool isDueInFront = std::exchange(isDueInFront_, false);
+    const bool wasVisible = isVisible();
+    if (wasVisible == window_.Visible() && !(wasVisible && isDueInFront)) return;
     if (!window_.Visible()) return hide();
-    RestorePlace(*this, window_);
-    show();
+    if (!wasVisible) {
+        RestorePlace(*this, window_);
+        show();
+    }
     raise();
     activateWindow();
+    // It may be the active one already, or the desktop may not let it become that.
+    if (wasVisible && onActivate) presenter_.ActLater([this] { onActivate(); });
 }
 
 void SecondaryDialog::reject() {

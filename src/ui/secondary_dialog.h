@@ -6,8 +6,8 @@
 
 namespace swiftroll::ui {
 
-/// A dialog that shows a window of controls: on the screen while the window is visible. Closing it, or
-/// Escape, only hides the window.
+/// A dialog that shows a window of controls: on the screen while the window is visible, and in front each
+/// time that the window is shown. Closing it, or Escape, only hides the window.
 class SecondaryDialog : public QDialog {
   public:
     SecondaryDialog(Presenter& presenter, Window& window, QWidget* owner);
@@ -15,7 +15,7 @@ class SecondaryDialog : public QDialog {
     std::function<void()> onClose;
     /// Topic of the manual that belongs to the dialog.
     int helpTopic = 0;
-    /// Called when the dialog comes to the front.
+    /// Called when the dialog comes to the front, and when its window is shown again.
     std::function<void()> onActivate;
 
     void reject() override;
@@ -28,6 +28,7 @@ class SecondaryDialog : public QDialog {
     void Refresh();
     Presenter& presenter_;
     Window& window_;
+    bool isDueInFront_ = false;  // the window was shown since the last refresh
 };
 
 }  // namespace swiftroll::ui

@@ -58,6 +58,40 @@ class FindLife : public WindowTest {
     }
 };
 
+TEST_F(FindLife, TheDialogComesForwardFilledAgainAndKeepsTheClickThatBroughtIt) {
+    Start();
+    Read(kFamily);
+    ShowTab(0);
+    Table& table = Main().lvwIn;
+    ClickCell(table, 4, In::FirstName - 1);
+    Press(Qt::Key_F);
+    auto* dialog = Window().findChild<QDialog*>(QStringLiteral("frmFind"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    QTest::qWait(20);
+    auto* text = dialog->findChild<QComboBox*>(QStringLiteral("cboTextToFind(0)"));
+    auto* column = dialog->findChild<QComboBox*>(QStringLiteral("cboColumns(0)"));
+    QTest::mouseClick(column, Qt::LeftButton);
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
+    GoTo(Window());
+    ClickCell(table, 0, In::LastName - 1);
+    Press(Qt::Key_F);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog, 500)) << "beside the window it is of no use";
+    QTest::qWait(20);
+    EXPECT_EQ(column->currentText(), QStringLiteral("Nom"));
+    EXPECT_EQ(text->lineEdit()->selectedText(), QStringLiteral("Dupont"));
+    EXPECT_TRUE(text->hasFocus());
+    // The press comes before the dialog is told that it is the active one.
+    GoTo(Window());
+    auto* next = dialog->findChild<QWidget*>(QStringLiteral("cmdFind"));
+    QWindow* window = dialog->windowHandle();
+    const QPoint middle = next->mapTo(dialog, next->rect().center());
+    QTest::mousePress(window, Qt::LeftButton, {}, middle);
+    GoTo(*dialog);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, middle);
+    QTest::qWait(20);
+    EXPECT_TRUE(table.Item("@I1@").Selected()) << "the click is lost";
+}
+
 TEST_F(FindLife, WhatAKeyLeadsToIsTheCurrentRow) {
     Start();
     Read(kFamily);
