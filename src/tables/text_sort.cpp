@@ -1,9 +1,10 @@
 #include "tables/text_sort.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstring>
+
+#include "tables/counting_sort.h"
 
 namespace swiftroll {
 namespace {
@@ -45,15 +46,16 @@ bool IsInOrder(const std::vector<TextView>& texts, bool descending) {
 
 /// Sorts by head, equal heads in their present order, by counting one byte after the other.
 void SortByHead(std::vector<Entry>& entries, const Pause& pause) {
-    constexpr unsigned kByteValues = 256;
+    constexpr std::size_t kByteValues = 256;
     std::vector<Entry> sorted(entries.size());
     for (unsigned shift = 0; shift < 64; shift += 8) {
-        std::array<std::size_t, kByteValues + 1> next{};
-        for (const Entry& entry : entries) ++next[(entry.head >> shift & 0xFF) + 1];
+        const auto byteOf = [&](std::size_t i) { return entries[i].head >> shift & 0xFF; };
+        const std::vector<std::uint32_t> starts = ListStarts(entries.size(), kByteValues, byteOf);
         // A byte that is the same everywhere needs no pass.
-        if (std::find(next.begin(), next.end(), entries.size()) != next.end()) continue;
-        for (unsigned value = 1; value <= kByteValues; ++value) next[value] += next[value - 1];
-        for (const Entry& entry : entries) sorted[next[entry.head >> shift & 0xFF]++] = entry;
+        const std::size_t first = byteOf(0);
+        if (starts[first + 1] - starts[first] == entries.size()) continue;
+        PutIntoLists(entries.size(), starts, byteOf,
+                     [&](std::uint32_t place, std::size_t i) { sorted[place] = entries[i]; });
         entries.swap(sorted);
         if (pause) pause();
     }
