@@ -53,17 +53,27 @@ Bounds LineAround(TextView record, std::size_t at) {
     return line;
 }
 
+/// Whether the value of a line with a level of one digit and a tag of four characters begins at `at`, with
+/// nothing out of the ordinary before it.
+bool BeginsPlainValue(TextView record, std::size_t at) {
+    constexpr std::size_t kHead = kTagLength + 3;
+    if (at < kHead || record[at - 1] != ' ' || record[at - kTagLength - 2] != ' ') return false;
+    const char level = record[at - kHead];
+    return level >= '0' && level <= '9' && (at == kHead || IsLineEnd(record[at - kHead - 1]));
+}
+
 /// Calls `visit(line, begin, rank)` for the lines of a record with one of the tags whose value is a
 /// reference; the rank is that of the tag. "@" is rare beside all the rest of a record, and few stand behind
 /// one of the tags: only their lines are split. Between an "@" of any kind and one that begins a value stand
-/// at least a tag and a blank, which the search leaps over. No line is split twice, so that long ones cost no
-/// more.
+/// at least a tag and a blank, and behind one that begins a value a line end and a whole head, which the
+/// search leaps over. No line is split twice, so that long ones cost no more.
 template <std::size_t kCount, class Visitor>
 void VisitReferences(TextView record, const TagCode (&tags)[kCount], Visitor visit) {
+    constexpr std::size_t kLeap = 1 + kTagLength + 1, kLeapOfValue = 1 + 1 + kTagLength + 3;
     std::size_t at = record.find('@');
     while (at != TextView::npos) {
         const TagCode* const tag = TagBefore(record, at, tags);
-        std::size_t next = at + kTagLength + 2;
+        std::size_t next = at + (BeginsPlainValue(record, at) ? kLeapOfValue : kLeap);
         if (tag != nullptr) {
             const Bounds bounds = LineAround(record, at);
             modReadGedcom::GedcomLine line;
