@@ -1,4 +1,5 @@
-// Families, their members, the links between individuals, and the marriage data of the spouses.
+// Families, their members, the links between individuals and the groups that these connect, and the marriage
+// data of the spouses.
 #include "gedcom/reader_fixture.h"
 #include "kinship/kinship_codes.h"
 #include "tables/columns.h"
@@ -7,6 +8,7 @@ namespace swiftroll::test {
 namespace {
 
 constexpr TextView kPeople =
+    "0 @U1@ SUBM\n1 NAME Not a person\n"
     "0 @I1@ INDI\n1 NAME Paul /A/\n1 SEX M\n0 @I2@ INDI\n1 NAME Marie /B/\n1 SEX F\n"
     "0 @I3@ INDI\n1 NAME Luc /C/\n1 SEX M\n0 @I4@ INDI\n1 NAME Eve /D/\n1 SEX F\n0 @I5@ INDI\n";
 
@@ -32,6 +34,7 @@ TEST(Families, AChildIsLinkedToTheHusbandAlone) {
     AfterFamilies t(
         "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 CHIL @I3@\n1 CHIL @I4@\n1 CHIL @I5@\n1 CHIL @I3@\n");
     EXPECT_EQ(t.Families(), Rows({"@F1@|@I1@|@I2@|||||=|Paul|Marie|"}));
+    EXPECT_EQ(t.main.lMaxLenFamily[Family::Fam], 18) << "as wide as the text";
     EXPECT_EQ(t.Members(),
               Rows({"@F1@|Epoux|@I1@|M|=|Paul", "@F1@|Epouse|@I2@|F|=|Marie", "@F1@|Fils|@I3@|M|=|Luc",
                     "@F1@|Fille|@I4@|F|=|Eve", "@F1@|Enfant|@I5@||=|"}));
@@ -161,6 +164,30 @@ TEST(Families, AliasesAreLinksUntilAFamilyLinksTheSamePair) {
     EXPECT_EQ(RowsOf(t.main.lvwXref),
               Rows({"@I1@|Epoux|@I2@|||@F1@| x ", "@I2@|Epouse|@I1@|||@F1@| x ", "@I2@|ALIA|@I3@||||",
                     "@I2@|ALIA|||||", "@I3@|ALIA|@I2@||||", "@I3@|ALIA|@X9@||||", "@X9@|ALIA|@I3@||||"}));
+}
+
+TEST(Islands, AreNumberedInTheOrderOfTheirFirstIndividuals) {
+    AfterReading t(
+        "0 @Z@ INDI\n0 @C2@ INDI\n0 @B@ INDI\n0 @H@ INDI\n0 @A@ INDI\n1 ALIA @B@\n0 @W@ INDI\n0 @C1@ INDI\n"
+        "0 @S@ INDI\n1 ALIA @S@\n0 @F1@ FAM\n1 HUSB @H@\n1 WIFE @W@\n1 CHIL @C1@\n1 CHIL @C2@\n0 TRLR\n");
+    EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::IslandNr}),
+              Rows({"@Z@|0001", "@C2@|0002", "@B@|0003", "@H@|0002", "@A@|0003", "@W@|0002", "@C1@|0002",
+                    "@S@|0004"}));
+}
+
+TEST(Islands, AChainOfAnyLengthIsOneIslandAndSinglePersonsAreOneEach) {
+    constexpr int kChain = 50'000, kSingle = 10'001;
+    Text file;
+    for (int i = 1; i <= kChain + kSingle; ++i) {
+        file += "0 @I" + Decimal(i) + "@ INDI\r\n";
+        if (i < kChain) file += "1 ALIA @I" + Decimal(i + 1) + "@\r\n";
+    }
+    TestMain t;
+    t.Read(file + "0 TRLR\r\n");
+    EXPECT_EQ(t.main.lvwXref.Count(), 2 * (kChain - 1));
+    ASSERT_EQ(t.main.lvwIn.Count(), kChain + kSingle);
+    for (int i = 1; i <= kChain + kSingle; ++i)
+        ASSERT_EQ(t.main.lvwIn.Item(i).Cell(In::IslandNr), Decimal(std::max(1, i + 1 - kChain), 4)) << i;
 }
 
 }  // namespace

@@ -135,58 +135,5 @@ TEST(ReadCommand, ASecondReadReplacesAllButTheList) {
     }
 }
 
-TEST(ReadCommand, ASmallFileFillsAllTables) {
-    const Text text(
-        "0 HEAD\n1 SOUR X\n2 VERS 4\n1 CHAR ANSI\n0 @U1@ SUBM\n1 NAME Not a person\n"
-        "0 @I1@ INDI\n1 NAME Jean Noël /LEFÈVRE/ fils\n1 SEX M\n1 BIRT\n2 DATE ABT 1750\n"
-        "2 PLAC Étaples, Pas-de-Calais,,\n"
-        "1 DEAT Y\n2 DATE BET 3 JAN 1801 AND 1803\n1 FAMS @F2@\n1 FAMS @F10@\n"
-        "0 @I2@ INDI\n1 NAME Anne /MARTIN/\n1 SEX F\n1 CHR\n2 DATE 1755\n1 FAMS @F10@\n"
-        "0 @I3@ INDI\n1 NAME Rose /PETIT/\n1 SEX F\n1 DEAT\n2 PLAC Lille\n2 DATE 1830/31\n1 FAMS @F2@\n"
-        "1 ALIA @I5@\n0 @I4@ INDI\n1 NAME Luc /LEFÈVRE/\n1 SEX M\n1 FAMC @F10@\n"
-        "0 @I5@ INDI\n1 NAME Rosine /PETIT/\n1 NOTE @N1@\n0 @I6@ INDI\n1 NAME Inconnu\n"
-        "0 @N1@ NOTE text\n1 CONT 1 NAME no\n"
-        "0 @F2@ FAM\n1 HUSB @I1@\n1 WIFE @I3@\n1 MARC\n2 DATE 1790\n1 MARR\n2 DATE 12 FEB 1791\n"
-        "2 PLAC Lille\n"
-        "0 @F10@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 CHIL @I4@\n1 MARR\n2 DATE 1775\n0 TRLR\n"_t);
-    AfterReading t(text);
-    const Text jean("LEFÈVRE, Jean Noël/fils"_t), pair10 = jean + " x MARTIN, Anne",
-                                                  pair2 = jean + " x PETIT, Rose";
-    const auto rows = [&](Table& table) {
-        std::vector<Text> all = RowsOf(table);
-        for (Text& row : all)
-            row = ReplaceAll(ReplaceAll(ReplaceAll(row, pair10, "<F10>"), pair2, "<F2>"), jean, "<I1>");
-        return all;
-    };
-    EXPECT_EQ(rows(t.main.lvwIn),
-              Rows({"@I1@|LEFÈVRE|Jean Noël/fils|Étaples, Pas-de-Calais|1750|1750||1801|1803|"
-                    "Étaples, Pas-de-Calais|1750|1803|M|Lille|1790|1791|0001"_t,
-                    "@I2@|MARTIN|Anne||||||||1775|1775|F||1775|1775|0001",
-                    "@I3@|PETIT|Rose||||Lille|1830|1830|Lille|1790|1830|F|Lille|1790|1791|0001",
-                    "@I4@|LEFÈVRE|Luc||||||||||M||||0001"_t, "@I5@|PETIT|Rosine||||||||||||||0001",
-                    "@I6@|Inconnu|||||||||||||||0002"}));
-    EXPECT_EQ(rows(t.main.lvwFamily), Rows({"@F10@|@I1@|@I2@|||1775|1775|<F10>|<I1>|MARTIN, Anne|",
-                                            "@F2@|@I1@|@I3@||Lille|1790|1791|<F2>|<I1>|PETIT, Rose|"}));
-    EXPECT_EQ(rows(t.main.lvwFamilyXref),
-              Rows({"@F10@|Epoux|@I1@|M|<F10>|<I1>", "@F10@|Epouse|@I2@|F|<F10>|MARTIN, Anne",
-                    "@F10@|Fils|@I4@|M|<F10>|LEFÈVRE, Luc"_t, "@F2@|Epoux|@I1@|M|<F2>|<I1>",
-                    "@F2@|Epouse|@I3@|F|<F2>|PETIT, Rose"}));
-    EXPECT_EQ(
-        rows(t.main.lvwXref),
-        Rows({"@I1@|Epoux|@I2@|<I1>|MARTIN, Anne|@F10@|<F10>",
-              "@I1@|Père|@I4@|<I1>|LEFÈVRE, Luc|@F10@|<F10>"_t, "@I1@|Epoux|@I3@|<I1>|PETIT, Rose|@F2@|<F2>",
-              "@I2@|Epouse|@I1@|MARTIN, Anne|<I1>|@F10@|<F10>", "@I3@|ALIA|@I5@||||",
-              "@I3@|Epouse|@I1@|PETIT, Rose|<I1>|@F2@|<F2>", "@I4@|Fils|@I1@|LEFÈVRE, Luc|<I1>|@F10@|<F10>"_t,
-              "@I5@|ALIA|@I3@||||"}));
-    EXPECT_EQ(Panels(t.main),
-              Rows({"Ligne(s) GEDCOM : 57"_t, "6 Individu(s)"_t, "2 Famille(s)"_t, "Lecture terminée"_t}));
-    EXPECT_EQ(t.main.reader.lines.colRecords().Count(), 10u);
-    EXPECT_EQ(Slice(WithCrLf(text), t.main.lvwIn.Item("@I6@")), "0 @I6@ INDI\r\n1 NAME Inconnu\r\n");
-    // Widths for the export are those of the widest texts.
-    EXPECT_EQ(t.main.lMaxLenIn[In::Place], 22);
-    EXPECT_EQ(t.main.lMaxLenFamily[Family::Fam], 38);
-    EXPECT_EQ(t.main.trail.Reports(), 0);
-}
-
 }  // namespace
 }  // namespace swiftroll::test

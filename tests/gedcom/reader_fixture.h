@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-
 #include "gedcom/line_reader.h"
 #include "support/test_ports.h"
 #include "text/edit.h"
@@ -16,17 +14,6 @@ namespace swiftroll::test {
 struct AfterReading : TestMain {
     explicit AfterReading(TextView text) { Read(WithCrLf(text)); }
 };
-
-/// Some cells of every row, joined by "|".
-inline std::vector<Text> CellsOf(Table& table, std::initializer_list<ColumnId> columns) {
-    std::vector<Text> rows;
-    for (std::int32_t i = 1; i <= table.Count(); ++i) {
-        Text text;
-        for (const ColumnId column : columns) text += Concat({"|", table.Item(i).Cell(column)});
-        rows.push_back(text.substr(1));
-    }
-    return rows;
-}
 
 /// A file of one individual for each body of sub-lines, "@I1@" and so on, and a closing line.
 inline Text Individuals(const std::vector<Text>& bodies) {

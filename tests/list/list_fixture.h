@@ -41,15 +41,6 @@ inline std::vector<Text> ListOf(frmMain& main) {
     return rows;
 }
 
-/// The cells of one column in the order of the rows.
-inline std::vector<Text> ColumnOf(Table& table, TextView key) {
-    std::vector<Text> cells;
-    for (std::int32_t i = 1; i <= table.Count(); ++i) {
-        cells.emplace_back(table.Item(i).Cell(table.FindColumn(key)->Index));
-    }
-    return cells;
-}
-
 using Texts = std::vector<Text>;
 
 }  // namespace swiftroll::test

@@ -60,6 +60,16 @@ std::vector<Text> RowsOf(Table& table) {
     return rows;
 }
 
+std::vector<Text> CellsOf(Table& table, std::initializer_list<ColumnId> columns) {
+    std::vector<Text> rows;
+    for (std::int32_t i = 1; i <= table.Count(); ++i) {
+        Text text;
+        for (const ColumnId column : columns) text += Concat({"|", table.Item(i).Cell(column)});
+        rows.push_back(text.substr(1));
+    }
+    return rows;
+}
+
 Text RowText(const Row& row) {
     Text text;
     for (int section = 0; section < row.ColumnCount(); ++section) {

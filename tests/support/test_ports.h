@@ -162,6 +162,8 @@ struct TestMain : TestPorts {
 std::vector<Text> RowsOf(Table& table);
 /// Rows to compare with them.
 inline std::vector<Text> Rows(std::initializer_list<TextView> rows) { return {rows.begin(), rows.end()}; }
+/// Some cells of every row, joined by "|".
+std::vector<Text> CellsOf(Table& table, std::initializer_list<ColumnId> columns);
 /// One row, cells joined by "|".
 Text RowText(const Row& row);
 /// `text` with "\n" as "\r\n".
