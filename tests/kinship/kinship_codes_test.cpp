@@ -58,21 +58,5 @@ TEST(KinshipCodes, EndWhereThereIsNoWayForward) {
     EXPECT_EQ(codes.Of(4), "");
 }
 
-TEST(GetSpouseID, GivesTheOtherOneOfTheFamily) {
-    AfterRead t({"Man m", "Woman f", "Some"}, {"Man Woman Some", "Some Ghost", "Man -", "Man Ghost"});
-    const auto spouse = [&](TextView id, TextView family) {
-        return modKinship::GetSpouseID(t.main, t.main.trail, id, family);
-    };
-    EXPECT_EQ(spouse("@Man@", "@F1@"), "@Woman@");
-    EXPECT_EQ(spouse("@Woman@", "@F1@"), "@Man@");
-    EXPECT_EQ(spouse("@Some@", "@F2@"), "UnknownID");
-    EXPECT_EQ(spouse("@Man@", "@F3@"), "UnknownID");
-    EXPECT_EQ(spouse("@Man@", "@F4@"), "UnknownID") << "there is no record of her";
-    EXPECT_EQ(t.main.trail.Reports(), 0);
-    EXPECT_EQ(spouse("@Man@", "@F9@"), "");
-    EXPECT_EQ(t.main.trail.Reports(), 1);
-    EXPECT_NE(t.dialogs.boxes.back().text.find("|@Man@/@F9@|"), Text::npos);
-}
-
 }  // namespace
 }  // namespace swiftroll::test

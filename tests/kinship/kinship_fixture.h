@@ -11,9 +11,9 @@
 namespace swiftroll::test {
 
 /// A family of a file: "H W C1 C2 ...", "-" where there is no husband or no wife.
-inline Text FamilyFile(const std::vector<TextView>& people, const std::vector<TextView>& families) {
+inline Text FamilyFile(const std::vector<Text>& people, const std::vector<Text>& families) {
     Text file;
-    for (const TextView person : people) {
+    for (const Text& person : people) {
         // "Anne f": a name and a sex.
         const auto words = Split(person, " ");
         file += Concat({"0 @", words[0], "@ INDI\r\n1 NAME ", words[0], " /de ", words[0], "/\r\n"});
@@ -33,7 +33,7 @@ inline Text FamilyFile(const std::vector<TextView>& people, const std::vector<Te
 /// An application that has read a file.
 struct AfterRead : TestMain {
     explicit AfterRead(TextView file) { Read(file); }
-    AfterRead(const std::vector<TextView>& people, const std::vector<TextView>& families)
+    AfterRead(const std::vector<Text>& people, const std::vector<Text>& families)
         : AfterRead(FamilyFile(people, families)) {}
 
     void Find(TextView from, TextView to) {
