@@ -18,6 +18,14 @@ Text Described(const GridCell& cell) {
                    cell.kind == CellKind::Marriage ? Decimal(cell.span) : Text(), cell.id});
 }
 
+/// The cells of the paths from a row on.
+std::vector<Text> CellsOf(AfterRead& t, std::int32_t row, bool spouses) {
+    std::vector<Text> cells;
+    for (const GridCell& cell : modKinshipOutput::MakeKinshipTable(t.main, t.main.trail, row, spouses).asGrid)
+        cells.push_back(Described(cell));
+    return cells;
+}
+
 /// Three generations: the grandparents' children Dad and Aunt; Dad's child Kid, Aunt's child Cousin, and the
 /// Cousin's wife with her father.
 struct Family : AfterRead {
@@ -31,11 +39,6 @@ struct Family : AfterRead {
     KinshipGrid Grid(std::int32_t row, bool spouses) {
         return modKinshipOutput::MakeKinshipTable(main, main.trail, row, spouses);
     }
-    std::vector<Text> Cells(std::int32_t row, bool spouses) {
-        std::vector<Text> cells;
-        for (const GridCell& cell : Grid(row, spouses).asGrid) cells.push_back(Described(cell));
-        return cells;
-    }
 };
 
 TEST(KinshipGrid, PutsThePeopleOfThePathAlone) {
@@ -43,7 +46,7 @@ TEST(KinshipGrid, PutsThePeopleOfThePathAlone) {
     EXPECT_EQ(
         t.Paths(),
         Rows({"000001 Kid Fils Dad Fils Opa Père Aunt Mère Cousin Epoux Wife Fille Pop (001, 0007)"_t}));
-    EXPECT_EQ(t.Cells(1, false),
+    EXPECT_EQ(CellsOf(t, 1, false),
               Rows({"1,-4 @Opa@", "0,-3 ChildLeft", "1,-3 2Children1Parent", "0,-2 @Dad@", "2,-2 @Aunt@",
                     "4,-2 @Pop@", "0,-1 1Child1Parent", "2,-1 1Child1Parent", "4,-1 1Child1Parent",
                     "0,0 @Kid@", "2,0 @Cousin@", "3,0 x1@F4@", "4,0 @Wife@"}));
@@ -53,54 +56,54 @@ TEST(KinshipGrid, PutsThePeopleOfThePathAlone) {
     EXPECT_EQ(grid.lMinY, -4);
     EXPECT_EQ(grid.lMaxY, 0);
     // From the middle of the path on.
-    EXPECT_EQ(t.Cells(5, false),
+    EXPECT_EQ(CellsOf(t, 5, false),
               Rows({"2,-2 @Pop@", "2,-1 1Child1Parent", "0,0 @Cousin@", "1,0 x1@F4@", "2,0 @Wife@"}));
 }
 
 TEST(KinshipGrid, PutsCouplesWhole) {
     Family t;
-    EXPECT_EQ(t.Cells(1, true), Rows({"1,-4 @Oma@",
-                                      "2,-4 x1@F1@",
-                                      "3,-4 @Opa@",
-                                      "1,-3 ChildLeft",
-                                      "2,-3 2Children2Parents",
-                                      "-1,-2 @Mom@",
-                                      "0,-2 x1@F2@",
-                                      "1,-2 @Dad@",
-                                      "3,-2 @Aunt@",
-                                      "4,-2 x1@F3@",
-                                      "5,-2 @Uncle@",
-                                      "7,-2 ?",
-                                      "8,-2 x1@F5@",
-                                      "9,-2 @Pop@",
-                                      "0,-1 1Child2Parents",
-                                      "4,-1 1Child2Parents",
-                                      "8,-1 1Child2Parents",
-                                      "0,0 @Kid@",
-                                      "4,0 @Cousin@",
-                                      "5,0 x3@F4@",
-                                      "8,0 @Wife@"}));
+    EXPECT_EQ(CellsOf(t, 1, true), Rows({"1,-4 @Oma@",
+                                         "2,-4 x1@F1@",
+                                         "3,-4 @Opa@",
+                                         "1,-3 ChildLeft",
+                                         "2,-3 2Children2Parents",
+                                         "-1,-2 @Mom@",
+                                         "0,-2 x1@F2@",
+                                         "1,-2 @Dad@",
+                                         "3,-2 @Aunt@",
+                                         "4,-2 x1@F3@",
+                                         "5,-2 @Uncle@",
+                                         "7,-2 ?",
+                                         "8,-2 x1@F5@",
+                                         "9,-2 @Pop@",
+                                         "0,-1 1Child2Parents",
+                                         "4,-1 1Child2Parents",
+                                         "8,-1 1Child2Parents",
+                                         "0,0 @Kid@",
+                                         "4,0 @Cousin@",
+                                         "5,0 x3@F4@",
+                                         "8,0 @Wife@"}));
     const KinshipGrid grid = t.Grid(1, true);
     EXPECT_EQ(grid.lMinX, -1);
     EXPECT_EQ(grid.lMaxX, 9);
     EXPECT_EQ(t.main.trail.Reports(), 0);
 }
 
+TEST(KinshipGrid, ThePartnerOfSomebodyWithoutSexIsUnknown) {
+    AfterRead t({"Dad", "Mom f", "Kid m"}, {"Dad Mom Kid"});
+    t.Find("Dad", "Kid");
+    EXPECT_EQ(CellsOf(t, 1, true),
+              Rows({"0,0 @Dad@", "1,0 x1@F1@", "2,0 ?", "1,1 1Child2Parents", "1,2 @Kid@"}));
+}
+
 TEST(KinshipGrid, APartnerWithoutRecordIsUnknownAndAMissingFamilyIsReported) {
     AfterRead t({"Dad m", "Kid m"}, {"Dad Ghost Kid"});
     t.Find("Dad", "Kid");
-    const auto cells = [&] {
-        std::vector<Text> texts;
-        for (const GridCell& cell :
-             modKinshipOutput::MakeKinshipTable(t.main, t.main.trail, 1, true).asGrid) {
-            texts.push_back(Described(cell));
-        }
-        return texts;
-    };
-    EXPECT_EQ(cells(), Rows({"0,0 @Dad@", "1,0 x1@F1@", "2,0 ?", "1,1 1Child2Parents", "1,2 @Kid@"}));
+    EXPECT_EQ(CellsOf(t, 1, true),
+              Rows({"0,0 @Dad@", "1,0 x1@F1@", "2,0 ?", "1,1 1Child2Parents", "1,2 @Kid@"}));
     EXPECT_EQ(t.main.trail.Reports(), 0);
     t.main.lvwFamily.Clear();
-    EXPECT_EQ(cells(), Rows({"0,0 @Dad@", "1,0 x1@F1@", "1,1 1Child2Parents", "1,2 @Kid@"}));
+    EXPECT_EQ(CellsOf(t, 1, true), Rows({"0,0 @Dad@", "1,0 x1@F1@", "1,1 1Child2Parents", "1,2 @Kid@"}));
     EXPECT_EQ(t.main.trail.Reports(), 1);
 }
 
