@@ -7,9 +7,8 @@ namespace {
 struct Extrait : CliTest {};
 
 TEST_F(Extrait, WritesTheMarkedIndividuals) {
-    const Outcome run = Cli({"extrait", "f.ged", "-o", "x.ged", "--marquer", "@I3@"});
-    EXPECT_EQ(run.code, 0) << run.err;
-    EXPECT_TRUE(run.Says("Extrait écrit : 1 individu(s), 1 famille(s)\n")) << run.err;
+    Cli({"extrait", "f.ged", "-o", "x.ged", "--marquer", "@I3@"})
+        .Ends(0, "Extrait écrit : 1 individu(s), 1 famille(s)\n");
     const std::string child =
         kFamily.substr(kFamily.find("0 @I3@"), kFamily.find("0 @F1@") - kFamily.find("0 @I3@"));
     const std::string expected =
@@ -30,13 +29,9 @@ TEST_F(Extrait, IsRefusedWhereDataWouldBeLost) {
     EXPECT_EQ(Cli({"extrait", "f.ged", "-o", "g.ged"}).code, 1);
     EXPECT_EQ(Bytes("g.ged"), "old");
     EXPECT_EQ(Cli({"extrait", "f.ged", "-o", "g.ged", "-f"}).code, 0);
-    const Outcome without = Cli({"extrait", "f.ged", "-o", "y.ged", "--sans-familles"});
-    EXPECT_EQ(without.code, 1);
-    EXPECT_TRUE(without.Says("--sans-familles"));
+    Cli({"extrait", "f.ged", "-o", "y.ged", "--sans-familles"}).Ends(1, "--sans-familles");
     EXPECT_FALSE(Exists("y.ged"));
-    const Outcome full = Cli({"extrait", "f.ged", "-o", "/dev/full", "-f", "-q"});
-    EXPECT_EQ(full.code, 1);
-    EXPECT_TRUE(full.Says("disque est plein")) << full.err;
+    Cli({"extrait", "f.ged", "-o", "/dev/full", "-f", "-q"}).Ends(1, "disque est plein");
 }
 
 }  // namespace

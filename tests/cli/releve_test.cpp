@@ -41,10 +41,22 @@ TEST_F(Releve, TheStylesheetStandsBesideTheList) {
     EXPECT_EQ(Cli(kWrite + Strings{"-"} + options).code, 2);
 }
 
+TEST_F(Releve, TheShippedStylesheetMakesThePageOfTheList) {
+    ASSERT_EQ(Cli({"releve", kExample, "-o", "list.xml", "--xsl"}).code, 0);
+    const std::string command =
+        "cd '" + folder_.string() + "' && xsltproc list.xsl list.xml >page.html 2>log";
+    ASSERT_EQ(std::system(command.c_str()), 0) << Bytes("log");
+    const std::string list = Bytes("list.xml"), page = Bytes("page.html");
+    const std::size_t rows = CountOf("<INDI>", list), entries = CountOf("<tag>", list);
+    EXPECT_GT(rows, 0u);
+    EXPECT_EQ(CountOf("<tr", page), rows + 1) << "a row for each group, and the header";
+    EXPECT_EQ(CountOf("href=\"#SR_", page), entries);
+    EXPECT_EQ(CountOf("id=\"SR_", page), entries) << "every link of the index leads to a row";
+}
+
 TEST_F(Releve, AnExistingOutputIsLeftAloneUnlessItMayBeOverwritten) {
     const Outcome refused = Cli({"releve", "none.ged", "-o", "old.html"});
-    EXPECT_EQ(refused.code, 1);
-    EXPECT_TRUE(refused.Says("old.html")) << refused.err;
+    refused.Ends(1, "old.html");
     EXPECT_FALSE(refused.Says("InitGed")) << "refused before anything is read: " << refused.err;
     EXPECT_EQ(Bytes("old.html"), "before");
     EXPECT_EQ(Cli(kWrite + Strings{"old.html", "--ecraser"}).code, 0);
@@ -77,15 +89,12 @@ TEST_F(Releve, WhatCannotBeWrittenFails) {
         {{"old.html", "--modele", "bad"}, "- HTML/XSL/TXT : Le fichier modèle"}};
     for (const auto& [options, message] : cases) {
         const Outcome run = Cli(kReplace + options);
-        EXPECT_EQ(run.code, 1) << options[0] << run.err;
-        EXPECT_TRUE(run.Says(message)) << message << "\n" << run.err;
+        run.Ends(1, message);
         EXPECT_FALSE(Exists("x.html"));
     }
     EXPECT_EQ(Bytes("old.html"), "before");
     for (const char* format : {"html", "texte", "xml"}) {
-        const Outcome run = Cli(kReplace + Strings{"/dev/full", "--format", format});
-        EXPECT_EQ(run.code, 1) << format;
-        EXPECT_TRUE(run.Says("/dev/full")) << format;
+        Cli(kReplace + Strings{"/dev/full", "--format", format}).Ends(1, "/dev/full");
         EXPECT_EQ(Cli(kWrite + Strings{"-", "--format", format}, "/dev/full").code, 1) << format;
     }
 }
@@ -129,8 +138,7 @@ TEST_F(Releve, TheDateOfTheRunCanBeGiven) {
 
 TEST_F(Releve, AnInterruptedReadWritesNothing) {
     const Outcome run = CliInterrupted({"releve", "fifo", "-f", "-o", "old.html"});
-    EXPECT_EQ(run.code, 3) << run.err;
-    EXPECT_TRUE(run.Says("Interrompu par l'utilisateur !")) << run.err;
+    run.Ends(3, "Interrompu par l'utilisateur !");
     EXPECT_EQ(Bytes("old.html"), "before");
 }
 

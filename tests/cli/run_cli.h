@@ -51,6 +51,12 @@ inline Strings Split(const std::string& text, char separator) {
     return parts;
 }
 
+inline std::size_t CountOf(const std::string& what, const std::string& text) {
+    std::size_t count = 0;
+    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++count;
+    return count;
+}
+
 inline const std::string kExample = std::string(SWIFTROLL_EXAMPLES) + "/famille.ged";
 
 /// What a run of the program left.
@@ -58,6 +64,11 @@ struct Outcome {
     int code = -1;
     std::string out, err;
     bool Says(const std::string& text) const { return err.find(text) != std::string::npos; }
+    /// Expects the exit code, and a message that tells why.
+    void Ends(int expectedCode, const std::string& message) const {
+        EXPECT_EQ(code, expectedCode) << message << "\n" << err;
+        EXPECT_TRUE(Says(message)) << message << "\n" << err;
+    }
     /// The lines of standard output.
     Strings Lines() const { return Split(out, '\n'); }
 };
@@ -117,6 +128,8 @@ class CliTest : public testing::Test {
     /// Further variables of the environment, "NAME=value".
     Strings environment;
 
+    std::filesystem::path folder_;
+
   private:
     /// False when nobody reads any more.
     static bool WriteAll(int fd, std::string_view bytes) {
@@ -153,8 +166,6 @@ class CliTest : public testing::Test {
         const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
         return {code, Bytes(".stdout"), Bytes(".stderr")};
     }
-
-    std::filesystem::path folder_;
 };
 
 }  // namespace swiftroll::test
