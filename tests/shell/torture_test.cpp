@@ -213,7 +213,7 @@ void Monkey::Act() {
     --acts_;
     ++depth_;
     story += "(";
-    const bool wasLocked = main.bTablesLocked;
+    const bool wasLocked = main.bTablesLocked, wasWaiting = main.bWaitCursor;
     if (onlyLooks) {
         if (dice_.OneIn(4)) {
             WorkWithTheTabs();
@@ -224,6 +224,7 @@ void Monkey::Act() {
         DoAnything();
     }
     EXPECT_EQ(main.bTablesLocked, wasLocked);
+    EXPECT_EQ(main.bWaitCursor, wasWaiting);
     CheckTables();
     story += ")";
     --depth_;
