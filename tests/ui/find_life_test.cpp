@@ -62,9 +62,7 @@ class FindLife : public WindowTest {
 };
 
 TEST_F(FindLife, TheDialogComesForwardFilledAgainAndKeepsTheClickThatBroughtIt) {
-    Start();
-    Read(kFamily);
-    ShowTab(0);
+    StartWithFamily();
     Table& table = Main().lvwIn;
     ClickCell(table, 4, In::FirstName - 1);
     Press(Qt::Key_F);
@@ -91,12 +89,14 @@ TEST_F(FindLife, TheDialogComesForwardFilledAgainAndKeepsTheClickThatBroughtIt) 
     QTest::mouseRelease(window, Qt::LeftButton, {}, middle);
     QTest::qWait(20);
     EXPECT_TRUE(table.Item("@I1@").Selected()) << "the click is lost";
+    QTest::mouseClick(dialog->findChild<QWidget*>(QStringLiteral("cmdFindNext")), Qt::LeftButton);
+    EXPECT_TRUE(table.Item("@I3@").Selected());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
 }
 
 TEST_F(FindLife, WhatAKeyLeadsToIsTheCurrentRow) {
-    Start();
-    Read(kFamily);
-    ShowTab(0);
+    StartWithFamily();
     Table& table = Main().lvwIn;
     for (const TextView id : {"@I3@", "@I5@"}) table.Item(id).SetChecked(true);
     const Text marked = table.Item("@I3@").Index() < table.Item("@I5@").Index() ? "@I3@" : "@I5@";
@@ -130,9 +130,7 @@ TEST_F(FindLife, WhatAKeyLeadsToIsTheCurrentRow) {
 }
 
 TEST_F(FindLife, AMenuBesideTheRowsLeavesTheKeyOfTheFavorites) {
-    Start();
-    Read(kFamily);
-    ShowTab(0);
+    StartWithFamily();
     Table& table = Main().lvwIn;
     QWidget& list = *View(table).viewport();
     const auto addsFavorite = [&](int row) {

@@ -68,9 +68,7 @@ TEST_F(Journey, ANewcomerReadsAFileMovesAColumnAndWritesTheList) {
 }
 
 TEST_F(Journey, TwoMarkedRowsLeadToADrawing) {
-    Start();
-    Read(kFamily);
-    ShowTab(0);
+    StartWithFamily();
     QTest::mouseClick(View(Main().lvwIn).viewport(), Qt::LeftButton, {}, CellAt(Main().lvwIn, 0, 1));
     QTest::mouseClick(View(Main().lvwIn).viewport(), Qt::LeftButton, Qt::ControlModifier,
                       CellAt(Main().lvwIn, 4, 1));

@@ -22,6 +22,13 @@ class Preview : public WindowTest {
     ui::PreviewDialog& Dialog() {
         return *dynamic_cast<ui::PreviewDialog*>(Window().findChild<QDialog*>(QStringLiteral("frmPreview")));
     }
+    /// Boxes that take several sheets.
+    void Enlarge() {
+        program_->ThePresenter().Act([this] {
+            Main().txtKinHeight.SetText("900");
+            Main().txtKinWidth.SetText("1500");
+        });
+    }
     void Print() {
         ShowTab(0);
         ShowTab(5);
@@ -67,10 +74,7 @@ TEST_F(Preview, ShowsPrintsAndExportsTheDrawing) {
 
 TEST_F(Preview, ALargeDrawingTakesSheetsOrFitsOne) {
     StartWithPaths();
-    program_->ThePresenter().Act([this] {
-        Main().txtKinHeight.SetText("900");
-        Main().txtKinWidth.SetText("1500");
-    });
+    Enlarge();
     Print();
     EXPECT_GT(Dialog().Sheets().Count(), 3);
     EXPECT_EQ(Main().preview.PageCount(), Dialog().Sheets().Count());
@@ -83,11 +87,8 @@ TEST_F(Preview, ALargeDrawingTakesSheetsOrFitsOne) {
 
 TEST_F(Preview, OpensOnTheFirstPageAndTellsOfAPrinterThatFails) {
     StartWithPaths();
-    program_->ThePresenter().Act([this] {
-        Main().txtKinHeight.SetText("900");
-        Main().txtKinWidth.SetText("1500");
-        Main().preview.SetZoom(75);
-    });
+    Enlarge();
+    program_->ThePresenter().Act([this] { Main().preview.SetZoom(75); });
     Print();
     Click("cmdNextPage");
     EXPECT_EQ(Find<QLineEdit>("txtPageNr").text(), QStringLiteral("2"));
@@ -112,8 +113,7 @@ TEST_F(Preview, KeepsItsZoomFromOneRunToTheNext) {
     const std::vector<Text> zooms = Main().preview.cboZoom.Items();
     for (int run = 0; run < 2; ++run) {
         Click("cmdExit");
-        program_ = std::make_unique<ui::DesktopApplication>();
-        Start();
+        StartAgain();
         EXPECT_EQ(Main().preview.Zoom(), zoom);
         EXPECT_EQ(Main().preview.cboZoom.Items(), zooms);
     }

@@ -22,6 +22,17 @@ void WindowTest::Start(const QString& file) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
 }
 
+void WindowTest::StartWithFamily() {
+    Start();
+    Read(kFamily);
+    ShowTab(0);
+}
+
+void WindowTest::StartAgain() {
+    program_ = std::make_unique<ui::DesktopApplication>();
+    Start();
+}
+
 QString WindowTest::Write(const QString& name, const QByteArray& bytes) const {
     QFile file(Path(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));

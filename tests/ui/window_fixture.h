@@ -26,6 +26,10 @@ class WindowTest : public testing::Test {
 
     /// Starts the program with the file of the command line.
     void Start(const QString& file = {});
+    /// Starts it, reads the family and shows it.
+    void StartWithFamily();
+    /// Starts another program where this one has ended.
+    void StartAgain();
     /// A path in the home of the test; a file of that name with these bytes.
     QString Path(const QString& name) const { return home_.filePath(name); }
     QString Write(const QString& name, const QByteArray& bytes) const;
