@@ -35,13 +35,6 @@ class StdFilesTest : public testing::Test {
         file->Write(bytes);
         file->Close();
     }
-    Text Read(TextView name) {
-        const auto file = files.Open(name, Mode::Read);
-        Text bytes;
-        char buffer[3];
-        while (const std::size_t size = file->Read(buffer, sizeof buffer)) bytes.append(buffer, size);
-        return bytes;
-    }
     std::optional<FailureKind> OpenKind(TextView name, Mode mode) {
         return KindOf([&] { files.Open(name, mode); });
     }

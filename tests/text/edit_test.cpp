@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "text/code_page.h"
 #include "text/fold.h"
 #include "text/literal.h"
+#include "text/numbers.h"
 
 namespace swiftroll {
 namespace {
@@ -68,6 +71,18 @@ TEST(Fold, ComparisonForms) {
     AppendComparisonForm(key, " b ");
     AppendComparisonForm(key, " - ");
     EXPECT_EQ(key, "\\AB");
+}
+
+TEST(Numbers, OnlyWholeDecimalNumbersAreRead) {
+    constexpr auto kLeast = std::numeric_limits<std::int64_t>::min();
+    EXPECT_EQ(Decimal(7, 4) + Decimal(12345, 4) + Decimal(kLeast), "000712345-9223372036854775808");
+    EXPECT_EQ(ParseDecimal("-9223372036854775808"), kLeast);
+    EXPECT_EQ(ParseDecimal(" 0012 "), 12);
+    EXPECT_EQ(ParseDecimal("+5"), 5);
+    for (const TextView bad : {"", " ", "+", "-", "+-5", "++5", "- 5", "1 2", "1.5", "1e3", "0x10", "12a",
+                               "\t1", "9223372036854775808"}) {
+        EXPECT_EQ(ParseDecimal(bad), std::nullopt) << bad;
+    }
 }
 
 }  // namespace
