@@ -193,7 +193,7 @@ PlainPairs Remaining(LinkGraph graph, std::int32_t lFrom, std::int32_t lTo) {
     return PairsOf(graph);
 }
 
-TEST(Simplification, RemovesWhatTheLiteralOneRemoves) {
+TEST(Simplification, RemovesWhatTheDirectOneRemoves) {
     const struct {
         Shape shape;
         int rounds;

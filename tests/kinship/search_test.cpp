@@ -213,7 +213,7 @@ PlainLinks LinksOfTables(frmMain& main) {
     return links;
 }
 
-TEST(KinshipSearch, FindsWhatTheLiteralSearchFindsInRandomFamilies) {
+TEST(KinshipSearch, FindsWhatTheDirectSearchFindsInRandomFamilies) {
     std::mt19937 random(7);
     for (int round = 0; round < 150; ++round) {
         const int count = 6 + static_cast<int>(random() % 14u);

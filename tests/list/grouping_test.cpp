@@ -58,9 +58,9 @@ TEST_F(Grouping, AYearThatIsNoNumberIsReported) {
 bool IsYear(TextView key) { return key.ends_with("Min") || key.ends_with("Max"); }
 
 /// What the groups should be, told in another way: a map from key to group.
-class LiteralGrouping {
+class PlainGrouping {
   public:
-    explicit LiteralGrouping(std::vector<TextView> keys) : keys_(std::move(keys)) {}
+    explicit PlainGrouping(std::vector<TextView> keys) : keys_(std::move(keys)) {}
 
     void Add(Table& lvwIn, const Row& row) {
         const auto cell = [&](TextView key) { return Text(row.Cell(lvwIn.FindColumn(key)->Index)); };
@@ -145,7 +145,7 @@ TEST(GroupingOfAnything, IsTheGroupingOfAPlainMap) {
         t.main.cmdCalcOutput.Click();
 
         // Which spelling comes first is up to the sort, so the map is filled in the order that it made.
-        LiteralGrouping expected(keys);
+        PlainGrouping expected(keys);
         for (std::int32_t i = 1; i <= lvwIn.Count(); ++i) expected.Add(lvwIn, lvwIn.Item(i));
         EXPECT_EQ(ListOf(t.main), expected.Rows()) << "pass " << pass;
         Texts after = RowsOf(lvwIn);

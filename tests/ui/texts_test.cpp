@@ -61,17 +61,36 @@ TEST_F(Texts, StandAsTheProductSaysThem) {
     Start();
     const std::pair<const char*, const char*> quoted[] = {
         {"cmdLoad", "Lire Tout"},
+        {"cmdSaveGed", "Ecrire"},
+        {"cmdSaveSwift", "Ecrire en Texte"},
+        {"cmdCalcOutput", "Recalcul Sortie"},
+        {"cmdFindPath", "Rech. Parenté"},
+        {"cmdDrawKinship", "Ecrire Toutes +"},
+        {"cmdHelp", "Documentation"},
+        {"cmdExit", "Quitter"},
         {"cmdRecalcIn", "ReCalcule Lieu && Dates Min/Max dans \"Entrée\""},
+        {"chkIncludeHeaders", "Inclure les noms de colonnes"},
+        {"chkTrimSepar", "Supprimer derniers séparateurs"},
+        {"chkUpperNames", "Afficher les NOMS en MAJUSCULES"},
+        {"chkInvertNames", "Inversion Nom/Prénom"},
+        {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"},
+        {"chkMaxLinks", "Le nombre de liaisons est > que"},
         {"chkTips", "Montrer les conseils (\"ToolTips\") dans la liste \"Sortie\"."},
         {"chkCheckUpdates", "Tester au démarrage si une nouvelle version est disponible."},
+        {"cmdFont", "Fonte..."},
+        {"optTabSpace(0)", "Tabulations"},
+        {"cmdCopyGedIn2GedOut", "V"},
         {"cmdCopyTitle2kinship", ">"}};
     for (const auto& [name, text] : quoted) {
         EXPECT_EQ(Find<QAbstractButton>(name).text().toStdString(), text) << name;
     }
     QStringList frames, tabs;
     for (const QGroupBox* box : Window().findChildren<QGroupBox*>()) frames << box->title();
-    for (const char* title : {"Calcul des colonnes Lieux && Dates Min/Max", "Informations à générer",
-                              "Ne pas afficher les liens si : "}) {
+    for (const char* title :
+         {"Calcul des colonnes Lieux && Dates Min/Max", "Ordre de sélection des Lieux && Dates",
+          "Dans le lieu complet, prendre :", "Uniquement pour lecture du GEDCOM",
+          "Extension des Listes en sortie", "Informations à générer", "Couleur de fond",
+          "Ne pas afficher les liens si : ", "Options de recherche"}) {
         EXPECT_TRUE(frames.contains(QString::fromUtf8(title))) << title;
     }
     for (int i = 0; i < Window().Tabs().count(); ++i) tabs << Window().Tabs().tabText(i);
