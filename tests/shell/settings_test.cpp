@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/settings_store.h"
+#include "platform/sqlite.h"
 #include "support/test_ports.h"
 #include "text/literal.h"
 
@@ -107,6 +108,32 @@ TEST_F(SavedSettings, EverythingComesBackFromTheDisk) {
         EXPECT_EQ(disk.GetSetting("Product", run.main.sVersion, ""), std::to_string(generation + 1));
         EXPECT_EQ(disk.GetSetting("Product", "LastRun", ""), "22/11/2026 14:05:09");
     }
+    std::filesystem::remove_all(folder);
+}
+
+TEST_F(SavedSettings, ANameOfAHistoryThatCannotBeReadIsToldAndKeepsItsPlace) {
+    char name[] = "/tmp/settings-XXXXXX";
+    const std::filesystem::path folder = mkdtemp(name);
+    const TextView section = "Settings\\frmMain\\cboGedIn";
+    const auto useAndSave = [&](std::initializer_list<TextView> files) {
+        platform::SettingsFile disk(folder.string());
+        OneRun run(disk);
+        run.Start();
+        for (const TextView file : files) run.main.cboGedIn.SetFromText(file);
+        run.main.savedSettings.SaveAllControls();
+        Text told;
+        for (const MessageBox& box : run.dialogs.boxes) told += box.text;
+        return told;
+    };
+    EXPECT_EQ(useAndSave({"c", "b", "a"}), "");
+    platform::SqliteFile((folder / "settings.sqlite").string())
+        .Execute("UPDATE settings SET value = CAST(x'FF' AS TEXT) WHERE value = 'b'");
+    EXPECT_NE(useAndSave({"d"}).find("cboGedIn/001|"), Text::npos);
+    platform::SettingsFile disk(folder.string());
+    EXPECT_EQ(disk.GetSetting(section, "000", ""), "d");
+    EXPECT_EQ(disk.GetSetting(section, "001", "unreadable"), "unreadable");
+    EXPECT_EQ(disk.GetSetting(section, "002", ""), "a");
+    EXPECT_EQ(disk.GetSetting(section, "003", ""), "c");
     std::filesystem::remove_all(folder);
 }
 

@@ -1,5 +1,6 @@
 // The walk that restores the settings.
 #include <algorithm>
+#include <optional>
 
 #include "app/french_date.h"
 #include "shell/settings/column_settings.h"
@@ -7,6 +8,7 @@
 #include "shell/settings/settings_sections.h"
 #include "shell/settings/settings_walk.h"
 #include "shell/settings/stored_controls.h"
+#include "text/failure.h"
 
 namespace swiftroll::modCommon {
 namespace {
@@ -37,6 +39,21 @@ void RestorePlace(Application& app, Window& window) {
     }
 }
 
+/// Tells of the values whose bytes are no text; they stay as they are.
+void TellUnreadable(Application& app) {
+    SettingsStore& store = app.ports.settings;
+    std::optional<Text> section;
+    SettingsStore::Pairs readable;
+    for (const SettingEntry& entry : store.Everything()) {
+        if (section != entry.section) {
+            section = entry.section;
+            readable = store.GetAllSettings(entry.section);
+        }
+        if (HoldsKey(readable, entry.key)) continue;
+        ReadValue(app, entry.section, entry.key, [] { throw Failure(FailureKind::TypeMismatch); });
+    }
+}
+
 }  // namespace
 
 SettingParts GetAllControls(Application& app, const std::vector<SavedWindow>& windows) {
@@ -58,6 +75,7 @@ SettingParts GetAllControls(Application& app, const std::vector<SavedWindow>& wi
                     GetColumsSettings(app, *table, sName);
                 }
             }
+            TellUnreadable(app);
         },
         [&] {
             return Concat({"Load/", sName});

@@ -86,12 +86,27 @@ Names Merged(const Names& own, const Names& shown, const Names& stored) {
     return merged;
 }
 
+/// The running numbers that the names of a history may have: a name that cannot be read keeps its own.
+std::vector<Text> UsableKeys(SettingsStore& store, TextView section, const SettingsStore::Pairs& readable) {
+    std::vector<Text> keys;
+    for (std::size_t i = 0; i < kLongestHistory; ++i) keys.push_back(KeyOf(i));
+    for (const SettingEntry& entry : store.Everything()) {
+        if (entry.section == section && !HoldsKey(readable, entry.key)) std::erase(keys, entry.key);
+    }
+    return keys;
+}
+
 void SaveHistory(SettingsStore& store, const SettingPart& part, const SettingPart& shown) {
     const auto pairs = store.GetAllSettings(part.section);
     const Names names = Merged(NamesOf(part), NamesOf(shown), StoredNames(pairs));
-    for (std::size_t i = 0; i < names.size(); ++i) store.SaveSetting(part.section, KeyOf(i), names[i]);
-    // The list was longer once, perhaps.
-    for (std::size_t i = names.size(); i < kLongestHistory; ++i) Delete(store, part.section, KeyOf(i));
+    const std::vector<Text> keys = UsableKeys(store, part.section, pairs);
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (i < names.size()) {
+            store.SaveSetting(part.section, keys[i], names[i]);
+        } else {
+            Delete(store, part.section, keys[i]);  // the list was longer once, perhaps
+        }
+    }
 }
 
 }  // namespace

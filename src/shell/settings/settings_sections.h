@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+
 #include "app/controls.h"
+#include "app/ports.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -31,6 +34,11 @@ inline Text ControlSection(const Window& window, TextView name) {
 /// The section of a button of a group.
 inline Text MemberSection(TextView groupSection, int member) {
     return Concat({groupSection, kArrayMark, Decimal(member)});
+}
+
+/// Whether a key of a section is among those whose values can be read.
+inline bool HoldsKey(const SettingsStore::Pairs& readable, TextView key) {
+    return std::any_of(readable.begin(), readable.end(), [&](const auto& pair) { return pair.first == key; });
 }
 
 }  // namespace swiftroll::modCommon
