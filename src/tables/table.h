@@ -244,12 +244,12 @@ class RowView {
 /// The same, to write too.
 class Row : public RowView {
   public:
-    void SetCell(ColumnId column, TextRef ref) { Write(column, ref); }
+    // The cells are those of a table that was given to be written.
+    void SetCell(ColumnId column, TextRef ref) { *const_cast<TextRef*>(CellAt(column)) = ref; }
     void SetCell(ColumnId column, TextView text) { SetCell(column, Owner().Store().Put(text)); }
     /// Writes a cell and gives the length of its text.
     std::size_t Write(ColumnId column, TextRef ref) {
-        // The cells are those of a table that was given to be written.
-        *const_cast<TextRef*>(CellAt(column)) = ref;
+        SetCell(column, ref);
         return ref.IsEmpty() ? 0 : table_->store_->Get(ref).size();
     }
     void SetTag(TextView tag);
