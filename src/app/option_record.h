@@ -53,6 +53,23 @@ class OptionRecord : public Window {
                            false};
     CheckBox chkInvertNames{
         *this, {"chkInvertNames", "Inversion Nom/Prénom"_t, "Lors de la lecture du fichier GEDCOM"_t}, false};
+    CheckBox chkDecodeCharset{
+        *this,
+        {"chkDecodeCharset", "Convertir les autres jeux de caractères"_t,
+         "Les noms et les lieux d'un fichier en UTF-8, UTF-16, ANSEL, etc. sont convertis "
+         "à la lecture.\r\nLe fichier lui-même n'est pas modifié."_t},
+        true};
+    CheckBox chkCalendars{*this,
+                          {"chkCalendars", "Lire les calendriers et toutes les années"_t,
+                           "Calendriers républicain, hébraïque et julien, années de un à trois chiffres.\r\n"
+                           "Pris en compte à la prochaine lecture."_t},
+                          false};
+    CheckBox chkFallbackEvents{
+        *this,
+        {"chkFallbackEvents", "À défaut, baptême et inhumation"_t,
+         "Le baptême tient lieu de naissance, l'inhumation ou la crémation de décès, là où "
+         "l'année ou le lieu manque.\r\nPris en compte à la prochaine lecture."_t},
+        false};
 
     // Files
     ComboBox cboGedIn{*this, {"cboGedIn", "Entrée GED"_t}};
@@ -94,6 +111,11 @@ class OptionRecord : public Window {
         {"txtINDEX", "Index HTML"_t, "0 = Pas d'index, sinon nombre de caractères par entrée de %INDEX%"_t},
         "1"};
     CheckBox chkGenerXSL{*this, {"chkGenerXSL", "+ XSL"_t}, true};
+    CheckBox chkStrictXml{*this,
+                          {"chkStrictXml", "XML conforme"_t,
+                           "Le fichier XML suit la norme : tout programme peut le lire.\r\n"
+                           "Non coché : les textes sont écrits tels quels."_t},
+                          false};
     OptionGroup optOutExtension{
         *this, {"optOutExtension"}, EachFormat(&FormatOption::caption), FirstChoice()};
     ComboBox cboSaveSwift{*this, {"cboSaveSwift"}, EachFormat(&FormatOption::command)};

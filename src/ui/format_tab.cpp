@@ -62,8 +62,10 @@ QWidget* ExtensionFrame(frmMain& main, Binder& binder, Presenter& presenter) {
     }
     QCheckBox* stylesheet = NewCheckBox(binder, main.chkGenerXSL);
     presenter.OnRefresh([stylesheet] { GreyUnlessTicked(*stylesheet); });
-    frame.grid->addWidget(stylesheet, modGenFileFromModel::StylesheetFormat() + 1, 3);
-    frame.grid->setColumnStretch(4, 1);
+    const int xmlRow = modGenFileFromModel::StylesheetFormat() + 1;
+    frame.grid->addWidget(stylesheet, xmlRow, 3);
+    frame.grid->addWidget(NewCheckBox(binder, main.chkStrictXml), xmlRow, 4);
+    frame.grid->setColumnStretch(5, 1);
     return frame.box;
 }
 

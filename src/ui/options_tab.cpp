@@ -18,6 +18,15 @@ QWidget* LimitFrame(frmMain& main, Binder& binder) {
     return frame.box;
 }
 
+QWidget* ReadingFrame(frmMain& main, Binder& binder) {
+    Frame frame(QStringLiteral("Lecture"), QStringLiteral("frameReading"));
+    int row = 0;
+    for (CheckBox* box : {&main.chkDecodeCharset, &main.chkCalendars, &main.chkFallbackEvents})
+        frame.grid->addWidget(NewCheckBox(binder, *box), row++, 0);
+    frame.grid->setColumnStretch(1, 1);
+    return frame.box;
+}
+
 QWidget* UpdateFrame(frmMain& main, Binder& binder) {
     Frame frame(QStringLiteral("Mises-à-jour"), QStringLiteral("frameKeepUpdated"));
     frame.grid->addWidget(NewCheckBox(binder, main.chkCheckUpdates), 0, 0);
@@ -47,6 +56,7 @@ QWidget* BuildOptionsTab(frmMain& main, Binder& binder) {
     Frame misc(QStringLiteral("Divers"), QStringLiteral("frameMiscOpt"));
     misc.grid->addWidget(NewCheckBox(binder, main.chkTips), 0, 0);
     misc.grid->setColumnStretch(1, 1);
+    outer->addWidget(ReadingFrame(main, binder));
     outer->addWidget(FindFrame(main, binder));
     outer->addWidget(LimitFrame(main, binder));
     outer->addWidget(misc.box);
