@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/message_bar.h"
 #include "app/status.h"
 #include "app/trail.h"
 
@@ -19,7 +20,8 @@ class ScopedFlag {
     bool previous_;
 };
 
-/// What an operation tells the user with, whatever it works on: status bar, boxes, error trail, wait cursor.
+/// What an operation tells the user with, whatever it works on: status bar, message bar, boxes, error trail,
+/// wait cursor.
 /// And what the user tells it: to stop.
 class Feedback : public StatusBar {
   public:
@@ -30,6 +32,7 @@ class Feedback : public StatusBar {
           caption_(context.caption) {}
 
     Trail trail;
+    MessageBar messageBar;
     /// The abort request: long loops leave at their next test.
     bool bAbort = false;
     /// Whether the wait cursor is on, and whether the tables are not repainted.

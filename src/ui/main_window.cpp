@@ -14,6 +14,7 @@
 #include "help_topics.h"
 #include "layout.h"
 #include "menus.h"
+#include "message_bar_widget.h"
 #include "option_tabs.h"
 #include "qt_text.h"
 #include "themed_icon.h"
@@ -55,6 +56,7 @@ MainWindow::MainWindow(Presenter& presenter)
     column->setContentsMargins(kMargin, kMargin, kMargin, 0);
     column->setSpacing(kSpacing);
     column->addWidget(BuildFileRows(main_, binder_));
+    column->addWidget(new MessageBarWidget(presenter_));
     column->addWidget(BuildTabs(), 1);
     progress_ = new QProgressBar;
     progress_->setObjectName(QStringLiteral("ProgressBar1"));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/french_count.h"
 #include "app/french_date.h"
 #include "support/test_ports.h"
 #include "text/literal.h"
@@ -15,6 +16,11 @@ TEST(FrenchDate, FormsOfADate) {
     EXPECT_EQ(LongDate(november) + LongDate(august), "dimanche 22 novembre 2026mardi 1 août 1905"_t);
     EXPECT_EQ(MediumDate(november) + MediumDate(august), "22-nov.-2601-août-05"_t);
     EXPECT_EQ(ShortDate(august) + LongTime(november) + ShortTime(august), "01/08/190514:05:0900:00");
+}
+
+TEST(FrenchCount, DigitsStandInGroups) {
+    EXPECT_EQ(FrenchCount(0) + FrenchCount(999) + FrenchCount(-1204), "0999-1 204");
+    EXPECT_EQ(FrenchCount(1000000) + Text(ForCount(1, "lien", "liens")), "1 000 000lien");
 }
 
 TEST(Positions, AnUnknownColumnIsToldAndTheOthersAreRead) {
