@@ -25,7 +25,7 @@ install_packages() {
     fail "the packages could not be installed"
 }
 
-BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev libsqlite3-dev
+BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev libsqlite3-dev libicu-dev
   qt6-base-dev qt6-svg-dev qt6-translations-l10n)
 TEST_PACKAGES=(libgtest-dev xsltproc python3)
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "extract/head_charset.h"
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/failure.h"
@@ -33,7 +34,7 @@ ExtractWriter::ExtractWriter(TableSet& tables, const modReadGedcom::LineReader& 
       colFamToSave_(tables) {}
 
 void ExtractWriter::Write() {
-    if (lines_.head.end != 0) OutGedTag(lines_.head);
+    OutHead();
     if (lines_.subn.end != 0) OutGedTag(lines_.subn);
     // The families are put in order while the individuals are copied: both only read the tables.
     auto families = std::async(std::launch::async, [this] {
@@ -45,6 +46,20 @@ void ExtractWriter::Write() {
     OutReferencedRecords();
     out_.Write(Concat({"0 TRLR", kLineEnd}));
     out_.Finish();
+}
+
+/// The head of UTF-16 says what the extract of it is.
+void ExtractWriter::OutHead() {
+    const charset::FoundCharset* const found = lines_.FoundCharset();
+    if (found == nullptr || !found->IsUtf16()) {
+        if (lines_.head.end != 0) OutGedTag(lines_.head);
+        return;
+    }
+    out_.Write(kUtf8Mark);
+    const Text head = DeclareUtf8(source_.Read(lines_.head));
+    NoteReferences(head);
+    out_.Write(head);
+    EndLine(head);
 }
 
 void ExtractWriter::OutIndividuals() {

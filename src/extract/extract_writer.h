@@ -15,6 +15,7 @@ namespace swiftroll::modSaveGed {
 /// Writes a GEDCOM file of the marked individuals, with the families that tie them together and every record
 /// that these refer to. Records are copied byte for byte out of the file that was read last, by the ranges
 /// that the reader kept; only family records are touched, so that none points at somebody who was left out.
+/// The extract of a file in UTF-16 is UTF-8, and its head says so.
 class ExtractWriter {
   public:
     /// The file that was read, open twice: families are read while individuals are copied.
@@ -38,6 +39,7 @@ class ExtractWriter {
   private:
     void OutGedTag(const RecordRange& range);
     TextView Copy(const RecordRange& range);
+    void OutHead();
     void OutIndividuals();
     void OutWithNeighbours(const RecordRange& range);
     void OutRun();

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "charset/utf16_text.h"
 #include "text/edit.h"
 #include "text/failure.h"
 #include "text/literal.h"
@@ -29,14 +30,15 @@ bool LineReader::InitGedcom(TextView sFile) {
         "InitGedcom",
         [&] {
             auto file = app_.ports.files.Open(sFile, Files::Mode::Read);
-            lProgressTotal = file->Length();
-            if (lProgressTotal > kLongestFile) {
-                app_.Box(" - InitGed"_t,
-                         Concat({"Le fichier "_t, sFile, " dépasse 2 Gio et ne peut pas être lu."_t, kLineEnd,
-                                 "Exportez-en une partie depuis votre logiciel de généalogie."_t}),
-                         BoxButtons::Ok, BoxIcon::Exclamation, BoxTopic::UnreadableInput);
-                return false;
+            if (!TakeLength(*file, sFile)) return false;
+            std::unique_ptr<charset::Decoder> decoder;
+            if (app_.chkDecodeCharset.Checked()) {
+                decoder = std::make_unique<charset::Decoder>(app_.ports.files.Open(sFile, Files::Mode::Read));
+                if (decoder->Found().IsUtf16())
+                    file = charset::Utf16Text(*file, decoder->Found().charset).Open();
+                if (!TakeLength(*file, sFile)) return false;
             }
+            decoder_ = std::move(decoder);
             scanner_.emplace(std::move(file));
             iLevel = iBaseLevel = 0;
             lNrLines = lNrNames = 0;
@@ -46,6 +48,28 @@ bool LineReader::InitGedcom(TextView sFile) {
             app_.Box(" - InitGed"_t, Concat({"Le fichier "_t, sFile, " n'existe pas."_t}), BoxButtons::Ok,
                      BoxIcon::Exclamation, BoxTopic::UnreadableInput);
         });
+}
+
+bool LineReader::TakeLength(File& file, TextView sFile) {
+    lProgressTotal = file.Length();
+    if (lProgressTotal <= kLongestFile) return true;
+    app_.Box(" - InitGed"_t,
+             Concat({"Le fichier "_t, sFile, " dépasse 2 Gio et ne peut pas être lu."_t, kLineEnd,
+                     "Exportez-en une partie depuis votre logiciel de généalogie."_t}),
+             BoxButtons::Ok, BoxIcon::Exclamation, BoxTopic::UnreadableInput);
+    return false;
+}
+
+bool LineReader::TakeCharset() {
+    if (decoder_ != nullptr) return decoder_->Declare(sValue);
+    return sValue == "ASCII" || sValue == "ANSI";
+}
+
+std::array<std::unique_ptr<File>, 2> LineReader::OpenTwice(TextView sFile) const {
+    const auto open = [&] { return app_.ports.files.Open(sFile, Files::Mode::Read); };
+    if (decoder_ == nullptr || !decoder_->Found().IsUtf16()) return {open(), open()};
+    const charset::Utf16Text text(*open(), decoder_->Found().charset);
+    return {text.Open(), text.Open()};
 }
 
 void LineReader::ResetRecords() {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <array>
+#include <memory>
 #include <optional>
 
 #include "app/application.h"
+#include "charset/decoder.h"
 #include "gedcom/gedcom_line.h"
 #include "gedcom/line_scanner.h"
 #include "tables/keyed_collection.h"
@@ -31,7 +34,24 @@ class LineReader : public GedcomLine {
     /// no further line shall be taken; -1 is the end of the file or the user's abort, 1 a level of several
     /// digits.
     std::int32_t Read1Line();
-    void Close() { scanner_.reset(); }
+    void Close() {
+        scanner_.reset();
+        if (decoder_ != nullptr) decoder_->Close();
+    }
+
+    /// `sValue` in Windows-1252, the character set of the tables: itself when it is ASCII, or when character
+    /// sets are not converted. Valid until the next call or line. Cross-references are never converted.
+    TextView DecodedValue() { return decoder_ != nullptr ? decoder_->Decode(sValue) : sValue; }
+    /// Takes `sValue` as the character set that the file declares; false when the text may be read wrongly.
+    bool TakeCharset();
+    /// What is known of the character set of the file that was opened last: the file may be closed since.
+    /// Nothing when character sets are not converted.
+    const charset::FoundCharset* FoundCharset() const {
+        return decoder_ != nullptr ? &decoder_->Found() : nullptr;
+    }
+    /// The file that was opened last, twice and as it was read: positions of lines are those of its bytes. Of
+    /// UTF-16 that is UTF-8, in memory. @throws Failure FileNotFound, FileAccess
+    std::array<std::unique_ptr<File>, 2> OpenTwice(TextView sFile) const;
 
     std::int32_t lNrLines = 0;
     std::int32_t lNrNames = 0;
@@ -47,6 +67,8 @@ class LineReader : public GedcomLine {
     const KeyedCollection<RecordRange>& colRecords() const { return *colRecords_; }
 
   private:
+    /// Takes the length of the file; false after a box when it is longer than positions can tell.
+    bool TakeLength(File& file, TextView sFile);
     std::int32_t ReadAndSplit();
     void ShowProgress();
     /// Notes that a record ends and another one starts at `position`; false when a record of the same tag and
@@ -58,6 +80,7 @@ class LineReader : public GedcomLine {
 
     Application& app_;
     std::optional<LineScanner> scanner_;
+    std::unique_ptr<charset::Decoder> decoder_;  // none when character sets are not converted
     std::unique_ptr<KeyedCollection<RecordRange>> colRecords_ =
         std::make_unique<KeyedCollection<RecordRange>>();
     Text sPrevTag, sPrevXref;

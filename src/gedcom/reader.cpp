@@ -75,7 +75,7 @@ std::int32_t Reader::SkipDeeperLines() {
 }
 
 bool Reader::AcceptCharset() {
-    if (lines.sValue == "ASCII" || lines.sValue == "ANSI") return true;
+    if (lines.TakeCharset()) return true;
     const BoxAnswer answer =
         app_.Box(" - Charset"_t, Concat({lines.sValue, " : Jeu de caractères non supporté"_t}),
                  BoxButtons::OkCancel, BoxIcon::Exclamation, BoxTopic::Charset);

@@ -51,7 +51,7 @@ TextRef RecordReader::Sex(TextView sex) const {
 
 TextRef RecordReader::Place() {
     // One record, and its neighbours in the register, often name one place.
-    const TextView place = CleanInPlace(lines_.sValue);
+    const TextView place = CleanInPlace(lines_.DecodedValue());
     if (place != store_.Get(lastPlace_)) lastPlace_ = store_.Intern(place);
     return lastPlace_;
 }
@@ -114,7 +114,7 @@ void RecordReader::ReadIndividualLine(Individual& individual) {
             case TagCode("NAME"):
                 return ReadName(individual);
             case TagCode("SEX"):
-                individual.sex = Sex(Trim(lines_.sValue));
+                individual.sex = Sex(Trim(lines_.DecodedValue()));
                 return;
             case TagCode("BIRT"):
                 individual.event = Event::Birth;
@@ -135,7 +135,7 @@ void RecordReader::ReadIndividualLine(Individual& individual) {
     if (lines_.iLevel == lines_.iBaseLevel + 2 && individual.event != Event::None) {
         const bool birth = individual.event == Event::Birth;
         if (tag == TagCode("DATE")) {
-            (birth ? individual.birth : individual.death) = GetYears(lines_.sValue);
+            (birth ? individual.birth : individual.death) = GetYears(lines_.DecodedValue());
         } else if (tag == TagCode("PLAC")) {
             (birth ? individual.birthPlace : individual.deathPlace) = Place();
         }
@@ -143,7 +143,7 @@ void RecordReader::ReadIndividualLine(Individual& individual) {
 }
 
 void RecordReader::ReadName(Individual& individual) {
-    const PersonNames names = SplitName(lines_.sValue);
+    const PersonNames names = SplitName(lines_.DecodedValue());
     TextView sLastName = names.sLastName, sFirstName = names.sFirstName;
     if (!names.sSuffix.empty()) {
         sWithSuffix_ = Concat({names.sFirstName, "/", names.sSuffix});
@@ -195,7 +195,7 @@ std::int32_t RecordReader::ReadFamilyRecord() {
 
 void RecordReader::ReadFamilyEvent(TextRef& place, Years& years) {
     if (lines_.sTag == "DATE") {
-        const Years event = GetYears(lines_.sValue);
+        const Years event = GetYears(lines_.DecodedValue());
         years.lYearMin = std::min(years.lYearMin, event.lYearMin);
         years.lYearMax = std::max(years.lYearMax, event.lYearMax);
     } else if (lines_.sTag == "PLAC") {

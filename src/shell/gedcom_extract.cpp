@@ -39,10 +39,10 @@ void GedcomExtract::cmdSaveGed_Click() {
         "cmdSaveGed_Click",
         [&] {
             // The input first: without it, nothing of an older output is lost.
-            modSaveGed::ExtractWriter::Input in{app_.ports.files.Open(input, Files::Mode::Read),
-                                                app_.ports.files.Open(input, Files::Mode::Read)};
+            auto [records, families] = lines_.OpenTwice(input);
             out = app_.ports.files.Open(output, Files::Mode::Write);
-            writer.emplace(app_, lines_, input, std::move(in), *out);
+            writer.emplace(app_, lines_, input,
+                           modSaveGed::ExtractWriter::Input{std::move(records), std::move(families)}, *out);
             step = "Write";
             writer->Write();
             step = "Close";

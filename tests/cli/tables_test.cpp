@@ -160,10 +160,10 @@ TEST_F(Tables, WhatCannotBeReadOrPrintedFails) {
 }
 
 TEST_F(Tables, BoxesAreAnsweredInAHurryOrStrictly) {
-    Put("c.ged", "0 HEAD\r\n1 CHAR UTF-8\r\n0 @I1@ INDI\r\n0 TRLR\r\n");
+    Put("c.ged", "0 HEAD\r\n1 CHAR KOI8-R\r\n0 @I1@ INDI\r\n1 NAME \xE9\r\n0 TRLR\r\n");
     Put("l.ged", "0 @I1@ INDI\r\n0 @I2@ INDI\r\nJunk line\r\n0 @I3@ INDI\r\n0 TRLR\r\n");
     for (const auto& [file, box] :
-         {std::pair{"c.ged", "UTF-8 : Jeu de caractères non supporté"}, {"l.ged", "Erreur Ligne"}}) {
+         {std::pair{"c.ged", "KOI8-R : Jeu de caractères non supporté"}, {"l.ged", "Erreur Ligne"}}) {
         const Outcome hurried = Cli({"tables", file, "-q"});
         hurried.Ends(0, box);
         const Outcome strict = Cli({"tables", file, "-q", "--strict"});

@@ -80,11 +80,13 @@ TEST(LineErrors, CancelKeepsWhatWasReadAndAborts) {
     EXPECT_FALSE(t.main.chkUpperNames.Checked() || t.main.cmdFindPath.Enabled || !t.main.cmdLoad.Enabled);
 }
 
-TEST(Charset, OtherSetsAreToldAndReadAllTheSame) {
+TEST(Charset, WithoutConversionOtherSetsAreToldAndReadAllTheSame) {
     for (const TextView value : {"ANSEL", "UTF-8", "ansi", "ANSI ", "", "ANSI", "ASCII"}) {
         // Lines too deep outside records are skipped, and the line that is reached is read.
-        AfterReading t(Concat({"3 X\n2 Y\n0 HEAD\n2 VERS 5\n2 DATE\n1 CHAR ", value,
-                               "\n2 CHAR deeper\n0 @I1@ INDI\n3 NAME x\n1 CHAR inside\n0 TRLR\n"}));
+        TestMain t;
+        t.main.chkDecodeCharset.SetChecked(false);
+        t.Read(WithCrLf(Concat({"3 X\n2 Y\n0 HEAD\n2 VERS 5\n2 DATE\n1 CHAR ", value,
+                                "\n2 CHAR deeper\n0 @I1@ INDI\n3 NAME x\n1 CHAR inside\n0 TRLR\n"})));
         EXPECT_EQ(CellsOf(t.main.lvwIn, {In::ID, In::LastName}), Rows({"@I1@|"}));
         const bool known = value == "ANSI" || value == "ASCII";
         ASSERT_EQ(t.dialogs.boxes.size(), known ? 1u : 2u) << value;
@@ -96,6 +98,7 @@ TEST(Charset, OtherSetsAreToldAndReadAllTheSame) {
     }
     TestMain cancelled;
     cancelled.dialogs.answers = {BoxAnswer::Cancel};
+    cancelled.main.chkDecodeCharset.SetChecked(false);
     cancelled.Read(WithCrLf("0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n0 TRLR\n"));
     EXPECT_EQ(cancelled.dialogs.boxes.size(), 1u);
     EXPECT_TRUE(cancelled.main.bAbort && cancelled.main.lvwIn.Count() == 0);
