@@ -99,7 +99,7 @@ void Writing::optOutExtension_Click(int Index) {
         app_.lblOut.Caption += " + XSL";
     }
     app_.txtINDEX.Enabled = format.hasIndex;
-    app_.chkGenerXSL.Enabled = format.hasStylesheet;
+    app_.chkGenerXSL.Enabled = app_.chkStrictXml.Enabled = format.hasStylesheet;
     if (app_.cboSaveSwift.ListIndex() != Index) {
         app_.cboSaveSwift.SetListIndex(Index);
         return;  // its handler comes back here and does the rest

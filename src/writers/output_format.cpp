@@ -6,6 +6,7 @@
 #include "text/literal.h"
 #include "writers/write_model.h"
 #include "writers/xml.h"
+#include "writers/xml_text.h"
 
 namespace swiftroll::modGenFileFromModel {
 namespace {
@@ -17,7 +18,10 @@ bool WriteThroughModel(const ListSource& source, const OutputFormat& format, con
 
 bool WriteWithStylesheet(const ListSource& source, const OutputFormat& format, const WriteRequest& request) {
     if (!request.sXslFile.empty()) {
-        WriteFileFromModel(source, format, request.sXslFile, request.sModelFile, request.bSelectedOnly);
+        ListSource described = source;
+        if (source.options.chkStrictXml.Checked())
+            described.origin.sGedcom = AllowedInXml(source.origin.sGedcom);
+        WriteFileFromModel(described, format, request.sXslFile, request.sModelFile, request.bSelectedOnly);
     }
     return WriteXML(source, request.sOutFile, FileNamePart(request.sXslFile), request.bSelectedOnly);
 }

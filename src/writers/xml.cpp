@@ -5,6 +5,7 @@
 #include "text/edit.h"
 #include "text/fold.h"
 #include "writers/index.h"
+#include "writers/xml_text.h"
 
 namespace swiftroll::modGenFileFromModel {
 namespace {
@@ -41,6 +42,17 @@ class LenientFile : public File {
     bool complete_ = true;
 };
 
+/// The first line, and the one that names the stylesheet, if there is one.
+Text Prolog(bool isStrict, TextView sXslName) {
+    Text lines = Concat(
+        {"<?xml version=\"1.0\" encoding=\"", isStrict ? "windows-1252" : "ISO-8859-1", "\"?>", kLineEnd});
+    if (sXslName.empty()) return lines;
+    lines += isStrict ? "<?xml-stylesheet" : "<?xml:stylesheet";
+    lines +=
+        Concat({" type=\"text/xsl\" href=\"", isStrict ? XmlAddress(sXslName) : sXslName, "\"?>", kLineEnd});
+    return lines;
+}
+
 }  // namespace
 
 PerPosition<Text> MakeColumnTags(const ArrangedTables& tables) {
@@ -57,11 +69,9 @@ bool WriteXML(const ListSource& source, TextView sOutFile, TextView sXslName, bo
     ArrangedTables& tables = source.tables;
     const PerPosition<Text> sColumnTag = MakeColumnTags(tables);
     LenientFile file(source.files, sOutFile);
-    file.Write(Concat({"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>", kLineEnd}));
-    if (!sXslName.empty()) {
-        file.Write(Concat({"<?xml:stylesheet type=\"text/xsl\" href=\"", sXslName, "\"?>", kLineEnd}));
-    }
-    file.Write(Concat({"<SwiftRoll>", kLineEnd}));
+    const bool isStrict = source.options.chkStrictXml.Checked();
+    Text conforming;
+    file.Write(Concat({Prolog(isStrict, sXslName), "<SwiftRoll>", kLineEnd}));
     AnchorWriter anchors(source);
     for (std::int32_t i = 1; i <= tables.lvwOut.Count(); ++i) {
         const Row row = tables.lvwOut.Item(i);
@@ -70,7 +80,8 @@ bool WriteXML(const ListSource& source, TextView sOutFile, TextView sXslName, bo
         anchors.PutINDEX(file, row, true);
         for (std::int16_t position = 1; position <= tables.positions.iPosNumber; ++position) {
             const TextView tag = sColumnTag[position];
-            const TextView cell = row.Cell(tables.positions.Of(tables.lvwOut).iColAtPos[position]);
+            TextView cell = row.Cell(tables.positions.Of(tables.lvwOut).iColAtPos[position]);
+            if (isStrict) cell = conforming = XmlText(cell);
             file.Write(Concat({"  <", tag, ">", cell, "</", tag, ">", kLineEnd}));
         }
         file.Write(Concat({" </INDI>", kLineEnd}));

@@ -54,6 +54,23 @@ TEST_F(Releve, TheShippedStylesheetMakesThePageOfTheList) {
     EXPECT_EQ(CountOf("id=\"SR_", page), entries) << "every link of the index leads to a row";
 }
 
+TEST_F(Releve, ConformingXmlIsReadWhateverTheTextsHold) {
+    std::string bytes;
+    for (int c = 1; c < 256; ++c)
+        if (c != '\r' && c != '\n' && c != '/') bytes += static_cast<char>(c);
+    const std::string input = "Łó & ]]>.ged", output = "été #1 & <2>.xml";
+    Put(input, "0 @I1@ INDI\r\n1 NAME /" + bytes + "/\r\n0 TRLR\r\n");
+    const Strings asTheyStand = {"--set", "chkDecodeCharset=0", "--set", "chkStrictXml=1"};
+    ASSERT_EQ(Cli(Strings{"releve", input, "-o", output, "--xsl"} + asTheyStand).code, 0);
+    // The stylesheet is the one that the list names.
+    const std::string command =
+        "cd '" + folder_.string() + "' && xsltproc \"" + output + "\" >page.html 2>log";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    EXPECT_EQ(Bytes("log"), "");
+    EXPECT_NE(Bytes("page.html").find("%&amp;'()"), std::string::npos) << Bytes("page.html");
+    EXPECT_NE(Bytes("page.html").find(";&lt;=&gt;?@"), std::string::npos) << Bytes("page.html");
+}
+
 TEST_F(Releve, AnExistingOutputIsLeftAloneUnlessItMayBeOverwritten) {
     const Outcome refused = Cli({"releve", "none.ged", "-o", "old.html"});
     refused.Ends(1, "old.html");

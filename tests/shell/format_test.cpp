@@ -36,7 +36,7 @@ TEST_F(Format, NamesAndOptionsFollowTheFormat) {
     main.cboSaveSwift.SetListIndex(2);
     EXPECT_EQ(Names(), (Texts{"/a.b/liste.1.xml", "/m.n/modele.xsl", "/k/arbre.html"}));
     EXPECT_EQ(main.cmdSaveSwift.Caption, "Ecrire en XML");
-    EXPECT_TRUE(main.txtINDEX.Enabled);
+    EXPECT_TRUE(main.txtINDEX.Enabled && main.chkGenerXSL.Enabled && main.chkStrictXml.Enabled);
     EXPECT_EQ(main.lblOut.Caption, "Sortie Relevé-vif + XSL"_t);
     EXPECT_EQ(main.cboSwiftOut.Items().front(), "/a.b/liste.1.xml");
     main.chkGenerXSL.SetChecked(false);
@@ -49,7 +49,7 @@ TEST_F(Format, NamesAndOptionsFollowTheFormat) {
     EXPECT_EQ(Names(), (Texts{"/a.b/liste.1.html", "/m.n/modele.html", "/k/arbre.html"}));
     EXPECT_EQ(main.cmdSaveSwift.Caption, "Ecrire en HTML");
     EXPECT_EQ(main.lblOut.Caption, "Sortie Relevé-vif"_t);
-    EXPECT_FALSE(main.chkGenerXSL.Enabled);
+    EXPECT_FALSE(main.chkGenerXSL.Enabled || main.chkStrictXml.Enabled);
     main.cboSaveSwift.SetListIndex(1);
     EXPECT_FALSE(main.txtINDEX.Enabled);
     EXPECT_TRUE(dialogs.boxes.empty());
