@@ -13,9 +13,10 @@
 
 namespace swiftroll {
 
-enum class BoxButtons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class BoxButtons { Ok, OkCancel, OkCancelOkToAll, YesNo, YesNoCancel };
 enum class BoxIcon { None, Exclamation, Question };
-enum class BoxAnswer { Ok, Cancel, Yes, No };
+/// `OkToAll` is OK to this box and to those of its kind that would follow.
+enum class BoxAnswer { Ok, Cancel, OkToAll, Yes, No };
 
 /// Which question a box asks or what it tells, for presentations that answer by themselves.
 enum class BoxTopic {

@@ -14,6 +14,9 @@ namespace {
 // Positions are told in 32-bit numbers.
 constexpr std::int64_t kLongestFile = std::int64_t{1} << 31;
 
+/// The line error from which on its box can answer for all that follow.
+constexpr int kManyLineErrors = 10;
+
 /// Whether the line begins with level 0, whatever junk stands before it.
 bool IsLevel0(TextView line) {
     const auto blank = line.find(' ');
@@ -42,6 +45,8 @@ bool LineReader::InitGedcom(TextView sFile) {
             scanner_.emplace(std::move(file));
             iLevel = iBaseLevel = 0;
             lNrLines = lNrNames = 0;
+            lineErrors_ = 0;
+            goesOnUnasked_ = false;
             return true;
         },
         [&] {
@@ -99,14 +104,21 @@ std::int32_t LineReader::Read1Line() {
 }
 
 bool LineReader::AskToGoOn(const Failure& failure) {
-    const BoxAnswer answer = app_.Box(" - Erreur Ligne"_t,
-                                      Concat({Decimal(failure.Number()), ": ", failure.What(), kLineEnd,
-                                              "Ligne ", Decimal(lNrLines), kLineEnd, TrimRight(sLine)}),
-                                      BoxButtons::OkCancel, BoxIcon::Question, BoxTopic::LineError);
+    ++lineErrors_;
+    const BoxAnswer answer = goesOnUnasked_ ? BoxAnswer::OkToAll : ShowLineError(failure);
     app_.pnlMessage.Set("Erreur !"_t);
-    if (answer == BoxAnswer::Ok) return true;
+    goesOnUnasked_ = answer == BoxAnswer::OkToAll;
+    if (answer != BoxAnswer::Cancel) return true;
     app_.bAbort = true;
     return false;
+}
+
+BoxAnswer LineReader::ShowLineError(const Failure& failure) {
+    return app_.Box(" - Erreur Ligne"_t,
+                    Concat({Decimal(failure.Number()), ": ", failure.What(), kLineEnd, "Ligne ",
+                            Decimal(lNrLines), kLineEnd, TrimRight(sLine)}),
+                    lineErrors_ < kManyLineErrors ? BoxButtons::OkCancel : BoxButtons::OkCancelOkToAll,
+                    BoxIcon::Question, BoxTopic::LineError, BoxAnswer::Ok);
 }
 
 std::int32_t LineReader::ReadAndSplit() {

@@ -75,12 +75,15 @@ class LineReader : public GedcomLine {
     /// cross-reference was there before.
     bool NoteRecordStart(std::int64_t position);
     void NoteRecordEnd(std::int64_t position);
-    /// Shows the line error box; true to go on.
+    /// Tells a line error, unless the user wants to see no further one; true to go on.
     bool AskToGoOn(const Failure& failure);
+    BoxAnswer ShowLineError(const Failure& failure);
 
     Application& app_;
     std::optional<LineScanner> scanner_;
     std::unique_ptr<charset::Decoder> decoder_;  // none when character sets are not converted
+    int lineErrors_ = 0;          // so far in this read
+    bool goesOnUnasked_ = false;  // the user wants to see no further one
     std::unique_ptr<KeyedCollection<RecordRange>> colRecords_ =
         std::make_unique<KeyedCollection<RecordRange>>();
     Text sPrevTag, sPrevXref;

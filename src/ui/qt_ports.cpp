@@ -35,6 +35,8 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
     switch (buttons) {
         case BoxButtons::OkCancel:
             return QMessageBox::Ok | QMessageBox::Cancel;
+        case BoxButtons::OkCancelOkToAll:
+            return QMessageBox::Ok | QMessageBox::Cancel | QMessageBox::YesToAll;
         case BoxButtons::YesNo:
             return QMessageBox::Yes | QMessageBox::No;
         case BoxButtons::YesNoCancel:
@@ -52,6 +54,8 @@ QMessageBox::StandardButton ButtonOf(BoxAnswer answer) {
             return QMessageBox::No;
         case BoxAnswer::Cancel:
             return QMessageBox::Cancel;
+        case BoxAnswer::OkToAll:
+            return QMessageBox::YesToAll;
         default:
             return QMessageBox::Ok;
     }
@@ -115,6 +119,9 @@ BoxAnswer QtDialogs::Show(const MessageBox& box) {
     dialog.setObjectName(QStringLiteral("box"));
     dialog.setTextFormat(Qt::PlainText);
     dialog.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // The toolkit has no such button, and calls the nearest one "Yes to All".
+    if (QAbstractButton* all = dialog.button(QMessageBox::YesToAll))
+        all->setText(QStringLiteral("OK pour tous"));
     if (box.preset) dialog.setDefaultButton(ButtonOf(*box.preset));
     QApplication::setOverrideCursor(Qt::ArrowCursor);
     const int answer = dialog.exec();
@@ -126,6 +133,8 @@ BoxAnswer QtDialogs::Show(const MessageBox& box) {
             return BoxAnswer::No;
         case QMessageBox::Ok:
             return BoxAnswer::Ok;
+        case QMessageBox::YesToAll:
+            return BoxAnswer::OkToAll;
         default:
             return CancelOf(box.buttons);
     }

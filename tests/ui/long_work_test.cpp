@@ -90,6 +90,27 @@ TEST_F(LongWork, EscapeEndsARead) {
     EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QStringLiteral("Interrompu par l'utilisateur !"));
 }
 
+TEST_F(LongWork, ManyLineErrorsCanBeAnsweredAtOnce) {
+    Start();
+    const auto press = [this](Qt::Key key, int times) {
+        for (; times > 0; --times) OnDialog([key](QWidget& box) { QTest::keyClick(box.focusWidget(), key); });
+    };
+    press(Qt::Key_Return, 10);  // OK, beside the third button too
+    OnDialog([](QWidget& box) {
+        const auto label = [&] { return box.focusWidget()->property("text").toString(); };
+        for (int i = 0; i < 3 && label() != QStringLiteral("OK pour tous"); ++i)
+            QTest::keyClick(box.focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(box.focusWidget(), Qt::Key_Space);
+    });
+    Read(QByteArray("prose\n").repeated(15) + kFamily);
+    EXPECT_EQ(boxes.size(), 12) << "with the question of the recalculation";
+    EXPECT_EQ(Main().lvwIn.Count(), 5);
+    press(Qt::Key_Return, 9);
+    press(Qt::Key_Escape, 1);
+    Click("cmdLoad");
+    EXPECT_EQ(Main().lvwIn.Count(), 0) << "the next read asks again, and Escape stops it";
+}
+
 TEST_F(LongWork, ClosingTheWindowInTheMiddleOfASearchEndsIt) {
     Start();
     ReadCousins();
