@@ -110,6 +110,13 @@ class File {
     virtual void Close() = 0;
 };
 
+/// What tells whether a file is still as it was: its length in bytes and the time of its last change, in
+/// units of the platform.
+struct FileStamp {
+    std::int64_t length = 0, time = 0;
+    bool operator==(const FileStamp&) const = default;
+};
+
 /// The files of the platform, by the names that the program uses for them.
 class Files {
   public:
@@ -120,6 +127,8 @@ class Files {
     virtual bool Exists(TextView name) = 0;
     /// Whether the two names, of existing files, lead to one file, through links too.
     virtual bool AreSame(TextView a, TextView b) = 0;
+    /// The present state of a regular file; nothing for what is none, such as a pipe, or is not there.
+    virtual std::optional<FileStamp> Stamp(TextView name) = 0;
     /// Removes the file if it is a regular one. @throws Failure FileAccess
     virtual void Delete(TextView name) = 0;
 };

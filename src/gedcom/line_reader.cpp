@@ -32,6 +32,8 @@ bool LineReader::InitGedcom(TextView sFile) {
     return app_.trail.GuardElse(
         "InitGedcom",
         [&] {
+            // Before the opening, so that a change in the midst of the read is one.
+            FileRead origin{Text(sFile), app_.ports.files.Stamp(sFile)};
             auto file = app_.ports.files.Open(sFile, Files::Mode::Read);
             if (!TakeLength(*file, sFile)) return false;
             std::unique_ptr<charset::Decoder> decoder;
@@ -43,6 +45,7 @@ bool LineReader::InitGedcom(TextView sFile) {
             }
             decoder_ = std::move(decoder);
             scanner_.emplace(std::move(file));
+            origin_ = std::move(origin);
             iLevel = iBaseLevel = 0;
             lNrLines = lNrNames = 0;
             lineErrors_ = 0;

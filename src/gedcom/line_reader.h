@@ -19,6 +19,12 @@ struct RecordRange {
     friend bool operator==(const RecordRange&, const RecordRange&) = default;
 };
 
+/// The file that was read, and its state when it was opened.
+struct FileRead {
+    Text sFile;
+    std::optional<FileStamp> stamp;  // nothing for what is no regular file
+};
+
 /// Reads a GEDCOM file line by line, and keeps the byte range of every level-0 record, so that records can be
 /// copied out of the file unchanged. It is the current line, whose views are valid until the next Read1Line.
 class LineReader : public GedcomLine {
@@ -59,6 +65,9 @@ class LineReader : public GedcomLine {
     /// Length of the file in bytes, the base of the progress.
     std::int64_t lProgressTotal = 0;
 
+    /// The file that the ranges are of.
+    const FileRead& Origin() const { return origin_; }
+
     // Positions of the last two level-0 lines, and so the range of the record that the last one closed.
     std::int64_t lPrevPos = 1, lCurPos = 1;
     RecordRange head, subn;
@@ -82,6 +91,7 @@ class LineReader : public GedcomLine {
     Application& app_;
     std::optional<LineScanner> scanner_;
     std::unique_ptr<charset::Decoder> decoder_;  // none when character sets are not converted
+    FileRead origin_;
     int lineErrors_ = 0;          // so far in this read
     bool goesOnUnasked_ = false;  // the user wants to see no further one
     std::unique_ptr<KeyedCollection<RecordRange>> colRecords_ =

@@ -104,6 +104,17 @@ bool StdFiles::AreSame(TextView a, TextView b) {
     return !error && same;
 }
 
+std::optional<FileStamp> StdFiles::Stamp(TextView name) {
+    const fs::path path = PathOf(name);
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) return std::nullopt;
+    const auto length = fs::file_size(path, error);
+    if (error) return std::nullopt;
+    const auto time = fs::last_write_time(path, error);
+    if (error) return std::nullopt;
+    return FileStamp{static_cast<std::int64_t>(length), time.time_since_epoch().count()};
+}
+
 void StdFiles::Delete(TextView name) {
     const fs::path path = PathOf(name);
     std::error_code error;

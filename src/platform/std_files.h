@@ -10,6 +10,7 @@ class StdFiles : public Files {
     std::unique_ptr<File> Open(TextView name, Mode mode) override;
     bool Exists(TextView name) override;
     bool AreSame(TextView a, TextView b) override;
+    std::optional<FileStamp> Stamp(TextView name) override;
     void Delete(TextView name) override;
 };
 

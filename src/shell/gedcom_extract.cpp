@@ -7,7 +7,6 @@
 #include "text/numbers.h"
 
 namespace swiftroll {
-
 GedcomExtract::GedcomExtract(Application& app, ExtractCommands& commands,
                              const modReadGedcom::LineReader& lines, FileCombos& fileCombos)
     : app_(app), commands_(commands), lines_(lines) {
@@ -24,11 +23,9 @@ void GedcomExtract::cmdSaveGed_Click() {
     commands_.cmdSelectDirGedOut.Click();
     if (app_.bDialogCancelled) return;
     const Text input = app_.cboGedIn.Get(), output = app_.cboGedOut.Get();
-    if (app_.ports.files.AreSame(input, output)) {
-        app_.Box(" - Extrait GEDCOM"_t,
-                 Concat({"L'extrait écraserait le fichier GEDCOM lu :"_t, kLineEnd, output, kLineEnd,
-                         kLineEnd, "Rien n'a été écrit. Choisissez un autre nom pour la sortie."_t}),
-                 BoxButtons::Ok, BoxIcon::Exclamation);
+    const Text obstacle = Obstacle(input, output);
+    if (!obstacle.empty()) {
+        app_.Box(" - Extrait GEDCOM"_t, obstacle, BoxButtons::Ok, BoxIcon::Exclamation);
         return;
     }
     const char* step = "Open";
@@ -60,6 +57,33 @@ void GedcomExtract::cmdSaveGed_Click() {
                 // The failure that began it was told.
             }
         });
+}
+
+Text GedcomExtract::Obstacle(TextView input, TextView output) {
+    Files& files = app_.ports.files;
+    const auto tell = [](TextView what, TextView file, TextView whatToDo) {
+        return Concat({what, kLineEnd, file, kLineEnd, kLineEnd, "Rien n'a été écrit. "_t, whatToDo});
+    };
+    if (files.AreSame(input, output)) {
+        return tell("L'extrait écraserait le fichier GEDCOM lu :"_t, output,
+                    "Choisissez un autre nom pour la sortie."_t);
+    }
+    const modReadGedcom::FileRead& read = lines_.Origin();
+    if (input != read.sFile && !files.AreSame(input, read.sFile)) {
+        return tell("Ce fichier GEDCOM n'est pas celui qui a été lu :"_t, input,
+                    Concat({"Lisez-le, ou remettez en entrée "_t, read.sFile, "."}));
+    }
+    if (!read.stamp) {
+        return tell("Ce fichier GEDCOM ne peut pas être relu :"_t, input,
+                    "Copiez-le dans un fichier du disque, puis lisez la copie."_t);
+    }
+    // The opening tells of a file that is gone.
+    const auto present = files.Stamp(input);
+    if (present && *present != *read.stamp) {
+        return tell("Le fichier GEDCOM a changé depuis sa lecture :"_t, input,
+                    "Relisez-le, puis recommencez l'extrait."_t);
+    }
+    return {};
 }
 
 void GedcomExtract::cmdCopyGedIn2GedOut_Click() {

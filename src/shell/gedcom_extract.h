@@ -15,6 +15,8 @@ class GedcomExtract {
   private:
     void cmdSaveGed_Click();
     void cmdCopyGedIn2GedOut_Click();
+    /// Why the extract cannot be written, as the lines of a box that tells what to do; empty when it can.
+    Text Obstacle(TextView input, TextView output);
 
     Application& app_;
     ExtractCommands& commands_;

@@ -117,13 +117,28 @@ TEST(Extract, WhatGoesWrongIsToldAndLeavesWhatWasWritten) {
     EXPECT_EQ(missing.main.trail.Reports(), 1);
     EXPECT_NE(missing.dialogs.boxes.at(0).text.find("SOUR @S1@"), Text::npos);
     EXPECT_FALSE(missing.main.bWaitCursor);
-    // A file that became shorter, or is gone: the older output stays where nothing can be read at all.
-    missing.files.contents["in.ged"].resize(20);
-    missing.Save();
-    EXPECT_NE(missing.dialogs.boxes.back().text.find("a changé depuis sa lecture"_t), Text::npos);
-    missing.files.contents.erase("in.ged");
-    missing.files.contents["old.ged"] = "old";
-    EXPECT_EQ(missing.Save("old.ged"), "old");
+    t.files.contents.erase("in.ged");
+    t.files.contents["old.ged"] = "old";
+    EXPECT_EQ(t.Save("old.ged"), "old");
+    EXPECT_FALSE(t.main.bWaitCursor);
+}
+
+TEST(Extract, IsOfTheFileThatWasReadAsItWasRead) {
+    Extract t(WholeFile());
+    t.files.contents["other.ged"] = WholeFile();
+    t.files.contents["out.ged"] = "old";
+    const auto expectRefusal = [&](TextView why) {
+        EXPECT_EQ(t.Save(), "old");
+        EXPECT_NE(t.dialogs.boxes.back().text.find(why), Text::npos) << t.dialogs.boxes.back().text;
+        t.Read(WholeFile());
+    };
+    t.main.cboGedIn.SetText("other.ged");
+    expectRefusal("n'est pas celui qui a été lu"_t);
+    ++t.files.time;
+    expectRefusal("a changé depuis sa lecture"_t);
+    t.files.contents["in.ged"] += kEnd;
+    expectRefusal("a changé depuis sa lecture"_t);
+    EXPECT_TRUE(t.Save().ends_with(kEnd));
 }
 
 TEST(Extract, NamesItsFileAfterTheInput) {

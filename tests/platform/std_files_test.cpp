@@ -102,5 +102,15 @@ TEST_F(StdFilesTest, OneFileUnderTwoNames) {
     EXPECT_FALSE(files.AreSame(In("missing"), In("missing")));
 }
 
+TEST_F(StdFilesTest, AChangeOfAFileChangesItsStamp) {
+    Write(In("f"), "x");
+    const auto before = files.Stamp(In("f"));
+    EXPECT_EQ(files.Stamp(In("./f")), before);
+    fs::last_write_time(In("f"), fs::last_write_time(In("f")) + std::chrono::milliseconds(1));
+    EXPECT_NE(files.Stamp(In("f")), before);
+    for (const Text& none : {folder, In("missing"), Text("/dev/null")})
+        EXPECT_FALSE(files.Stamp(none)) << none;
+}
+
 }  // namespace
 }  // namespace swiftroll::platform

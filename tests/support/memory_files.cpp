@@ -51,6 +51,11 @@ std::unique_ptr<File> MemoryFiles::Open(TextView name, Mode mode) {
     return std::make_unique<MemoryFile>(*this, Text(name));
 }
 
+std::optional<FileStamp> MemoryFiles::Stamp(TextView name) {
+    if (!Exists(name)) return std::nullopt;
+    return FileStamp{static_cast<std::int64_t>(contents[Text(name)].size()), time};
+}
+
 void MemoryFiles::Delete(TextView name) {
     if (readOnly.count(Text(name)) > 0) throw Failure(FailureKind::FileAccess, name);
     contents.erase(Text(name));

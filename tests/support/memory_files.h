@@ -14,10 +14,13 @@ class MemoryFiles : public Files {
     std::unique_ptr<File> Open(TextView name, Mode mode) override;
     bool Exists(TextView name) override { return contents.count(Text(name)) > 0; }
     bool AreSame(TextView a, TextView b) override { return a == b && Exists(a); }
+    std::optional<FileStamp> Stamp(TextView name) override;
     void Delete(TextView name) override;
 
     /// Name to bytes.
     std::map<Text, Text, std::less<>> contents;
+    /// The time of the last change of every file.
+    std::int64_t time = 0;
     /// Names that cannot be opened for writing.
     std::set<Text> readOnly;
     /// Number of bytes that can still be written before the disk is full.
