@@ -43,6 +43,8 @@ void ExtractWriter::Write() {
     });
     OutIndividuals();
     OutFamilies(std::move(families));
+    for (const TextRef sFam : colFamToSave_.Missing())
+        NoteMissing(Concat({"FAM ", tables_.lvwFamily.Store().Get(sFam)}));
     OutReferencedRecords();
     out_.Write(Concat({"0 TRLR", kLineEnd}));
     out_.Finish();
@@ -160,12 +162,16 @@ void ExtractWriter::OutGedFamilyTag(const FamiliesToSave::Entry& family, TextVie
 void ExtractWriter::OutReferencedRecords() {
     for (; !colTagsToSave_.empty(); colTagsToSave_.pop_front()) {
         const auto range = lines_.colRecords().Find(colTagsToSave_.front());
-        if (!range) {
-            throw Failure(FailureKind::KeyNotFound,
-                          Concat({colTagsToSave_.front(), " : cet enregistrement manque dans le fichier"_t}));
+        if (range) {
+            OutGedTag(*range);
+        } else {
+            NoteMissing(colTagsToSave_.front());
         }
-        OutGedTag(*range);
     }
+}
+
+void ExtractWriter::NoteMissing(TextView sKey) {
+    if (++missing_.count <= MissingRecords::kMostNames) missing_.names.emplace_back(sKey);
 }
 
 void ExtractWriter::OutGedTag(const RecordRange& range) {

@@ -26,9 +26,17 @@ class ExtractWriter {
     ExtractWriter(TableSet& tables, const modReadGedcom::LineReader& lines, TextView sGedIn, Input in,
                   File& out);
 
-    /// Writes everything. @throws Failure when a file fails, or when a record refers to one that the file
-    /// does not have; what was written until then stays
+    /// Writes everything but the records that the file does not have. @throws Failure when a file fails; what
+    /// was written until then stays
     void Write();
+    /// The records that were referred to and are not in the file, each once: their tag, a blank and their
+    /// cross-reference. `names` are the first of them.
+    struct MissingRecords {
+        static constexpr std::size_t kMostNames = 10;
+        std::size_t count = 0;
+        std::vector<Text> names;
+    };
+    const MissingRecords& Missing() const { return missing_; }
     /// Brings what was written so far into the file. @throws Failure FileAccess
     void Finish() { out_.Finish(); }
 
@@ -55,6 +63,7 @@ class ExtractWriter {
     /// `records` are those of the families that are written whole, from this one on.
     void OutGedFamilyTag(const FamiliesToSave::Entry& family, TextView& records);
     void OutReferencedRecords();
+    void NoteMissing(TextView sKey);
     void NoteReferences(TextView sRecord);
     void EndLine(TextView sRecord);
 
@@ -67,7 +76,8 @@ class ExtractWriter {
     std::deque<Text> colTagsToSave_;
     TextStore references_;             // seen so far, as they were written
     KeyedCollection<bool> sTagsSeen_;  // records are found whatever the case, and so are these
-    Text sKey_, reduced_;              // reused to avoid allocation
+    MissingRecords missing_;
+    Text sKey_, reduced_;  // reused to avoid allocation
     std::int32_t individuals_ = 0, families_ = 0;
 };
 

@@ -47,7 +47,7 @@ std::vector<FamiliesToSave::Spouses> FamiliesToSave::ReadFamilies() {
 /// The memberships of those who were added, in the order of the table. All members count for the size of a
 /// family.
 std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const std::vector<Spouses>& spouses) {
-    constexpr std::uint32_t kNone = 0xFFFFFFFFu;
+    constexpr std::uint32_t kNone = 0xFFFFFFFFu, kMissing = kNone - 1;
     std::vector<std::uint32_t> numberOf(rankOf_.size(), kNone);
     for (std::size_t n = 0; n < families_.size(); ++n)
         if (!families_[n].sFam.IsEmpty())
@@ -67,10 +67,11 @@ std::vector<FamiliesToSave::Membership> FamiliesToSave::ReadMemberships(const st
         if (sIndi.IsEmpty() || sFam.IsEmpty()) continue;
         if (std::exchange(lastFamily, sFam) != sFam) number = numberOf[sFam.Symbol()];
         const Rank rank = rankOf_[sIndi.Symbol()];
-        if (number == kNone) {
-            if (rank != 0) throw Failure(FailureKind::KeyNotFound, lvwFamily_.Store().Get(sFam));
-            continue;
+        if (number == kNone && rank != 0) {
+            missing_.push_back(sFam);
+            number = numberOf[sFam.Symbol()] = kMissing;
         }
+        if (number >= kMissing) continue;
         FamilyRow& family = families_[number];
         ++family.size;
         if (rank == 0) continue;

@@ -16,8 +16,10 @@ class FamiliesToSave {
     explicit FamiliesToSave(const TableSet& tables);
 
     /// Adds each marked individual, in the order of lvwIn, to all its families, and puts these in their
-    /// order. Only reads the tables. @throws Failure KeyNotFound when a family has no row
+    /// order. Only reads the tables.
     void Arrange();
+    /// The families of marked individuals that have no row.
+    const std::vector<TextRef>& Missing() const { return missing_; }
 
     using Rank = std::uint32_t;
     struct Member {
@@ -67,6 +69,7 @@ class FamiliesToSave {
     std::vector<Rank> rankOf_;    // by the number of the identifier, 0 for others
     std::vector<FamilyRow> families_, ordered_;  // in the order of the table, and in that of the extract
     std::vector<Member> members_;
+    std::vector<TextRef> missing_;
 };
 
 }  // namespace swiftroll::modSaveGed

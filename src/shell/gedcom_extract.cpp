@@ -7,6 +7,21 @@
 #include "text/numbers.h"
 
 namespace swiftroll {
+namespace {
+
+/// Ends an extract that lacks records. @throws Failure KeyNotFound unless there are none
+void TellMissing(const modSaveGed::ExtractWriter::MissingRecords& missing) {
+    if (missing.count == 0) return;
+    Text names;
+    for (const Text& name : missing.names) names += Concat({names.empty() ? "" : ", ", name});
+    throw Failure(FailureKind::KeyNotFound,
+                  Concat({Decimal(static_cast<std::int64_t>(missing.count)),
+                          " enregistrement(s) manque(nt) dans le fichier, l'extrait est écrit sans : "_t,
+                          names, missing.count > missing.names.size() ? ", ..." : ""}));
+}
+
+}  // namespace
+
 GedcomExtract::GedcomExtract(Application& app, ExtractCommands& commands,
                              const modReadGedcom::LineReader& lines, FileCombos& fileCombos)
     : app_(app), commands_(commands), lines_(lines) {
@@ -46,6 +61,8 @@ void GedcomExtract::cmdSaveGed_Click() {
             out->Close();
             app_.pnlMessage.Set(Concat({"Extrait écrit : "_t, Decimal(writer->Individuals()),
                                         " individu(s), ", Decimal(writer->Families()), " famille(s)"}));
+            step = "References";
+            TellMissing(writer->Missing());
         },
         [&] {
             const Text report = Concat({input, "/", output, "/", step});

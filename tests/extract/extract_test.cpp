@@ -110,17 +110,25 @@ TEST(Extract, WhatGoesWrongIsToldAndLeavesWhatWasWritten) {
         << t.dialogs.boxes[0].text;
     t.files.room = static_cast<std::size_t>(-1);
 
-    // A record that is missing: all before it stands.
-    Extract missing(Concat({kMan, kEnd}));
-    missing.Mark({"@I1@"});
-    EXPECT_EQ(missing.Save(), kMan);
-    EXPECT_EQ(missing.main.trail.Reports(), 1);
-    EXPECT_NE(missing.dialogs.boxes.at(0).text.find("SOUR @S1@"), Text::npos);
-    EXPECT_FALSE(missing.main.bWaitCursor);
     t.files.contents.erase("in.ged");
     t.files.contents["old.ged"] = "old";
     EXPECT_EQ(t.Save("old.ged"), "old");
     EXPECT_FALSE(t.main.bWaitCursor);
+}
+
+TEST(Extract, GoesOnBehindRecordsThatTheFileDoesNotHave) {
+    Text man(kMan);
+    for (const char i : TextView("123456789")) man += Concat({"1 NOTE @N", Text(1, i), "@\r\n"});
+    man += "1 SOUR @VOID@\r\n1 SOUR @VOID@\r\n";
+    Extract t(Concat({man, kEnd}));
+    t.MarkAll();
+    t.main.lvwFamily.Remove(1);
+    EXPECT_EQ(t.Save(), Concat({man, kEnd}));
+    EXPECT_EQ(t.main.trail.Reports(), 1);
+    const Text told = t.dialogs.boxes.at(0).text;
+    for (const TextView part :
+         {" (12 enregistrement(s) manque(nt) ", " : FAM @F1@, NOTE @N1@, ", " NOTE @N9@, ...)"})
+        EXPECT_NE(told.find(part), Text::npos) << told;
 }
 
 TEST(Extract, IsOfTheFileThatWasReadAsItWasRead) {
