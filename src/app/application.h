@@ -33,6 +33,8 @@ class Application : public Product, public ArrangedTables, public OptionRecord, 
     bool bEnded = false;
     /// Whether the families of the present file were processed.
     bool bFamiliesRead = false;
+    /// Whether the years of the present file were read with their calendars.
+    bool bCalendarsRead = false;
     bool bDialogCancelled = false;
     int iOutFormat = 0;
     Tab SSTab1 = Tab::In;

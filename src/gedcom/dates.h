@@ -14,6 +14,11 @@ inline constexpr std::int32_t kNoYearMax = -1;
 struct Years {
     std::int32_t lYearMin = kNoYearMin;
     std::int32_t lYearMax = kNoYearMax;
+
+    bool AreNone() const { return lYearMax < lYearMin; }
+    /// Takes in the years of another date.
+    void Widen(const Years& other);
+    friend bool operator==(const Years&, const Years&) = default;
 };
 
 /// Every run of four digits in `sDate` is a year, whatever stands around it; months, keywords and calendars
@@ -22,9 +27,10 @@ Years GetYears(TextView sDate);
 
 /// The years of birth, death and marriage.
 using EventYears = std::array<TextView, 3>;
-/// The place of the smallest or of the largest of the non-empty years, compared as texts; that of the birth
-/// when all are empty.
-std::size_t TakeDateMin(const EventYears& years);
-std::size_t TakeDateMax(const EventYears& years);
+/// How years are compared: as texts, in which "850" stands behind "1900", or as numbers.
+enum class YearOrder { AsTexts, AsNumbers };
+/// The place of the smallest or of the largest of the non-empty years; that of the birth when all are empty.
+std::size_t TakeDateMin(const EventYears& years, YearOrder order);
+std::size_t TakeDateMax(const EventYears& years, YearOrder order);
 
 }  // namespace swiftroll::modReadGedcom

@@ -81,10 +81,11 @@ void SetInDates(Application& app) {
             using EventColumns = std::array<In::Columns, 3>;
             constexpr EventColumns kMin = {In::BirthMin, In::DeathMin, In::MarrMin};
             constexpr EventColumns kMax = {In::BirthMax, In::DeathMax, In::MarrMax};
-            const auto take = [](const Row& row, const EventColumns& columns,
-                                 std::size_t (*choose)(const EventYears&)) {
+            const auto order = app.bCalendarsRead ? YearOrder::AsNumbers : YearOrder::AsTexts;
+            const auto take = [order](const Row& row, const EventColumns& columns,
+                                      std::size_t (*choose)(const EventYears&, YearOrder)) {
                 const EventYears years = {row.Cell(columns[0]), row.Cell(columns[1]), row.Cell(columns[2])};
-                return row.Ref(columns[choose(years)]);
+                return row.Ref(columns[choose(years, order)]);
             };
             const Pause pause = [&app] { app.ports.status.StatusChanged(); };
             for (std::int32_t i = 1; i <= app.lvwIn.Count(); ++i) {

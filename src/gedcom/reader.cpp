@@ -43,7 +43,9 @@ void Reader::Prepare(const char*& stage, std::int16_t& counter) {
 
 void Reader::ReadLines() {
     Links links(app_);
-    RecordReader records(app_, lines, links);
+    findings = {};
+    app_.bCalendarsRead = app_.chkCalendars.Checked();
+    RecordReader records(app_, lines, links, findings);
     std::int32_t result = lines.Read1Line();
     // What follows a record is the current line already; every other line is passed over one by one.
     while (result == 0 && !app_.bAbort) {
@@ -62,6 +64,8 @@ void Reader::ReadLines() {
             result = lines.Read1Line();
         }
     }
+    constexpr std::int32_t kEndedByLevel = 1;
+    if (result == kEndedByLevel) findings.endingLine = lines.lNrLines;
     Finish(links);
 }
 

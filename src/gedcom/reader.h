@@ -2,6 +2,7 @@
 
 #include "gedcom/line_reader.h"
 #include "gedcom/links.h"
+#include "gedcom/read_findings.h"
 
 namespace swiftroll::modReadGedcom {
 
@@ -27,6 +28,8 @@ class Reader {
 
   public:
     LineReader lines;
+    /// What the last read met beside what it read.
+    ReadFindings findings;
     /// Told when the families of the file were processed, so that the commands that need them can be enabled.
     Event OnFamiliesRead;
 };

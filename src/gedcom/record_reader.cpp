@@ -38,8 +38,15 @@ PersonNames SplitName(TextView sValue) {
     return {sValue.substr(std::min(first.size() + 1, sValue.size())), first, {}};
 }
 
-RecordReader::RecordReader(Application& app, LineReader& lines, Links& links)
-    : app_(app), lines_(lines), links_(links), store_(app.lvwIn.Store()), yearTexts_(kYears) {}
+RecordReader::RecordReader(Application& app, LineReader& lines, Links& links, ReadFindings& findings)
+    : app_(app),
+      lines_(lines),
+      links_(links),
+      store_(app.lvwIn.Store()),
+      findings_(findings),
+      readsCalendars_(app.chkCalendars.Checked()),
+      usesStandIns_(app.chkFallbackEvents.Checked()),
+      yearTexts_(kYears) {}
 
 TextRef RecordReader::UsedXref() const { return store_.Intern(GetXrefUsed(lines_.sValue)); }
 
@@ -88,12 +95,14 @@ std::int32_t RecordReader::ReadIndividual() {
     SetRange(row);
     row.SetCell(In::LastName, individual.lastName);
     row.SetCell(In::FirstName, individual.firstName);
-    row.SetCell(In::BirthPlace, individual.birthPlace);
-    row.SetCell(In::BirthMin, YearText(individual.birth.lYearMin, kNoYearMin));
-    row.SetCell(In::BirthMax, YearText(individual.birth.lYearMax, kNoYearMax));
-    row.SetCell(In::DeathPlace, individual.deathPlace);
-    row.SetCell(In::DeathMin, YearText(individual.death.lYearMin, kNoYearMin));
-    row.SetCell(In::DeathMax, YearText(individual.death.lYearMax, kNoYearMax));
+    const LifeFacts birth = individual.events.Birth(usesStandIns_, findings_);
+    const LifeFacts death = individual.events.Death(usesStandIns_, findings_);
+    row.SetCell(In::BirthPlace, birth.place);
+    row.SetCell(In::BirthMin, YearText(birth.years.lYearMin, kNoYearMin));
+    row.SetCell(In::BirthMax, YearText(birth.years.lYearMax, kNoYearMax));
+    row.SetCell(In::DeathPlace, death.place);
+    row.SetCell(In::DeathMin, YearText(death.years.lYearMin, kNoYearMin));
+    row.SetCell(In::DeathMax, YearText(death.years.lYearMax, kNoYearMax));
     row.SetCell(In::Sex, individual.sex);
     return result;
 }
@@ -109,18 +118,12 @@ std::int32_t RecordReader::SkipRecord() {
 void RecordReader::ReadIndividualLine(Individual& individual) {
     const std::uint64_t tag = TagCode(lines_.sTag);
     if (lines_.iLevel == lines_.iBaseLevel + 1) {
-        individual.event = Event::None;
+        individual.event = nullptr;
         switch (tag) {
             case TagCode("NAME"):
                 return ReadName(individual);
             case TagCode("SEX"):
                 individual.sex = Sex(Trim(lines_.DecodedValue()));
-                return;
-            case TagCode("BIRT"):
-                individual.event = Event::Birth;
-                return;
-            case TagCode("DEAT"):
-                individual.event = Event::Death;
                 return;
             case TagCode("FAMS"):
                 return links_.AddFamilyXRef(UsedXref(), links_.Words().Fams, sCurId_, individual.sex);
@@ -129,16 +132,20 @@ void RecordReader::ReadIndividualLine(Individual& individual) {
             case TagCode("ALIA"):
                 return AddAlias(UsedXref());
             default:
+                individual.event = individual.events.Of(tag);
                 return;
         }
     }
-    if (lines_.iLevel == lines_.iBaseLevel + 2 && individual.event != Event::None) {
-        const bool birth = individual.event == Event::Birth;
-        if (tag == TagCode("DATE")) {
-            (birth ? individual.birth : individual.death) = GetYears(lines_.DecodedValue());
-        } else if (tag == TagCode("PLAC")) {
-            (birth ? individual.birthPlace : individual.deathPlace) = Place();
-        }
+    if (lines_.iLevel == lines_.iBaseLevel + 2 && individual.event != nullptr)
+        ReadEventLine(*individual.event);
+}
+
+void RecordReader::ReadEventLine(EventFacts& event) {
+    if (lines_.sTag == "DATE") {
+        event.date = ReadDate(lines_.DecodedValue(), readsCalendars_);
+    } else if (lines_.sTag == "PLAC") {
+        event.hasPlace = !CleanInPlace(lines_.sValue).empty();
+        if (usesStandIns_ || !event.isStandIn) event.place = Place();
     }
 }
 
@@ -195,9 +202,9 @@ std::int32_t RecordReader::ReadFamilyRecord() {
 
 void RecordReader::ReadFamilyEvent(TextRef& place, Years& years) {
     if (lines_.sTag == "DATE") {
-        const Years event = GetYears(lines_.DecodedValue());
-        years.lYearMin = std::min(years.lYearMin, event.lYearMin);
-        years.lYearMax = std::max(years.lYearMax, event.lYearMax);
+        const DateReading event = ReadDate(lines_.DecodedValue(), readsCalendars_);
+        findings_.Note(event);
+        years.Widen(event.years);
     } else if (lines_.sTag == "PLAC") {
         place = Place();
     }

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "gedcom/dates.h"
+#include "gedcom/life_events.h"
 #include "gedcom/line_reader.h"
 #include "gedcom/links.h"
 
@@ -20,7 +20,8 @@ PersonNames SplitName(TextView sValue);
 /// line that ended the record after. One is made for each read.
 class RecordReader {
   public:
-    RecordReader(Application& app, LineReader& lines, Links& links);
+    /// What the options keep it from is noted in `findings`.
+    RecordReader(Application& app, LineReader& lines, Links& links, ReadFindings& findings);
 
     /// Adds the individual to `lvwIn`, its families to `lvwFamilyXref`, its aliases to `lvwXref`. Gives the
     /// result of the last Read1Line, as the next one does.
@@ -29,17 +30,16 @@ class RecordReader {
     std::int32_t ReadFamilyRecord();
 
   private:
-    enum class Event { None, Birth, Death };
     struct Individual {
         TextRef lastName, firstName, sex;
-        TextRef birthPlace, deathPlace;
-        Years birth, death;
-        Event event = Event::None;
+        LifeEvents events;
+        EventFacts* event = nullptr;  // that the lines below belong to
     };
 
     /// Passes over an individual whose identifier another one has.
     std::int32_t SkipRecord();
     void ReadIndividualLine(Individual& individual);
+    void ReadEventLine(EventFacts& event);
     void ReadName(Individual& individual);
     void AddAlias(TextRef other);
     void AddMember(TextRef type, TextRef sex);
@@ -55,6 +55,8 @@ class RecordReader {
     LineReader& lines_;
     Links& links_;
     TextStore& store_;
+    ReadFindings& findings_;
+    const bool readsCalendars_, usesStandIns_;
     std::int32_t lNrRows_ = 0;
     TextRef sCurId_;
     TextRef lastPlace_;

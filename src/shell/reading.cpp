@@ -2,6 +2,7 @@
 
 #include "gedcom/places.h"
 #include "list/calc_output.h"
+#include "shell/read_notice.h"
 #include "tables/column_icon.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -28,6 +29,7 @@ void Reading::cmdLoad_Click() {
 
 void Reading::ReadFile() {
     app_.SetFocus(app_.cboGedIn);
+    app_.messageBar.Remove(this);
     for (Panel* panel : {&app_.pnlLines, &app_.pnlIndividuals, &app_.pnlFamilies, &app_.pnlMessage})
         panel->Set("");
     app_.bAbort = app_.bFamiliesRead = false;
@@ -36,7 +38,18 @@ void Reading::ReadFile() {
     app_.SSTab1 = Tab::Options;  // no table is seen during the read; the focus stays where it is
     if (reader_.lines.InitGedcom(app_.cboGedIn.Get())) {
         const ScopedFlag lock(app_.bTablesLocked);
+        // The boxes of the names hold for one read; they hold for its repetition too.
+        const auto readAgain = [this, file = app_.cboGedIn.Get(), inverts = app_.chkInvertNames.Checked(),
+                                raises = app_.chkUpperNames.Checked()](CheckBox& option) {
+            if (!commands_.cmdLoad.Enabled) return;
+            option.SetChecked(true);
+            if (inverts) app_.chkInvertNames.SetChecked(true);
+            if (raises) app_.chkUpperNames.SetChecked(true);
+            app_.cboGedIn.SetText(file);
+            commands_.cmdLoad.Click();
+        };
         reader_.ProcessGedcom();
+        if (!app_.bAbort) TellFindings(readAgain);
     }
     reader_.lines.Close();
     app_.ShowTab(Tab::In);
@@ -49,6 +62,12 @@ void Reading::ReadFile() {
         if (answer == BoxAnswer::Yes) cmdCalcOutput_Click();
     }
     SetAllColumnIcons(app_);
+}
+
+void Reading::TellFindings(const std::function<void(CheckBox& option)>& readAgain) {
+    Notice notice = ReadNotice(reader_.findings, {[this, readAgain] { readAgain(app_.chkCalendars); },
+                                                  [this, readAgain] { readAgain(app_.chkFallbackEvents); }});
+    if (!notice.text.empty()) app_.messageBar.Show(this, std::move(notice));
 }
 
 void Reading::cboLoad_Click() {

@@ -14,6 +14,8 @@ class Reading {
   private:
     void cmdLoad_Click();
     void ReadFile();
+    /// Tells in the message bar what the options kept the read from; `readAgain` repeats it with one of them.
+    void TellFindings(const std::function<void(CheckBox& option)>& readAgain);
     void cboLoad_Click();
     void chkProcFamilies_Click();
     void EnableFamilyCommands(bool enabled);

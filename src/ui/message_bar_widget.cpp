@@ -32,6 +32,7 @@ MessageBarWidget::MessageBarWidget(Presenter& presenter)
     text_->setObjectName(QStringLiteral("messageBarText"));
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
+    text_->setMinimumWidth(1);  // a long word is cut, it does not widen the window
     auto* close = new QToolButton;
     close->setObjectName(QStringLiteral("messageBarClose"));
     close->setAutoRaise(true);
@@ -64,14 +65,15 @@ void MessageBarWidget::Refresh() {
 }
 
 void MessageBarWidget::ShowNotice(const Notice& notice) {
-    const QString text = ToQt(notice.text);
-    const bool isNew = isHidden() || text_->text() != text;
-    text_->setText(text);
+    text_->setText(ToQt(notice.text));
+    bool isNew = isHidden();
     // A notice that only counts on keeps its buttons, and the focus that one of them may have.
     while (buttons_.size() < notice.buttons.size()) buttons_.push_back(NewNoticeButton());
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const bool isUsed = i < notice.buttons.size();
-        if (isUsed) buttons_[i]->setText(ToQt(notice.buttons[i].caption));
+        const QString caption = isUsed ? ToQt(notice.buttons[i].caption) : QString();
+        isNew = isNew || buttons_[i]->text() != caption;
+        buttons_[i]->setText(caption);
         buttons_[i]->setVisible(isUsed);
     }
     if (!isNew) return;

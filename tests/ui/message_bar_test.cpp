@@ -1,0 +1,57 @@
+// The message bar above the lists.
+#include <QToolButton>
+
+#include "window_fixture.h"
+
+namespace swiftroll::test {
+namespace {
+
+class Bar : public WindowTest {
+  protected:
+    QWidget& Whole() { return Find<QWidget>("messageBar"); }
+    QString Said() { return Find<QLabel>("messageBarText").text(); }
+};
+
+TEST_F(Bar, ReadsAgainWithWhatItToldAndLeavesTheFocusAlone) {
+    Start();
+    EXPECT_FALSE(Whole().isVisible());
+    Read(
+        "0 @I1@ INDI\n1 NAME A /B/\n1 BIRT\n2 DATE @#DFRENCH R@ 3 NIVO 9\n1 DEAT\n1 BURI\n2 PLAC Lyon\n0 "
+        "TRLR\n");
+    ASSERT_TRUE(Whole().isVisible());
+    EXPECT_EQ(Said(),
+              QStringLiteral("1 date du calendrier républicain n'a pas été lue. 1 inhumation qui complète "
+                             "un décès n'a pas été lue."));
+    EXPECT_LT(Whole().y(), Window().Tabs().y());
+    QWidget* const focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr);
+    EXPECT_FALSE(Whole().isAncestorOf(focus));
+    QTest::keyClick(focus, Qt::Key_Escape);
+    EXPECT_TRUE(Whole().isVisible()) << "Escape stops work, not the bar";
+
+    OnBox(QMessageBox::No);
+    Click("messageBarButton(0)");
+    EXPECT_TRUE(Find<QCheckBox>("chkCalendars").isChecked());
+    EXPECT_EQ(Main().lvwIn.Item(1).Cell(In::BirthMin), "1800");
+    EXPECT_EQ(Said(), QStringLiteral("1 inhumation qui complète un décès n'a pas été lue."));
+    EXPECT_FALSE(Find<QPushButton>("messageBarButton(1)").isVisible());
+
+    EXPECT_EQ(Find<QToolButton>("messageBarClose").accessibleName(), QStringLiteral("Fermer"));
+    Click("messageBarClose");
+    EXPECT_FALSE(Whole().isVisible());
+}
+
+TEST_F(Bar, ALongNoticeWrapsAndKeepsTheWindow) {
+    Start();
+    const QSize size = Window().size();
+    const QString words = QStringLiteral("mot ").repeated(100);
+    Main().messageBar.Show(this, {words.toStdString() + Text(400, 'x')});
+    ShowTab(1);
+    QTest::qWait(20);
+    EXPECT_EQ(Window().size(), size);
+    EXPECT_GT(Whole().height(), 2 * Find<QLabel>("messageBarText").fontMetrics().height());
+    EXPECT_LE(Whole().width(), Window().width());
+}
+
+}  // namespace
+}  // namespace swiftroll::test
