@@ -23,7 +23,7 @@ TEST_F(Bar, ReadsAgainWithWhatItToldAndLeavesTheFocusAlone) {
               QStringLiteral("1 date du calendrier républicain n'a pas été lue. 1 inhumation qui complète "
                              "un décès n'a pas été lue."));
     EXPECT_LT(Whole().y(), Window().Tabs().y());
-    QWidget* const focus = QApplication::focusWidget();
+    QWidget* const focus = Window().focusWidget();
     ASSERT_NE(focus, nullptr);
     EXPECT_FALSE(Whole().isAncestorOf(focus));
     QTest::keyClick(focus, Qt::Key_Escape);
@@ -34,7 +34,7 @@ TEST_F(Bar, ReadsAgainWithWhatItToldAndLeavesTheFocusAlone) {
     EXPECT_TRUE(Find<QCheckBox>("chkCalendars").isChecked());
     EXPECT_EQ(Main().lvwIn.Item(1).Cell(In::BirthMin), "1800");
     EXPECT_EQ(Said(), QStringLiteral("1 inhumation qui complète un décès n'a pas été lue."));
-    EXPECT_FALSE(Find<QPushButton>("messageBarButton(1)").isVisible());
+    EXPECT_FALSE(Find<QWidget>("messageBarButton(1)").isVisible());
 
     EXPECT_EQ(Find<QToolButton>("messageBarClose").accessibleName(), QStringLiteral("Fermer"));
     Click("messageBarClose");
