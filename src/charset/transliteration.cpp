@@ -3,6 +3,7 @@
 #include <unicode/normalizer2.h>
 #include <unicode/translit.h>
 #include <unicode/uchar.h>
+#include <unicode/uscript.h>
 
 #include "text/code_page.h"
 
@@ -14,6 +15,9 @@ constexpr const char* kToLatin =
     "Russian-Latin/BGN; Ukrainian-Latin/BGN; Serbian-Latin/BGN; Cyrillic-Latin; Greek-Latin/BGN; Any-Latin; "
     "NFC";
 constexpr const char* kToAscii = "Latin-ASCII";
+
+// Far more than a file of one language holds; a file may hold anything.
+constexpr std::size_t kMostKnown = std::size_t{1} << 17;
 
 using Rule = std::unique_ptr<icu::Transliterator>;
 
@@ -29,6 +33,13 @@ Rule MakeRule(const char* id) {
 bool IsInvisible(UChar32 character) {
     constexpr std::uint32_t kInvisible = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK;
     return (U_GET_GC_MASK(character) & kInvisible) != 0;
+}
+
+/// Whether the rules for a character look at its neighbours.
+bool HasNeighbours(UChar32 character) {
+    UErrorCode error = U_ZERO_ERROR;
+    const UScriptCode script = uscript_getScript(character, &error);
+    return script == USCRIPT_CYRILLIC || script == USCRIPT_GREEK;
 }
 
 /// The byte of a character. Controls, which no text holds, are bytes of Windows-1252 that were taken for
@@ -53,8 +64,8 @@ void AppendBytes(const icu::UnicodeString& text, Text& out, Otherwise otherwise)
 
 icu::UnicodeString Composed(std::u32string_view text) {
     static_assert(sizeof(char32_t) == sizeof(UChar32));
-    const auto whole = icu::UnicodeString::fromUTF32(reinterpret_cast<const UChar32*>(text.data()),
-                                                     static_cast<std::int32_t>(text.size()));
+    auto whole = icu::UnicodeString::fromUTF32(reinterpret_cast<const UChar32*>(text.data()),
+                                               static_cast<std::int32_t>(text.size()));
     UErrorCode error = U_ZERO_ERROR;
     const icu::Normalizer2* const composer = icu::Normalizer2::getNFCInstance(error);
     if (U_FAILURE(error) != 0) return whole;
@@ -76,22 +87,26 @@ std::int64_t Transliteration::Append(std::u32string_view text, Text& out) {
     std::int64_t count = 0;
     const auto letterAt = [&](std::int32_t at) {
         const UChar32 character = at < 0 || at >= composed.length() ? 0 : composed.char32At(at);
-        return u_isalpha(character) != 0 ? static_cast<char32_t>(character) : U'\0';
+        return u_isalpha(character) != 0 && HasNeighbours(character) ? static_cast<char32_t>(character)
+                                                                     : U'\0';
     };
     for (std::int32_t at = 0, next = 0; at < composed.length(); at = next) {
         next = composed.moveIndex32(at, 1);
         const auto character = static_cast<char32_t>(composed.char32At(at));
         if (const auto byte = ByteOf(character)) {
             out += static_cast<char>(*byte);
-        } else {
-            out += Of(letterAt(at == 0 ? -1 : composed.moveIndex32(at, -1)), character, letterAt(next));
-            ++count;
+            continue;
         }
+        const std::int32_t before = at == 0 ? -1 : composed.moveIndex32(at, -1);
+        out += HasNeighbours(composed.char32At(at)) ? Of(letterAt(before), character, letterAt(next))
+                                                    : Of(0, character, 0);
+        ++count;
     }
     return count;
 }
 
 const Text& Transliteration::Of(char32_t before, char32_t character, char32_t behind) {
+    if (known_.size() >= kMostKnown) known_.clear();
     const auto [entry, isNew] = known_.try_emplace(std::u32string{before, character, behind});
     if (isNew) entry->second = Make(before, character, behind);
     return entry->second;

@@ -24,7 +24,7 @@ class Transliteration {
 
   private:
     /// A character by its neighbours: "Е" is "Ye" at the head of a word and "e" behind a consonant, "Ю" is
-    /// "Yu" before a small letter. A neighbour that is no letter is 0.
+    /// "Yu" before a small letter. A neighbour that is no letter, or that no rule looks at, is 0.
     const Text& Of(char32_t before, char32_t character, char32_t behind);
     Text Make(char32_t before, char32_t character, char32_t behind);
 

@@ -119,7 +119,7 @@ bool LineReader::AskToGoOn(const Failure& failure) {
 BoxAnswer LineReader::ShowLineError(const Failure& failure) {
     return app_.Box(" - Erreur Ligne"_t,
                     Concat({Decimal(failure.Number()), ": ", failure.What(), kLineEnd, "Ligne ",
-                            Decimal(lNrLines), kLineEnd, TrimRight(sLine)}),
+                            Decimal(lNrLines), kLineEnd, Decoded(TrimRight(sLine))}),
                     lineErrors_ < kManyLineErrors ? BoxButtons::OkCancel : BoxButtons::OkCancelOkToAll,
                     BoxIcon::Question, BoxTopic::LineError, BoxAnswer::Ok);
 }

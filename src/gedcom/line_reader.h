@@ -47,7 +47,7 @@ class LineReader : public GedcomLine {
 
     /// `sValue` in Windows-1252, the character set of the tables: itself when it is ASCII, or when character
     /// sets are not converted. Valid until the next call or line. Cross-references are never converted.
-    TextView DecodedValue() { return decoder_ != nullptr ? decoder_->Decode(sValue) : sValue; }
+    TextView DecodedValue() { return Decoded(sValue); }
     /// Takes `sValue` as the character set that the file declares; false when the text may be read wrongly.
     bool TakeCharset();
     /// What is known of the character set of the file that was opened last: the file may be closed since.
@@ -76,6 +76,7 @@ class LineReader : public GedcomLine {
     const KeyedCollection<RecordRange>& colRecords() const { return *colRecords_; }
 
   private:
+    TextView Decoded(TextView text) { return decoder_ != nullptr ? decoder_->Decode(text) : text; }
     /// Takes the length of the file; false after a box when it is longer than positions can tell.
     bool TakeLength(File& file, TextView sFile);
     std::int32_t ReadAndSplit();

@@ -232,6 +232,10 @@ TEST(Charsets, TheBoxAsksOnlyWhereTheTextCannotBeTold) {
     EXPECT_EQ(boxes("KOI8-R", "e", true), 0u);
     EXPECT_EQ(boxes("KOI8-R", "\303\251", true), 0u);
     EXPECT_EQ(boxes("KOI8-R", "\xE9", true), 1u);
+    // Other boxes that show the text show it decoded.
+    TestMain t;
+    t.Read("0 HEAD\r\n1\303\211va\r\n0 TRLR\r\n");
+    EXPECT_TRUE(t.dialogs.boxes[0].text.ends_with("1Éva"_t)) << t.dialogs.boxes[0].text;
 }
 
 }  // namespace
