@@ -37,3 +37,13 @@ generated() {
     fi
     printf '%s\n' "$file"
 }
+
+# in_utf8 FILE: makes the same file in UTF-8 beside it, once; prints its path.
+in_utf8() {
+    local file=${1%.ged}.utf8.ged
+    if [[ ! -f $file ]]; then
+        iconv -f WINDOWS-1252 -t UTF-8 "$1" | sed '1,20s/^1 CHAR ANSI/1 CHAR UTF-8/' >"$file.part"
+        mv "$file.part" "$file"
+    fi
+    printf '%s\n' "$file"
+}
