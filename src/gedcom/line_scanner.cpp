@@ -81,18 +81,26 @@ bool LineScanner::Fill(std::size_t keepFrom) {
     return added > 0;
 }
 
+void LineScanner::CountLineEnd(char c) {
+    if (c != '\n' || !mayBePair_) ++lineEnds_;
+    mayBePair_ = c == '\r';
+}
+
 bool LineScanner::SkipToText() {
     std::int64_t behindLineEnd = ReadPosition();
     for (;; ++next_) {
         if (next_ == size_ && !Fill(next_)) break;
         const char c = buffer_[next_];
         if (IsLineEnd(c)) {
+            CountLineEnd(c);
             behindLineEnd = ReadPosition() + 1;
-        } else if (c != ' ') {
-            break;
+            continue;
         }
+        mayBePair_ = false;
+        if (c != ' ') break;
     }
     linePosition_ = behindLineEnd + 1;
+    lineNumber_ = lineEnds_ + 1;
     return next_ < size_;
 }
 
@@ -116,6 +124,7 @@ bool LineScanner::Next() {
         next_ = size_;
         return false;
     }
+    CountLineEnd(buffer_[lineEnd_]);
     next_ = lineEnd_ + 1;
     // A line whose end is the last byte of the file counts as unfinished.
     return next_ < size_ || Fill(lineStart_);

@@ -22,10 +22,14 @@ class LineScanner {
     TextView Line() const { return {buffer_.data() + lineStart_, lineEnd_ - lineStart_}; }
     /// Position, from 1, of the byte behind the last line end skipped before this line.
     std::int64_t LinePosition() const { return linePosition_; }
+    /// Number of the line as an editor counts, from 1: blank lines count too.
+    std::uint32_t LineNumber() const { return lineNumber_; }
     /// Position, from 0, of the next byte to read.
     std::int64_t ReadPosition() const { return bufferPosition_ + static_cast<std::int64_t>(next_); }
 
   private:
+    /// Notes a line end, if it is not the second half of a pair.
+    void CountLineEnd(char c);
     bool Fill(std::size_t keepFrom);
     bool SkipToText();
     bool FindLineEnd();
@@ -37,6 +41,9 @@ class LineScanner {
     std::size_t next_ = 0;
     std::size_t lineStart_ = 0, lineEnd_ = 0;
     std::int64_t linePosition_ = 1;
+    std::uint32_t lineNumber_ = 1;
+    std::uint32_t lineEnds_ = 0;
+    bool mayBePair_ = false;  // the byte before the next one is a carriage return
     bool ended_ = false;
 };
 
