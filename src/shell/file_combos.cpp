@@ -1,5 +1,6 @@
 #include "shell/file_combos.h"
 
+#include "shell/ask_file.h"
 #include "shell/file_names.h"
 #include "shell/settings/history.h"
 #include "text/edit.h"
@@ -49,32 +50,11 @@ void FileCombos::SelectFile(ComboBox& combo, bool bSave, const FileRole& role) {
 }
 
 bool FileCombos::GetFile(ComboBox& combo, bool bSave, const FileRole& role) {
-    Dialogs::FileRequest request{bSave, Text(role.title), combo.Get(), {}, role.extension};
-    if (request.fileName.ends_with(':') || request.fileName.ends_with('\\') ||
-        request.fileName.ends_with('/')) {
-        request.fileName += "*." + role.extension;
-    }
-    request.filter =
-        Concat({role.filterName, " (*.", role.extension, ")|*.", role.extension, "|Tous (*.*)|*.*"});
     Text chosen;
-    BoxAnswer answer = BoxAnswer::Yes;
-    do {
-        if (!app_.ports.dialogs.AskFile(request, chosen)) return false;
-    } while (bSave && !MayOverwrite(chosen, answer));
-    combo.SetText(chosen);
-    return answer == BoxAnswer::Yes;
-}
-
-/// Asks about a file that exists; false to show the dialog again.
-bool FileCombos::MayOverwrite(TextView sFile, BoxAnswer& answer) {
-    answer = BoxAnswer::Yes;
-    if (app_.ports.files.Exists(sFile)) {
-        answer = app_.Box(
-            " - Fichier existant"_t,
-            Concat({"Le fichier existe déjà"_t, kLineEnd, sFile, kLineEnd, "Voulez-vous l'écraser ?"_t}),
-            BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::OverwriteFile);
-    }
-    return answer != BoxAnswer::No;
+    const bool goesOn = AskFile(
+        app_, FileRequestOf(bSave, role.title, combo.Get(), role.filterName, role.extension), chosen);
+    if (!chosen.empty()) combo.SetText(chosen);
+    return goesOn;
 }
 
 void FileCombos::FileCombo_LostFocus(ComboBox& cbo) {

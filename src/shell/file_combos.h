@@ -25,7 +25,6 @@ class FileCombos {
 
   private:
     bool GetFile(ComboBox& combo, bool bSave, const FileRole& role);
-    bool MayOverwrite(TextView sFile, BoxAnswer& answer);
     bool CheckFileCbo(ComboBox& cbo);
     void OpenFile(TextView sFile);
 

@@ -2,6 +2,7 @@
 
 #include "list/format_row.h"
 #include "list/sort_keys.h"
+#include "shell/jump.h"
 #include "tables/column_icon.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -91,20 +92,8 @@ void Lists::lvw_DblClick(Table& table) {
     const CellMeaning& meaning = table.ColumnAt(lHitCol).Facts->meaning;
     if (!meaning.namesIt) return;
     const bool isFamily = meaning.subject == Subject::Family;
-    JumpTo(isFamily ? app_.lvwFamily : app_.lvwIn,
+    JumpTo(app_, isFamily ? app_.lvwFamily : app_.lvwIn,
            table.Item(lHitRow + 1).Cell(isFamily ? meaning.family : meaning.individual));
-}
-
-/// Goes to the row of a key; a cell that names nobody leads nowhere.
-void Lists::JumpTo(Table& target, TextView sKey) {
-    if (auto current = target.Current()) current->SetSelected(false);
-    auto row = sKey.empty() ? std::nullopt : target.Find(sKey);
-    if (!row) return;
-    target.SetCurrent(*row);
-    row->SetSelected(true);
-    row->SetChecked(true);
-    row->EnsureVisible();
-    app_.ShowTab(&target == &app_.lvwFamily ? Tab::Family : Tab::In);
 }
 
 void Lists::lvw_ColumnClick(Table& table, Column& column) {

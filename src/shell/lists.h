@@ -49,7 +49,6 @@ class Lists {
     void mnuFind_Click();
     void mnuCopy_Click();
     std::optional<Text> MarkedLines();
-    void JumpTo(Table& target, TextView sKey);
 
     Application& app_;
     modSelectionIn::Engine& selection_;
