@@ -6,6 +6,7 @@
 #include "shell/context_menu.h"
 #include "shell/favorites.h"
 #include "shell/file_combos.h"
+#include "shell/frm_check.h"
 #include "shell/frm_find.h"
 #include "shell/frm_kinship_select.h"
 #include "shell/frm_preview.h"
@@ -45,7 +46,7 @@ class frmMain : public Application, public MainCommands {
     void ShowTab(Tab tab) override { tabs.ShowTab(tab); }
     /// The windows beside the main one.
     std::vector<Window*> SecondaryWindows() {
-        return {&about, &updates, &findDialog, &preview, &kinshipDialog};
+        return {&about, &updates, &findDialog, &checkDialog, &preview, &kinshipDialog};
     }
 
     /// What the last read knows beside the tables.
@@ -60,6 +61,7 @@ class frmMain : public Application, public MainCommands {
     frmPreview preview;
     frmUpdates updates;
     frmFind findDialog;
+    frmCheck checkDialog;
 
     SavedSettings savedSettings;
 

@@ -24,6 +24,9 @@ ReadingCommands::ReadingCommands(Window& window)
       cmdCalcOutput(window, {"cmdCalcOutput", "Recalcul Sortie"_t}, "F5"),
       mnuRecalcOut(window, {"mnuRecalcOut", "Recalcul Sortie"_t}, "F5") {}
 
+CheckCommands::CheckCommands(Window& window)
+    : mnuCheckFile(window, {"mnuCheckFile", "Contrôle du fichier..."_t}, {}, false) {}
+
 WritingCommands::WritingCommands(Window& window)
     : cmdSaveSwift(window, {"cmdSaveSwift", "Ecrire en HTML"_t}),
       mnuSaveSwift(window, {"mnuSaveSwift", "Ecrire Relevé-vif"_t}, "Ctrl+L"),
@@ -105,6 +108,7 @@ FavoriteCommands::FavoriteCommands(Window& window)
 MainCommands::MainCommands(Window& window)
     : ListCommands(window),
       ReadingCommands(window),
+      CheckCommands(window),
       WritingCommands(window),
       FileCommands(window),
       KinshipCommands(window),
@@ -119,6 +123,7 @@ MainCommands::MainCommands(Window& window)
 std::vector<Menu> MainCommands::MenuBar() {
     return {{mnuFile,
              {{mnuReadGedCom},
+              {mnuCheckFile},
               {mnuRecalcOut},
               {mnuSaveSwift},
               {mnuSaveGed},

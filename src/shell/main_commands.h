@@ -15,6 +15,12 @@ struct ReadingCommands {
     Command cmdCalcOutput, mnuRecalcOut;
 };
 
+struct CheckCommands {
+    explicit CheckCommands(Window& window);
+
+    Command mnuCheckFile;
+};
+
 struct WritingCommands {
     explicit WritingCommands(Window& window);
 
@@ -91,6 +97,7 @@ struct FavoriteCommands {
 /// All of them, in the order in which the window holds them.
 struct MainCommands : ListCommands,
                       ReadingCommands,
+                      CheckCommands,
                       WritingCommands,
                       FileCommands,
                       KinshipCommands,

@@ -34,6 +34,7 @@ void Reading::ReadFile() {
         panel->Set("");
     app_.bAbort = app_.bFamiliesRead = false;
     EnableFamilyCommands(false);
+    commands_.mnuCheckFile.Enabled = false;
     drawing_.DisableKinshipCommands();
     app_.SSTab1 = Tab::Options;  // no table is seen during the read; the focus stays where it is
     if (reader_.lines.InitGedcom(app_.cboGedIn.Get())) {
@@ -50,6 +51,7 @@ void Reading::ReadFile() {
         };
         reader_.ProcessGedcom();
         if (!app_.bAbort) TellFindings(readAgain);
+        commands_.mnuCheckFile.Enabled = !app_.bAbort;
     }
     reader_.lines.Close();
     app_.ShowTab(Tab::In);

@@ -26,7 +26,8 @@ enum : int {
     Updates,
     Favorites,
     FormatOptions,
-    Options
+    Options,
+    Check
 };
 }
 
