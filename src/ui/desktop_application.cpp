@@ -33,6 +33,7 @@ bool DesktopApplication::Start(const QString& file) {
     window_ = std::make_unique<MainWindow>(presenter_);
     BuildKinshipDialog(presenter_, dialogs_, window_.get());
     BuildFindDialog(presenter_, window_.get());
+    BuildCheckDialog(presenter_, window_.get());
     BuildAboutDialog(presenter_, window_.get());
     BuildUpdatesDialog(presenter_, window_.get());
     new PreviewDialog(presenter_, preview_, window_.get());  // owned by the window
