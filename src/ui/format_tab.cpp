@@ -64,8 +64,8 @@ QWidget* ExtensionFrame(frmMain& main, Binder& binder, Presenter& presenter) {
     presenter.OnRefresh([stylesheet] { GreyUnlessTicked(*stylesheet); });
     const int xmlRow = modGenFileFromModel::StylesheetFormat() + 1;
     frame.grid->addWidget(stylesheet, xmlRow, 3);
-    frame.grid->addWidget(NewCheckBox(binder, main.chkStrictXml), xmlRow, 4);
-    frame.grid->setColumnStretch(5, 1);
+    frame.grid->addWidget(NewCheckBox(binder, main.chkStrictXml), xmlRow + 1, 2, 1, 2);
+    frame.grid->setColumnStretch(4, 1);
     return frame.box;
 }
 
