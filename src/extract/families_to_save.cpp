@@ -10,11 +10,11 @@
 
 namespace swiftroll::modSaveGed {
 
-FamiliesToSave::FamiliesToSave(const TableSet& tables)
+FamiliesToSave::FamiliesToSave(TableSet& tables)
     : lvwIn_(tables.lvwIn),
       lvwFamily_(tables.lvwFamily),
       lvwFamilyXref_(tables.lvwFamilyXref),
-      rankOf_(lvwFamily_.Store().InternedCount() + 1) {}
+      rankOf_(tables.lvwFamily.Store().InternedCount() + 1) {}
 
 void FamiliesToSave::AddMarked() {
     for (std::int32_t i = 1; i <= lvwIn_.Count(); ++i) {

@@ -13,7 +13,7 @@ namespace swiftroll::modSaveGed {
 /// to the end each time a member is added, so that families stand in the order of their last member.
 class FamiliesToSave {
   public:
-    explicit FamiliesToSave(const TableSet& tables);
+    explicit FamiliesToSave(TableSet& tables);
 
     /// Adds each marked individual, in the order of lvwIn, to all its families, and puts these in their
     /// order. Only reads the tables.
