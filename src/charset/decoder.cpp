@@ -38,6 +38,7 @@ bool IsCutOff(TextView text) {
 
 Decoder::Decoder(std::unique_ptr<File> file)
     : file_(std::move(file)), highHalf_(HighHalfOf(Charset::Windows1252)) {
+    if (file_ == nullptr) return;
     try {
         LookAtHead();
     } catch (const Failure&) {

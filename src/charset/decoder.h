@@ -14,9 +14,9 @@ namespace swiftroll::charset {
 /// letter.
 class Decoder {
   public:
-    /// `file` is the file that is read, opened once more: it is looked at out of order. One that does not
-    /// allow that, such as a pipe, is taken at its word. When `Found` tells UTF-16, values are to be those of
-    /// its Utf16Text.
+    /// `file` is the file that is read, opened once more: it is looked at out of order. Without one, since a
+    /// pipe can be opened only once, the text is taken at its word. When `Found` tells UTF-16, values are to
+    /// be those of its Utf16Text.
     explicit Decoder(std::unique_ptr<File> file);
 
     /// Takes the value of a CHAR line; the first one counts. False when it cannot be told in which character

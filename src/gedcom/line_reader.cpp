@@ -38,7 +38,9 @@ bool LineReader::InitGedcom(TextView sFile) {
             if (!TakeLength(*file, sFile)) return false;
             std::unique_ptr<charset::Decoder> decoder;
             if (app_.chkDecodeCharset.Checked()) {
-                decoder = std::make_unique<charset::Decoder>(app_.ports.files.Open(sFile, Files::Mode::Read));
+                // A pipe, which has no stamp, cannot be opened once more: nobody may be left who writes it.
+                decoder = std::make_unique<charset::Decoder>(
+                    origin.stamp ? app_.ports.files.Open(sFile, Files::Mode::Read) : nullptr);
                 if (decoder->Found().IsUtf16())
                     file = charset::Utf16Text(*file, decoder->Found().charset).Open();
                 if (!TakeLength(*file, sFile)) return false;
