@@ -51,8 +51,8 @@ void FileCombos::SelectFile(ComboBox& combo, bool bSave, const FileRole& role) {
 
 bool FileCombos::GetFile(ComboBox& combo, bool bSave, const FileRole& role) {
     Text chosen;
-    const bool goesOn = AskFile(
-        app_, FileRequestOf(bSave, role.title, combo.Get(), role.filterName, role.extension), chosen);
+    const bool goesOn =
+        AskFile(app_, FileRequestOf(bSave, role.title, combo.Get(), role.filterName, role.extension), chosen);
     if (!chosen.empty()) combo.SetText(chosen);
     return goesOn;
 }

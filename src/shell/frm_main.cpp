@@ -22,7 +22,9 @@ frmMain::frmMain(const Ports& applicationPorts)
       updates(*this),
       findDialog(*this, selection),
       checkDialog(*this, *this, reader.lines),
-      savedSettings(*this, {{*this, All()}, {findDialog}, {checkDialog}, {preview}, {kinshipDialog}, {about}, {updates}}),
+      savedSettings(
+          *this,
+          {{*this, All()}, {findDialog}, {checkDialog}, {preview}, {kinshipDialog}, {about}, {updates}}),
       fileCombos(*this, *this, *this),
       drawing(*this, *this, kinshipSearch, fileCombos),
       favorites(*this, mnuAddFavorite, cmdGotoFavorite),
