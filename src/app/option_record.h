@@ -29,6 +29,9 @@ class OptionRecord : public Window {
   public:
     explicit OptionRecord(std::span<const FormatOption> formats);
 
+    /// What `txtNearest` counts as when it holds no number.
+    static constexpr TextView kDefaultNearest = "100";
+
     // Named parameter sets. Restoring one loads it, so they stand before the options that they hold: what
     // the user saw last wins.
     ComboBox cboCells{*this, {"cboCells", "Jeu de paramètres des cellules"_t}};
@@ -201,6 +204,15 @@ class OptionRecord : public Window {
     TextBox txtMaxLinks{*this, {"txtMaxLinks"}, "50"};
     CheckBox chkMaxSpouses{*this, {"chkMaxSpouses", "Le nombre de conjoints est > que"_t}, false};
     TextBox txtMaxSpouses{*this, {"txtMaxSpouses"}, "50"};
+    CheckBox chkNearest{
+        *this,
+        {"chkNearest", "Les plus proches d'abord"_t,
+         "La recherche de parenté donne les liens les plus proches, sans chercher tous les autres :\r\n"
+         "d'abord ceux qui passent par le moins de mariages, et parmi eux les plus courts."_t},
+        false};
+    TextBox txtNearest{*this,
+                       {"txtNearest", {}, "Nombre de liens que donne la recherche des plus proches."_t},
+                       Text(kDefaultNearest)};
     CheckBox chkIgnoreCase{*this, {"chkIgnoreCase", "ABC=abc"_t}, true};
     CheckBox chkDelAccents{
         *this, {"chkDelAccents", "Compare sans accents, ni ponctuation, ni caractères spéciaux"_t}, true};

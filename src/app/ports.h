@@ -27,6 +27,7 @@ enum class BoxTopic {
     Recalculation,
     WriteAllRows,
     OverwriteFile,
+    LargeFile,
     UnequalSizes
 };
 
@@ -131,6 +132,9 @@ class Files {
     virtual std::optional<FileStamp> Stamp(TextView name) = 0;
     /// Removes the file if it is a regular one. @throws Failure FileAccess
     virtual void Delete(TextView name) = 0;
+    /// Bytes that can still be written to the disk on which a file stands or would stand. Nothing for what
+    /// takes no room there, such as a pipe or a device, and where the system does not tell.
+    virtual std::optional<std::uint64_t> RoomFor(TextView name) = 0;
 };
 
 /// Folders of the machine; an empty text where there is none. No separator at the end.
@@ -165,6 +169,8 @@ class Machine {
     virtual ~Machine() = default;
     /// Bytes of memory that the program may count on at most.
     virtual std::uint64_t Memory() = 0;
+    /// Bytes that the system can still give it now.
+    virtual std::uint64_t AvailableMemory() = 0;
 };
 
 class Clipboard {

@@ -15,4 +15,9 @@ void ProgressBar::Set(double percent) {
     if (visible) observer_.StatusChanged();
 }
 
+void ProgressBar::SetBusy(bool isBusy) {
+    isBusy_ = isBusy;
+    observer_.StatusChanged();
+}
+
 }  // namespace swiftroll

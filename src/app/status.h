@@ -19,7 +19,7 @@ class Panel {
     Text text_;
 };
 
-/// `ProgressBar1`: a percentage.
+/// `ProgressBar1`: a percentage, or that something goes on whose end is not known.
 class ProgressBar {
   public:
     explicit ProgressBar(StatusObserver& observer) : observer_(observer) {}
@@ -27,10 +27,14 @@ class ProgressBar {
     /// `done` of `total` in percent, held between 0 and 100; a total of 0 gives 0.
     void Show(double done, double total);
     void Set(double percent);
+    /// Whether something goes on of which no percentage is known.
+    bool IsBusy() const { return isBusy_; }
+    void SetBusy(bool isBusy);
 
   private:
     StatusObserver& observer_;
     double value_ = 0;
+    bool isBusy_ = false;
 };
 
 /// The four panels of `StatusBar1` and the progress bar.

@@ -36,6 +36,8 @@ struct Arguments {
     std::vector<Setting> settings;
     bool strict = false;
     bool overwrite = false;
+    /// Whether outputs may be large.
+    bool large = false;
     bool quiet = false;
 };
 

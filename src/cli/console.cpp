@@ -6,6 +6,7 @@
 #include "platform/interrupt.h"
 #include "text/code_page.h"
 #include "text/edit.h"
+#include "text/literal.h"
 
 namespace swiftroll::cli {
 namespace {
@@ -41,6 +42,11 @@ BoxAnswer HeadlessDialogs::Show(const MessageBox& box) {
             return writesMarkedOnly ? BoxAnswer::No : BoxAnswer::Yes;
         case BoxTopic::OverwriteFile:
             return arguments_.overwrite ? BoxAnswer::Yes : BoxAnswer::Cancel;
+        case BoxTopic::LargeFile:
+            if (arguments_.large) return BoxAnswer::Yes;
+            PrintError("--grand l'écrit quand même."_t);
+            hasRefusal_ = true;
+            return BoxAnswer::No;
         case BoxTopic::UnequalSizes:
             return BoxAnswer::No;
         case BoxTopic::UnreadableInput:

@@ -61,6 +61,7 @@ void JobParser::DeclareCommon(Arguments& arguments) {
     }
     Flag("--strict", arguments.strict);
     Flag("-f,--ecraser", arguments.overwrite);
+    Flag("--grand", arguments.large);
     Flag("-q,--silencieux", arguments.quiet);
 }
 
@@ -139,6 +140,8 @@ std::string HelpOfEveryJob() {
                             plus haut compte à son tour
   --strict                  arrête la lecture à la première ligne fautive ou au jeu de caractères inconnu
   -f, --ecraser             écrase un fichier existant
+  --grand                   écrit les liens de parenté même dans un fichier de plus de 1 Go, ou de plus de la
+                            moitié de la place libre du disque
   -q, --silencieux          ni progression ni textes d'état
 )";
 }

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <chrono>
 
+#include "app/large_file.h"
 #include "job_parser.h"
 #include "print_tables.h"
 #include "session.h"
 #include "text/code_page.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "text/numbers.h"
 #include "words.h"
 
 namespace swiftroll::cli {
@@ -32,11 +34,14 @@ int PlaceOfMode(std::string_view mode) {
 std::string ParenteJob::Help() const {
     return R"(  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--dessin SORTIE.html]
                         [--mode une|une+|toutes|toutes+] [--lignes SEQ[,SEQ...]] [--max N] [--delai SECONDES]
+                        [--proches N]
       cherche tous les liens de parenté du premier individu au second, et affiche les chemins ()" +
            kDefaultTable + R"(),
       ou écrit les tables dans LISTE. --max arrête la recherche après N chemins, --delai après ce temps ; ce
       qui est trouvé est gardé et affiché. --set chkMaxLinks=1 --set txtMaxLinks=N ne garde que les chemins
       d'au plus N lignes, chkMaxSpouses et txtMaxSpouses ceux d'au plus N conjoints.
+      --proches N donne les N liens les plus proches, sans chercher tous les autres : d'abord ceux qui passent
+      par le moins de mariages, et parmi eux les plus courts.
       --dessin dessine ensuite tous les chemins (toutes, toutes+ avec les conjoints, qui est le défaut), ou
       ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit).
 )";
@@ -54,6 +59,7 @@ void ParenteJob::Declare(JobParser& parser) {
     parser.List("--lignes", options_.drawnRows);
     parser.Limit("--max", options_.mostPaths);
     parser.Limit("--delai", options_.mostSeconds);
+    parser.Limit("--proches", options_.nearest);
 }
 
 void ParenteJob::Check() {
@@ -73,6 +79,10 @@ void ParenteJob::Prepare(Session& session) {
     drawing_ = FileNameToText(options_.drawing);
     session.dialogs.outputFile = drawing_;
     session.main.cboDrawKinship.SetListIndex(drawingMode_);
+    if (options_.nearest > 0) {
+        session.main.chkNearest.SetChecked(true);
+        session.main.txtNearest.SetText(Decimal(options_.nearest));
+    }
     output_ = options_.output.empty() ? Text(kStandardOutput) : FileNameToText(options_.output);
 }
 
@@ -85,8 +95,17 @@ void ParenteJob::Do(Session& session) {
     if (!session.HasFamiliesFor(session.main.cmdFindPath, "La parenté ne peut être cherchée"_t)) return;
     if (!session.Mark(options_.fromId) || !session.Mark(options_.toId)) return;
     if (!Search(session)) return;
+    if (!MayWriteTables(session)) return;
     session.Write(output_, [&](File& file) { PrintTables(tables_, false, file); });
     if (!drawing_.empty() && MarkRows(session)) session.main.cmdDrawKinship.Click();
+}
+
+/// Whether the file of the tables, if they go to one, is small enough or allowed to be large.
+bool ParenteJob::MayWriteTables(Session& session) {
+    if (!session.files.RoomFor(output_)) return true;
+    ByteCount size;
+    PrintTables(tables_, false, size);
+    return MayWriteLarge(session.main, session.files, output_, size.Bytes());
 }
 
 /// Marks the rows that the modes for single paths draw; false, and it is told, when there is no such row.

@@ -18,6 +18,8 @@ struct ParenteOptions {
     /// Number of paths, and seconds, after which the search ends; 0 for no limit.
     std::int64_t mostPaths = 0;
     double mostSeconds = 0;
+    /// Number of nearest paths to find in place of all; 0 for all.
+    std::int64_t nearest = 0;
 };
 
 /// Searches the kinship paths between two individuals, prints tables of them, and draws them.
@@ -33,6 +35,7 @@ class ParenteJob : public Job {
 
   private:
     bool Search(Session& session);
+    bool MayWriteTables(Session& session);
     bool MarkRows(Session& session);
     ParenteOptions options_;
     int drawingMode_ = 0;  // its place in the list of the command

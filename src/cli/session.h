@@ -17,6 +17,9 @@ inline constexpr TextView kStandardOutput = "-";
 class CliFiles : public platform::StdFiles {
   public:
     std::unique_ptr<File> Open(TextView name, Mode mode) override;
+    std::optional<std::uint64_t> RoomFor(TextView name) override {
+        return name == kStandardOutput ? std::nullopt : StdFiles::RoomFor(name);
+    }
     bool Exists(TextView name) override { return name != kStandardOutput && StdFiles::Exists(name); }
 };
 

@@ -115,4 +115,28 @@ Row IslandGraph::RowOfLink(std::int32_t link) const {
     return *row;
 }
 
+std::vector<LinkKind> IslandGraph::KindsOf(const std::vector<std::int32_t>& links) const {
+    const TextStore& store = app_.lvwXref1.Store();
+    // The words are few.
+    std::vector<std::optional<LinkKind>> kinds(store.InternedCount());
+    std::vector<LinkKind> result;
+    result.reserve(links.size());
+    for (const std::int32_t link : links) {
+        const Row row = RowOfLink(link);
+        const TextRef word = row.Ref(Xref1::Type), family = row.Ref(Xref1::IDFamily);
+        LinkKind kind;
+        if (!word.IsEmpty()) {
+            auto& known = kinds[word.Symbol()];
+            if (!known) {
+                const TextView text = store.Get(word);
+                known = {RelationOf(text) == Relation::Spouse, FoldAsFirst(text), FoldAsSecond(text)};
+            }
+            kind = *known;
+        }
+        if (!family.IsEmpty()) kind.family = static_cast<std::int32_t>(family.Symbol()) + 1;
+        result.push_back(kind);
+    }
+    return result;
+}
+
 }  // namespace swiftroll::modKinship

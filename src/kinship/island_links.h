@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/application.h"
-#include "kinship/link_graph.h"
+#include "kinship/steps.h"
 
 namespace swiftroll::modKinship {
 
@@ -28,6 +28,9 @@ struct IslandGraph {
 
     LinkGraph graph;
     std::vector<TextRef> ids;  // identifiers in the store of lvwIn, by node
+
+    /// What each of these links says beside whom it joins. @throws Failure KeyNotFound
+    std::vector<LinkKind> KindsOf(const std::vector<std::int32_t>& links) const;
 
   private:
     Application& app_;

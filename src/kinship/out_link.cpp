@@ -1,8 +1,8 @@
 #include "kinship/out_link.h"
 
 #include <algorithm>
-#include <limits>
 
+#include "kinship/path_options.h"
 #include "kinship/relations.h"
 #include "tables/columns.h"
 #include "text/edit.h"
@@ -13,16 +13,6 @@ namespace {
 
 constexpr std::size_t kNumberDigits = 6;
 constexpr TextView kSeparator = "999999";
-
-/// The number at the beginning of a text; 0 when there is none.
-std::int32_t LeadingNumber(TextView text) {
-    std::int64_t number = 0;
-    for (const char c : text) {
-        if (c < '0' || c > '9') break;
-        number = std::min<std::int64_t>(number * 10 + (c - '0'), std::numeric_limits<std::int32_t>::max());
-    }
-    return static_cast<std::int32_t>(number);
-}
 
 }  // namespace
 
@@ -95,11 +85,7 @@ void PathWriter::Compose(std::span<const std::int32_t> links) {
 }
 
 bool PathWriter::IsHidden() const {
-    const auto exceeds = [](const CheckBox& check, const TextBox& limit, std::size_t count) {
-        return check.Checked() && count > static_cast<std::size_t>(LeadingNumber(limit.Get()));
-    };
-    return exceeds(app_.chkMaxSpouses, app_.txtMaxSpouses, static_cast<std::size_t>(nrSpouses_)) ||
-           exceeds(app_.chkMaxLinks, app_.txtMaxLinks, lines_.size());
+    return LimitsOf(app_).Hide(nrSpouses_, static_cast<std::int32_t>(lines_.size()));
 }
 
 void PathWriter::Widen(ColumnId column, std::size_t length) {

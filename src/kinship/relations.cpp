@@ -11,11 +11,37 @@ Relation RelationOf(TextView sType) {
     return Relation::Other;
 }
 
+Fold FoldAsFirst(TextView sType) {
+    if (RelationOf(sType) == Relation::Child) return Fold::ParentsSpouse;
+    if (sType == "Epoux") return Fold::HusbandsChild;
+    if (sType == "Epouse") return Fold::WifesChild;
+    if (sType == "Conjoint") return Fold::PartnersChild;
+    return Fold::None;
+}
+
+Fold FoldAsSecond(TextView sType) {
+    if (RelationOf(sType) == Relation::Spouse) return Fold::ParentsSpouse;
+    if (sType == "Mère"_t) return Fold::HusbandsChild;
+    if (sType == "Père"_t) return Fold::WifesChild;
+    if (sType == "Parent") return Fold::PartnersChild;
+    return Fold::None;
+}
+
 std::optional<TextView> FoldedType(TextView sFirst, TextView sSecond) {
-    if (RelationOf(sFirst) == Relation::Child && RelationOf(sSecond) == Relation::Spouse) return sFirst;
-    if (sFirst == "Epoux" && sSecond == "Mère"_t) return "Père"_t;
-    if (sFirst == "Epouse" && sSecond == "Père"_t) return "Mère"_t;
-    if (sFirst == "Conjoint" && sSecond == "Parent") return "Parent";
+    const Fold fold = FoldAsFirst(sFirst);
+    if (fold != FoldAsSecond(sSecond)) return std::nullopt;
+    switch (fold) {
+        case Fold::None:
+            break;
+        case Fold::ParentsSpouse:
+            return sFirst;
+        case Fold::HusbandsChild:
+            return "Père"_t;
+        case Fold::WifesChild:
+            return "Mère"_t;
+        case Fold::PartnersChild:
+            return "Parent";
+    }
     return std::nullopt;
 }
 

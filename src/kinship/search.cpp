@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "kinship/nearest_paths.h"
 #include "kinship/out_link.h"
+#include "kinship/path_options.h"
 #include "kinship/path_walk.h"
 #include "kinship/remove_islands.h"
 #include "tables/columns.h"
@@ -14,6 +16,7 @@ namespace swiftroll::modKinship {
 namespace {
 
 constexpr std::int64_t kStatusStep = 100;
+constexpr std::int32_t kRowsBetweenLooks = 100'000;
 // A stored row takes less than 100 bytes; sorting the table needs some more for a while.
 constexpr std::uint64_t kBytesPerRow = 150;
 // The texts of more rows would not fit into one store.
@@ -23,6 +26,18 @@ constexpr std::uint64_t kMostRows = 400'000'000;
 void BlankLinks(const IslandGraph& island, const std::vector<std::int32_t>& links) {
     for (const std::int32_t link : links) island.RowOfLink(link).SetCell(Xref1::Indi2, TextRef());
 }
+
+/// Lets the progress bar move for as long as it lives: nobody knows when a search ends.
+class Busy {
+  public:
+    explicit Busy(ProgressBar& bar) : bar_(bar) { bar_.SetBusy(true); }
+    ~Busy() { bar_.SetBusy(false); }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+  private:
+    ProgressBar& bar_;
+};
 
 /// Gives the user interface its turn, in which any command may run.
 class Pauses {
@@ -48,19 +63,21 @@ class Pauses {
 
 }  // namespace
 
-std::int32_t RowLimit(std::uint64_t memory) {
-    return static_cast<std::int32_t>(std::min(memory / 2 / kBytesPerRow, kMostRows));
+std::int32_t RowLimit(std::uint64_t memory, std::uint64_t available) {
+    const std::uint64_t bytes = std::min(memory / 2, available - available / 4);
+    return static_cast<std::int32_t>(std::min(bytes / kBytesPerRow, kMostRows));
 }
 
 /// Does what the user sees of the walk.
 class Search::Walker : public PathVisitor {
   public:
-    Walker(Search& search, const IslandGraph& island, const PathCore& core)
+    Walker(Search& search, const IslandGraph& island, const PathCore& core, bool isWhole)
         : search_(search),
           app_(search.app_),
           writer_(app_, island, core),
           pauses_(app_),
-          rowLimit_(RowLimit(app_.ports.machine.Memory())) {}
+          isWhole_(isWhole),
+          rowLimit_(RowLimit(app_.ports.machine.Memory(), app_.ports.machine.AvailableMemory())) {}
 
     bool Visit(std::int32_t lPathLength) override {
         if (!pauses_.GoOn()) return false;
@@ -68,6 +85,7 @@ class Search::Walker : public PathVisitor {
             app_.pnlMessage.Set(
                 Concat({Decimal(search_.lNrLinks), " : Longueur du lien = ", Decimal(lPathLength)}));
         }
+        TellWalk();
         return true;
     }
 
@@ -83,21 +101,41 @@ class Search::Walker : public PathVisitor {
                 if (!writer_.OutLink(search_.lNrLinks, links)) ++search_.lNrHidden;
             },
             [&] { return Decimal(search_.lNrLinks); });
-        if (app_.lvwKinship.Count() >= rowLimit_) {
-            search_.rowLimitReached_ = rowLimit_;
-            app_.bAbort = true;
-        }
+        KeepToMemory();
+        TellWalk();
         return true;
     }
 
-    bool GoOn() override { return pauses_.GoOn(); }
+    bool GoOn() override {
+        if (!pauses_.GoOn()) return false;
+        TellWalk();
+        return true;
+    }
 
   private:
+    void TellWalk() {
+        if (isWhole_ && search_.onWalk) search_.onWalk();
+    }
+
+    /// Ends the search before the memory is full. Other programs may have taken some meanwhile.
+    void KeepToMemory() {
+        const std::int32_t rows = app_.lvwKinship.Count();
+        if (rows >= nextLook_) {
+            nextLook_ = rows + kRowsBetweenLooks;
+            Machine& machine = app_.ports.machine;
+            rowLimit_ = std::min(rowLimit_, rows + RowLimit(machine.Memory(), machine.AvailableMemory()));
+        }
+        if (rows < rowLimit_) return;
+        search_.rowLimitReached_ = rowLimit_;
+        app_.bAbort = true;
+    }
+
     Search& search_;
     Application& app_;
     PathWriter writer_;
     Pauses pauses_;
-    std::int32_t rowLimit_;
+    bool isWhole_;
+    std::int32_t rowLimit_, nextLook_ = kRowsBetweenLooks;
 };
 
 void Search::SetPair(std::int32_t lFrom, std::int32_t lTo) {
@@ -111,7 +149,7 @@ void Search::SetPair(std::int32_t lFrom, std::int32_t lTo) {
     sKinshipTitle = Concat({"Liens de Parenté entre "_t, sKinshipPair});
 }
 
-void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo) {
+void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo, std::int32_t nearest) {
     const char* step = "";
     CopyProgress copy;
     isRunning_ = true;
@@ -127,7 +165,7 @@ void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lT
                 to(app_.lvwIn.Item(lTo).Text());
             step = "AddLvwXref1";
             if (!AddLvwXref1(app_, island, copy)) return;
-            if (app_.lvwXref1.Count() > 0) Walk(from, to, step);
+            if (app_.lvwXref1.Count() > 0) Walk(from, to, nearest, step);
             SortPaths();
         },
         [&] {
@@ -136,9 +174,10 @@ void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lT
     isRunning_ = false;
 }
 
-void Search::Walk(TextView sFromId, TextView sToId, const char*& step) {
+void Search::Walk(TextView sFromId, TextView sToId, std::int32_t nearest, const char*& step) {
     IslandGraph island(app_);
     step = "";
+    const Busy busy(app_.ProgressBar1);
     const std::int32_t from = island.NodeOf(sFromId), to = island.NodeOf(sToId);
     // What interrupts this phase ends the walk at its first step.
     Pauses pauses(app_);
@@ -154,10 +193,16 @@ void Search::Walk(TextView sFromId, TextView sToId, const char*& step) {
     app_.ProgressBar1.Set(0);
     lNrCalls = lNrHidden = 0;
     const PathCore core(island.graph, from, to);
-    Walker walker(*this, island, core);
+    std::optional<StepGraph> steps;
+    if (nearest > 0) steps.emplace(core.graph, island.KindsOf(core.links), core.to);
+    Walker walker(*this, island, core, nearest == 0);
     // A box may open when the focus leaves another control: what happens meanwhile, the walker sees.
     app_.ShowTab(Tab::Kinship);
-    PathWalk(core.graph, core.from, core.to).Run(walker);
+    if (steps) {
+        NearestPaths(*steps, core.from, LimitsOf(app_)).Run(walker, nearest);
+    } else {
+        PathWalk(core.graph, core.from, core.to).Run(walker);
+    }
 }
 
 void Search::SortPaths() {

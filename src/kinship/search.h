@@ -17,7 +17,13 @@ class Search {
     /// Fills `lvwKinship` with all paths from the `lvwIn` row `lFrom` to the row `lTo` of the island
     /// `sIslandNr`, ordered by the marriages they cross and then by length. `bAbort` ends it, and so does the
     /// row limit of the machine; what was found stays. A failure is reported and ends the search.
-    void FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo);
+    ///
+    /// With `nearest` above 0, finds so many paths at most, the first ones of that order, and only those that
+    /// the options show; it comes by them without finding the others.
+    void FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo, std::int32_t nearest = 0);
+
+    /// Called again and again while a whole search enters individuals and finds paths.
+    Event onWalk;
 
     /// Whether a search is running now.
     bool IsRunning() const { return isRunning_; }
@@ -33,7 +39,7 @@ class Search {
 
   private:
     class Walker;
-    void Walk(TextView sFromId, TextView sToId, const char*& step);
+    void Walk(TextView sFromId, TextView sToId, std::int32_t nearest, const char*& step);
     void SortPaths();
 
     Application& app_;
@@ -41,8 +47,8 @@ class Search {
     std::int32_t rowLimitReached_ = 0;
 };
 
-/// The most rows that `lvwKinship` may have on a machine with this memory in bytes: half of the memory is
-/// left to everything else.
-std::int32_t RowLimit(std::uint64_t memory);
+/// The most rows that `lvwKinship` may have on a machine with this memory in bytes, of which so many are
+/// still available: half of the memory, and a quarter of what is available, are left to everything else.
+std::int32_t RowLimit(std::uint64_t memory, std::uint64_t available);
 
 }  // namespace swiftroll::modKinship

@@ -115,6 +115,17 @@ std::optional<FileStamp> StdFiles::Stamp(TextView name) {
     return FileStamp{static_cast<std::int64_t>(length), time.time_since_epoch().count()};
 }
 
+std::optional<std::uint64_t> StdFiles::RoomFor(TextView name) {
+    std::error_code error;
+    const fs::file_status status = fs::status(PathOf(name), error);
+    if (fs::exists(status) && !fs::is_regular_file(status)) return std::nullopt;
+    const fs::path path = fs::weakly_canonical(fs::absolute(PathOf(name)), error);
+    if (error) return std::nullopt;
+    const fs::space_info space = fs::space(path.parent_path(), error);
+    if (error) return std::nullopt;
+    return space.available;
+}
+
 void StdFiles::Delete(TextView name) {
     const fs::path path = PathOf(name);
     std::error_code error;

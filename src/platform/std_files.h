@@ -12,6 +12,7 @@ class StdFiles : public Files {
     bool AreSame(TextView a, TextView b) override;
     std::optional<FileStamp> Stamp(TextView name) override;
     void Delete(TextView name) override;
+    std::optional<std::uint64_t> RoomFor(TextView name) override;
 };
 
 /// Standard output as a file for writing.

@@ -1,5 +1,8 @@
 #include "shell/kinship_request.h"
 
+#include "app/french_count.h"
+#include "kinship/path_options.h"
+#include "shell/nearest_offer.h"
 #include "tables/column_icon.h"
 #include "tables/columns.h"
 #include "text/edit.h"
@@ -102,9 +105,42 @@ void KinshipRequest::FindPath(std::int32_t lFrom, std::int32_t lTo, Progress& pr
     progress.step = kSearching;
     app_.pnlMessage.Set(kSearching);
     drawing_.DisableKinshipCommands();
-    search_.FindKinship(from.Cell(In::IslandNr), lFrom, lTo);
+    Search(lFrom, lTo);
     drawing_.EnableKinshipCommands();
     drawing_.OfferPrinting();
+    TellTotal();
+}
+
+/// Searches as the options say. A search for all paths gives way to one for the nearest when the user wants
+/// that; the first has ended then.
+void KinshipRequest::Search(std::int32_t lFrom, std::int32_t lTo) {
+    const Row from = app_.lvwIn.Item(lFrom), to = app_.lvwIn.Item(lTo);
+    const Text island(from.Cell(In::IslandNr)), fromId(from.Text()), toId(to.Text());
+    // Another file may be read meanwhile, and the rows may stand elsewhere behind a search.
+    const std::uint32_t clearings = app_.lvwIn.Clearings();
+    bool isNearestWanted = app_.chkNearest.Checked();
+    if (!isNearestWanted) {
+        NearestOffer offer(app_);
+        search_.onWalk = [&] { offer.Tell(search_.lNrLinks); };
+        search_.FindKinship(island, lFrom, lTo);
+        search_.onWalk = nullptr;
+        isNearestWanted = offer.IsTaken();
+    }
+    if (!isNearestWanted || app_.lvwIn.Clearings() != clearings) return;
+    search_.FindKinship(island, app_.lvwIn.Item(fromId).Index(), app_.lvwIn.Item(toId).Index(),
+                        modKinship::NearestCount(app_));
+    if (app_.lvwIn.Clearings() == clearings) TellNearest();
+}
+
+/// Says in the message bar that the table does not show all paths, where that is so.
+void KinshipRequest::TellNearest() {
+    const std::int64_t count = search_.lNrLinks;
+    if (count < 1) return;
+    app_.messageBar.Show(&search_, {count == 1 ? Text("Le plus proche"_t)
+                                               : Concat({"Les ", FrenchCount(count), " plus proches"})});
+}
+
+void KinshipRequest::TellTotal() {
     Text total = Concat({Decimal(search_.lNrLinks), " liens de parenté trouvé(s) au total"_t});
     if (search_.lNrHidden != 0) {
         total += Concat({" => ", Decimal(search_.lNrHidden), " non affiché(s)"_t});

@@ -29,6 +29,9 @@ class KinshipRequest {
     void cmdFindPath_Click();
     void RefuseKinship(const KinshipChoices& choices);
     void FindPath(std::int32_t lFrom, std::int32_t lTo, Progress& progress);
+    void Search(std::int32_t lFrom, std::int32_t lTo);
+    void TellTotal();
+    void TellNearest();
 
     Application& app_;
     frmKinshipSelect& dialog_;

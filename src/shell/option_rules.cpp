@@ -21,10 +21,10 @@ std::optional<std::int64_t> WholePart(TextView text) {
 }
 
 /// A limit is a number of at least 1; what is no number gives way to the default while the limit is in force.
-void CheckLimit(const CheckBox& check, TextBox& limit) {
+void CheckLimit(const CheckBox& check, TextBox& limit, TextView standard) {
     const auto number = WholePart(limit.Get());
     if (number && *number < 1) limit.SetText("1");
-    if (!number && check.Checked()) limit.SetText(kDefaultLimit);
+    if (!number && check.Checked()) limit.SetText(standard);
     limit.SetText(Text(Trim(limit.Get())));
 }
 
@@ -36,15 +36,16 @@ void BindOptionRules(OptionRecord& options) {
         if (text > "9" || text < "0") options.txtINDEX.SetText("1");
     };
     options.txtINDEX.Accepts = [](TextView text) { return WholePart(text).has_value(); };
-    const auto bindLimit = [](CheckBox& check, TextBox& limit) {
+    const auto bindLimit = [](CheckBox& check, TextBox& limit, TextView standard) {
         limit.Accepts = [](TextView text) { return WholePart(text).value_or(0) >= 1; };
-        limit.OnLostFocus = [&] { CheckLimit(check, limit); };
-        check.OnClick = [&] {
-            if (check.Checked() && limit.Get().empty()) limit.SetText(kDefaultLimit);
+        limit.OnLostFocus = [&check, &limit, standard] { CheckLimit(check, limit, standard); };
+        check.OnClick = [&check, &limit, standard] {
+            if (check.Checked() && limit.Get().empty()) limit.SetText(standard);
         };
     };
-    bindLimit(options.chkMaxLinks, options.txtMaxLinks);
-    bindLimit(options.chkMaxSpouses, options.txtMaxSpouses);
+    bindLimit(options.chkMaxLinks, options.txtMaxLinks, kDefaultLimit);
+    bindLimit(options.chkMaxSpouses, options.txtMaxSpouses, kDefaultLimit);
+    bindLimit(options.chkNearest, options.txtNearest, OptionRecord::kDefaultNearest);
 }
 
 }  // namespace swiftroll

@@ -1,7 +1,9 @@
 #include "shell/path_drawing.h"
 
+#include "app/large_file.h"
 #include "drawing/kinship_page.h"
 #include "drawing/kinship_print.h"
+#include "shell/drawing_size.h"
 #include "shell/file_names.h"
 #include "tables/columns.h"
 #include "text/edit.h"
@@ -48,6 +50,7 @@ PathDrawing::PathDrawing(Application& app, DrawingCommands& commands, const modK
 void PathDrawing::DisableKinshipCommands() {
     commands_.mnuDrawKinship.Enabled = commands_.cmdDrawKinship.Enabled = app_.cboDrawKinship.Enabled =
         commands_.cmdCopyTitle2kinship.Enabled = commands_.cmdPrintKinship.Enabled = false;
+    app_.messageBar.Remove(&search_);
 }
 
 void PathDrawing::EnableKinshipCommands() {
@@ -76,7 +79,7 @@ void PathDrawing::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
             modPrint::KinshipPrint print(source, search_.sKinshipTitle, app_.ports.preview);
             modKinshipOutput::KinshipDocument& document =
                 bHtml ? static_cast<modKinshipOutput::KinshipDocument&>(page) : print;
-            DrawPaths(bSpouses, document, bAll);
+            DrawPaths(bSpouses, document, {bHtml, bAll});
         },
         [&] {
             return Concat({bSpouses ? "True" : "False", "/", bHtml ? "True" : "False", "/",
@@ -84,31 +87,45 @@ void PathDrawing::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
         });
 }
 
-void PathDrawing::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll) {
-    constexpr TextView kFirstLine = "000001";
+void PathDrawing::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document,
+                            const PathChoice& choice) {
     constexpr int kFirst = 1, kFurther = 2, kLast = 9;
     const ColumnId previousSortKey = app_.lvwKinship.SortKey();
     app_.lvwKinship.SortBy(Kinship::SeqNr, 0);
-    int iStage = kFirst;
-    for (std::int32_t i = 1; i <= app_.lvwKinship.Count(); ++i) {
-        const Row row = app_.lvwKinship.Item(i);
-        const bool isDrawn =
-            bAll ? row.Text().ends_with(kFirstLine) : !row.Cell(Kinship::IDIndi).empty() && row.Marked();
-        if (!isDrawn) continue;
-        if (document.DisplayKinship(iStage,
-                                    modKinshipOutput::MakeKinshipTable(app_, app_.trail, i, bSpouses)))
-            return;
-        iStage = kFurther;
-    }
-    if (iStage == kFirst) {
+    const std::vector<std::int32_t> rows = RowsToDraw(choice.bAll);
+    const auto mayDraw = [&] {
+        const std::uint64_t bytes = EstimateDrawings(app_, search_.sKinshipTitle, rows, bSpouses);
+        return MayWriteLarge(app_, app_.ports.files, app_.cboKinship.Get(), bytes);
+    };
+    if (rows.empty()) {
         MessageBox box;
         box.title = "Graphicage des parentés"_t;
         box.text = Concat({"Aucune parenté à écrire."_t, kLineEnd, "Fichier non créé."_t});
         app_.ports.dialogs.Show(box);
-    } else if (document.DisplayKinship(kLast, {})) {
-        return;
+    } else if (!choice.bHtml || mayDraw()) {
+        int iStage = kFirst;
+        for (const std::int32_t row : rows) {
+            if (document.DisplayKinship(iStage,
+                                        modKinshipOutput::MakeKinshipTable(app_, app_.trail, row, bSpouses)))
+                return;
+            iStage = kFurther;
+        }
+        if (document.DisplayKinship(kLast, {})) return;
     }
     app_.lvwKinship.SetSortKey(previousSortKey);
+}
+
+/// The rows of `lvwKinship` at which drawings begin: the first of each path, or those that are marked.
+std::vector<std::int32_t> PathDrawing::RowsToDraw(bool bAll) {
+    constexpr TextView kFirstLine = "000001";
+    std::vector<std::int32_t> rows;
+    for (std::int32_t i = 1; i <= app_.lvwKinship.Count(); ++i) {
+        const Row row = app_.lvwKinship.Item(i);
+        const bool isDrawn =
+            bAll ? row.Text().ends_with(kFirstLine) : !row.Cell(Kinship::IDIndi).empty() && row.Marked();
+        if (isDrawn) rows.push_back(i);
+    }
+    return rows;
 }
 
 /// In a drawing with spouses a child's box stands in the gap between its parents, so that both must be equal.

@@ -12,7 +12,7 @@ class PathDrawing {
     PathDrawing(Application& app, DrawingCommands& commands, const modKinship::Search& search,
                 FileCombos& fileCombos);
 
-    /// There are no paths to draw any more.
+    /// There are no paths to draw any more; what the message bar says of them goes.
     void DisableKinshipCommands();
     /// A search has come to its end.
     void EnableKinshipCommands();
@@ -23,7 +23,12 @@ class PathDrawing {
 
   private:
     void DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll);
-    void DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, bool bAll);
+    /// Which paths are drawn, and whether into a file.
+    struct PathChoice {
+        bool bHtml, bAll;
+    };
+    void DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, const PathChoice& choice);
+    std::vector<std::int32_t> RowsToDraw(bool bAll);
     bool CheckWidths();
     void cmdCopyTitle2kinship_Click();
     void cmdFont_Click();

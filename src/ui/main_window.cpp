@@ -24,6 +24,7 @@ namespace {
 
 constexpr int kTableMargin = 8;
 constexpr int kFavoritesWidth = 170;
+constexpr int kProgressSteps = 1000;
 constexpr QSize kDesignSize(960, 680);
 
 /// A page that stays whole in a small window.
@@ -61,7 +62,7 @@ MainWindow::MainWindow(Presenter& presenter)
     progress_ = new QProgressBar;
     progress_->setObjectName(QStringLiteral("ProgressBar1"));
     progress_->setAccessibleName(QStringLiteral("Progression"));
-    progress_->setRange(0, 1000);
+    progress_->setRange(0, kProgressSteps);
     progress_->setTextVisible(false);
     progress_->setFixedHeight(8);
     column->addWidget(progress_);
@@ -246,7 +247,10 @@ void MainWindow::ShowStatus() {
         if (panels_[i] != panels_.back())
             panels_[i]->setMinimumWidth(std::max(panels_[i]->minimumWidth(), panels_[i]->sizeHint().width()));
     }
-    progress_->setValue(static_cast<int>(main_.ProgressBar1.Value() * 10));
+    // A bar without a range moves by itself.
+    const int steps = main_.ProgressBar1.IsBusy() ? 0 : kProgressSteps;
+    if (progress_->maximum() != steps) progress_->setRange(0, steps);
+    progress_->setValue(static_cast<int>(main_.ProgressBar1.Value() * steps / 100));
     if (hasWaitCursor_ == main_.bWaitCursor) return;
     hasWaitCursor_ = main_.bWaitCursor;
     if (hasWaitCursor_) {

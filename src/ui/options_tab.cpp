@@ -18,6 +18,15 @@ QWidget* LimitFrame(frmMain& main, Binder& binder) {
     return frame.box;
 }
 
+QWidget* NearestFrame(frmMain& main, Binder& binder) {
+    Frame frame(QStringLiteral("Recherche de parenté"), QStringLiteral("frameNearest"));
+    frame.grid->addWidget(NewCheckBox(binder, main.chkNearest), 0, 0);
+    frame.grid->addWidget(NewTextBox(binder, main.txtNearest, 6, QStringLiteral("Nombre de liens")), 0, 1);
+    frame.grid->setColumnStretch(2, 1);
+    frame.grid->setRowStretch(1, 1);
+    return frame.box;
+}
+
 QWidget* ReadingFrame(frmMain& main, Binder& binder) {
     Frame frame(QStringLiteral("Lecture"), QStringLiteral("frameReading"));
     int row = 0;
@@ -58,7 +67,11 @@ QWidget* BuildOptionsTab(frmMain& main, Binder& binder) {
     misc.grid->setColumnStretch(1, 1);
     outer->addWidget(ReadingFrame(main, binder));
     outer->addWidget(FindFrame(main, binder));
-    outer->addWidget(LimitFrame(main, binder));
+    auto* kinship = new QHBoxLayout;
+    kinship->setSpacing(kSpacing);
+    kinship->addWidget(LimitFrame(main, binder));
+    kinship->addWidget(NearestFrame(main, binder));
+    outer->addLayout(kinship);
     outer->addWidget(misc.box);
     outer->addWidget(UpdateFrame(main, binder));
     outer->addStretch(1);

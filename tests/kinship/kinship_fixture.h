@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "support/test_ports.h"
 #include "tables/columns.h"
 #include "text/edit.h"
@@ -28,6 +30,22 @@ inline Text FamilyFile(const std::vector<Text>& people, const std::vector<Text>&
         }
     }
     return file + "0 TRLR\r\n";
+}
+
+/// A file of people "P0", "P1", ... in as many families. Anybody may be husband, wife or child of any family,
+/// more than once too.
+inline Text TangledFile(int count, std::mt19937& random) {
+    std::vector<Text> people, families;
+    for (int i = 0; i < count; ++i) people.push_back("P" + Decimal(i) + (random() % 2 == 0 ? " m" : " f"));
+    for (int i = 0; i < count; ++i) {
+        Text family;
+        for (std::size_t k = 0; k < 2 + random() % 3; ++k) {
+            const auto person = static_cast<std::int64_t>(random() % static_cast<unsigned>(count));
+            family += Concat({k == 0 ? "" : " ", random() % 9 == 0 && k < 2 ? "-" : "P" + Decimal(person)});
+        }
+        families.push_back(family);
+    }
+    return FamilyFile(people, families);
 }
 
 /// An application that has read a file.

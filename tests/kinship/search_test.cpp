@@ -183,7 +183,7 @@ TEST(KinshipSearch, StopsBeforeTheMemoryIsFull) {
     AfterRead t(LadderFile(12));
     t.machine.memory = 300'000;
     t.Find("M0", "W12");
-    const std::int32_t limit = modKinship::RowLimit(300'000);
+    const std::int32_t limit = modKinship::RowLimit(300'000, t.machine.available);
     EXPECT_EQ(limit, 1000);
     EXPECT_GE(t.main.lvwKinship.Count(), limit);
     EXPECT_LT(t.main.lvwKinship.Count(), limit + 40) << "the last path stands whole";
@@ -217,19 +217,7 @@ TEST(KinshipSearch, FindsWhatTheDirectSearchFindsInRandomFamilies) {
     std::mt19937 random(7);
     for (int round = 0; round < 150; ++round) {
         const int count = 6 + static_cast<int>(random() % 14u);
-        std::vector<Text> names, families;
-        for (int i = 0; i < count; ++i) names.push_back("P" + Decimal(i) + (random() % 2 == 0 ? " m" : " f"));
-        for (int i = 0; i < count; ++i) {
-            Text family;
-            // Anybody may be husband, wife or child of any family, more than once too.
-            for (std::size_t k = 0; k < 2 + random() % 3; ++k) {
-                const auto person = static_cast<std::int64_t>(random() % static_cast<unsigned>(count));
-                family +=
-                    Concat({k == 0 ? "" : " ", random() % 9 == 0 && k < 2 ? "-" : "P" + Decimal(person)});
-            }
-            families.push_back(family);
-        }
-        AfterRead t(names, families);
+        AfterRead t(TangledFile(count, random));
         PlainLinks links = LinksOfTables(t.main);
         const auto to = static_cast<std::int32_t>(2 + random() % static_cast<unsigned>(count - 1));
         if (t.main.lvwIn.Item(1).Cell(In::IslandNr) != t.main.lvwIn.Item(to).Cell(In::IslandNr)) continue;

@@ -16,6 +16,7 @@ class MemoryFiles : public Files {
     bool AreSame(TextView a, TextView b) override { return a == b && Exists(a); }
     std::optional<FileStamp> Stamp(TextView name) override;
     void Delete(TextView name) override;
+    std::optional<std::uint64_t> RoomFor(TextView) override { return free; }
 
     /// Name to bytes.
     std::map<Text, Text, std::less<>> contents;
@@ -25,6 +26,8 @@ class MemoryFiles : public Files {
     std::set<Text> readOnly;
     /// Number of bytes that can still be written before the disk is full.
     std::size_t room = static_cast<std::size_t>(-1);
+    /// Number of bytes that the disk tells as free.
+    std::optional<std::uint64_t> free;
     /// Largest number of bytes that one read gives.
     std::size_t readSize = static_cast<std::size_t>(-1);
     /// Number of bytes of a file behind which reading it fails.

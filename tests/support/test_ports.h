@@ -76,9 +76,10 @@ class SilentStatus : public StatusObserver {
 class TestMachine : public Machine {
   public:
     std::uint64_t Memory() override { return memory; }
+    std::uint64_t AvailableMemory() override { return available; }
     SystemVersion System() override { return system; }
     SystemVersion system{"Test", 1, 2, 3, 4};
-    std::uint64_t memory = std::uint64_t{1} << 34;
+    std::uint64_t memory = std::uint64_t{1} << 34, available = memory;
 };
 
 /// Keeps what reached the clipboard and what was opened.
