@@ -14,6 +14,12 @@ Application::Application(const Ports& applicationPorts, std::span<const FormatOp
     for (Table* table : All()) table->OnPause = [this] { ports.status.StatusChanged(); };
 }
 
+Table* Application::TableOf(Tab tab) {
+    Table* const tables[] = {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
+    const auto number = static_cast<std::size_t>(tab);
+    return number < std::size(tables) ? tables[number] : nullptr;
+}
+
 Text Application::PathOf(TextView folder, TextView name) const {
     return Concat({folder, ports.folders.Separator(), name});
 }

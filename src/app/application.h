@@ -40,6 +40,8 @@ class Application : public Product, public ArrangedTables, public OptionRecord, 
     Tab SSTab1 = Tab::In;
     /// Brings a tab to the front; the window gives the focus to what it is for.
     virtual void ShowTab(Tab tab) { SSTab1 = tab; }
+    /// The table that a tab is for, nullptr for one of options.
+    Table* TableOf(Tab tab);
     /// The table that last had the focus.
     Table* lvwActiveListView = nullptr;
 

@@ -58,7 +58,7 @@ void Trail::AppendToLog(const Account& account) {
         log->Write(
             Concat({kLineEnd, "--------------- (", context_.runStart(), ") ", LongTime(ports_.clock.Now()),
                     " : ", account.title, " : ", account.message, kLineEnd}));
-        for (const Table* table : tables_.All()) {
+        for (const Table* table : tables_.Logged()) {
             log->Write(Concat({PadRight(table->Name(), 14), "= ", Decimal(table->Count()), kLineEnd}));
         }
         log->Close();

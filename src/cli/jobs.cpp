@@ -1,6 +1,7 @@
 #include "jobs.h"
 
 #include "controle_job.h"
+#include "cousins_job.h"
 #include "extrait_job.h"
 #include "parente_job.h"
 #include "releve_job.h"
@@ -13,6 +14,7 @@ Jobs AllJobs() {
     jobs.push_back(std::make_unique<TablesJob>());
     jobs.push_back(std::make_unique<ReleveJob>());
     jobs.push_back(std::make_unique<ParenteJob>());
+    jobs.push_back(std::make_unique<CousinsJob>());
     jobs.push_back(std::make_unique<ExtraitJob>());
     jobs.push_back(std::make_unique<ControleJob>());
     return jobs;

@@ -42,6 +42,8 @@ std::string ParenteJob::Help() const {
       d'au plus N lignes, chkMaxSpouses et txtMaxSpouses ceux d'au plus N conjoints.
       --proches N donne les N liens les plus proches, sans chercher tous les autres : d'abord ceux qui passent
       par le moins de mariages, et parmi eux les plus courts.
+      -t lvwPaths affiche une ligne par chemin, qui dit ce que le second individu est pour le premier, les degrés
+      civil et canonique et les ancêtres communs.
       --dessin dessine ensuite tous les chemins (toutes, toutes+ avec les conjoints, qui est le défaut), ou
       ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit).
 )";

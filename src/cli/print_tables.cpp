@@ -14,6 +14,7 @@ void PrintTable(RowPrinter& printer, Table& table, bool withKeys) {
     printer.EndLine();
     for (std::int32_t i = 1; i <= table.Count(); ++i) {
         const Row row = table.Item(i);
+        table.Need(row);
         if (withKeys) {
             printer.Cell(row.Key());
             printer.Raw("\t");

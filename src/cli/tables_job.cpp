@@ -15,7 +15,8 @@ std::string TablesJob::Help() const {
     return R"(  swiftroll-cli tables FICHIER.ged [-t TABLE[,TABLE...]] [--cles]
       affiche des tables ()" +
            kDefaultTable + R"( si rien n'est dit) : une ligne par rangée, les cellules séparées par une
-      tabulation. Tables : lvwIn, lvwOut, lvwXref, lvwXref1, lvwFamily, lvwFamilyXref, lvwKinship.
+      tabulation. Tables : lvwIn, lvwOut, lvwXref, lvwXref1, lvwFamily, lvwFamilyXref, lvwKinship,
+      lvwPaths.
       --cles met devant la clé, l'étiquette et les marques de chaque rangée.
 )";
 }

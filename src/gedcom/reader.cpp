@@ -31,8 +31,8 @@ void Reader::Prepare(const char*& stage, std::int16_t& counter) {
     app_.InitIndexes();
     lines.ResetRecords();
     stage = "LvwSort";
-    for (Table* table :
-         {&app_.lvwIn, &app_.lvwFamily, &app_.lvwXref, &app_.lvwFamilyXref, &app_.lvwKinship}) {
+    for (Table* table : {&app_.lvwIn, &app_.lvwFamily, &app_.lvwXref, &app_.lvwFamilyXref, &app_.lvwKinship,
+                         &app_.lvwPaths, &app_.lvwRelatives}) {
         table->SetSorted(false);
         table->Clear();
     }

@@ -11,8 +11,9 @@
 namespace swiftroll::modKinship {
 namespace {
 
-constexpr std::size_t kNumberDigits = 6;
 constexpr TextView kSeparator = "999999";
+/// Hidden paths can be beyond all number, and their rows must not take the memory of the others.
+constexpr std::int32_t kMostHiddenSummaries = 1'000'000;
 
 }  // namespace
 
@@ -57,7 +58,7 @@ TextRef PathWriter::Folded(const LinkTexts& first, const LinkTexts& second) {
 TextRef PathWriter::LineNumber(std::size_t lSeqNr) {
     while (lineNumbers_.size() < lSeqNr) {
         const auto number = static_cast<std::int64_t>(lineNumbers_.size()) + 1;
-        lineNumbers_.push_back(store_.Intern(Decimal(number, kNumberDigits)));
+        lineNumbers_.push_back(store_.Intern(Decimal(number, kPathDigits)));
     }
     return lineNumbers_[lSeqNr - 1];
 }
@@ -95,7 +96,7 @@ void PathWriter::Widen(ColumnId column, std::size_t length) {
 
 bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> links) {
     Compose(links);
-    const Text pathNumber = Decimal(lNrLinks, kNumberDigits) + "-";
+    const Text path = Decimal(lNrLinks, kPathDigits), pathNumber = Concat({path, kPathEnd});
     Widen(Kinship::SeqNr, pathNumber.size() + store_.Get(LineNumber(lines_.size())).size());
     for (const Line& line : lines_) {
         Widen(Kinship::IDIndi, store_.Get(line.person.IDIndi).size());
@@ -104,9 +105,12 @@ bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> li
         Widen(Kinship::IDFamily, store_.Get(line.link.IDFamily).size());
         Widen(Kinship::Family, store_.Get(line.link.Family).size());
     }
-    if (IsHidden()) return false;
+    if (IsHidden()) {
+        if (hiddenSummaries_++ < kMostHiddenSummaries) WriteSummary(path, true);
+        return false;
+    }
 
-    const TextRef path = store_.Intern(pathNumber);
+    const TextRef pathKey = store_.Intern(pathNumber);
     const TextRef nrSpouses = store_.Intern(Decimal(nrSpouses_, 3));
     const TextRef nrLink = store_.Intern(Decimal(static_cast<std::int64_t>(lines_.size()), 4));
     Text seqNr;
@@ -119,7 +123,7 @@ bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> li
     };
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const TextRef number = LineNumber(i + 1);
-        Row row = addRow(RowKey(path, number), store_.Get(number));
+        Row row = addRow(RowKey(pathKey, number), store_.Get(number));
         row.SetCell(Kinship::IDIndi, lines_[i].person.IDIndi);
         row.SetCell(Kinship::Indi, lines_[i].person.Indi);
         row.SetCell(Kinship::Type, lines_[i].link.Type);
@@ -127,7 +131,17 @@ bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> li
         row.SetCell(Kinship::Family, lines_[i].link.Family);
     }
     SetMaxLen(addRow(std::nullopt, kSeparator), app_.lMaxLenKinship);
+    WriteSummary(path, false);
     return true;
+}
+
+/// Adds the row of the path to `lvwPaths`; what it is called is worked out when somebody looks.
+void PathWriter::WriteSummary(TextView number, bool isHidden) {
+    Row row = app_.lvwPaths.Add(std::nullopt, number, number);
+    TextStore& store = app_.lvwPaths.Store();
+    row.SetCell(Paths::Spouses, store.Intern(Decimal(nrSpouses_, 3)));
+    row.SetCell(Paths::Links, store.Intern(Decimal(static_cast<std::int64_t>(lines_.size()), 4)));
+    row.SetCell(Paths::Visible, store.Intern(isHidden ? kHidden : kVisible));
 }
 
 }  // namespace swiftroll::modKinship

@@ -138,6 +138,10 @@ class Search::Walker : public PathVisitor {
     std::int32_t rowLimit_, nextLook_ = kRowsBetweenLooks;
 };
 
+Search::Search(Application& app) : pathNames(app), app_(app) {
+    app_.lvwPaths.OnNeeded = [this](Row& row) { pathNames.Complete(row); };
+}
+
 void Search::SetPair(std::int32_t lFrom, std::int32_t lTo) {
     const auto name = [&](std::int32_t row) {
         const Row person = app_.lvwIn.Item(row);
@@ -188,8 +192,10 @@ void Search::Walk(TextView sFromId, TextView sToId, std::int32_t nearest, const 
     app_.pnlMessage.Set(Concat({"Chemins enlevés = "_t, Decimal(lRemovedPaths)}));
 
     lNrLinks = 0;
-    app_.lvwKinship.Clear();
-    app_.lvwKinship.SetSorted(false);
+    for (Table* table : {&app_.lvwKinship, &app_.lvwPaths}) {
+        table->Clear();
+        table->SetSorted(false);
+    }
     app_.ProgressBar1.Set(0);
     lNrCalls = lNrHidden = 0;
     const PathCore core(island.graph, from, to);
@@ -211,6 +217,7 @@ void Search::SortPaths() {
     for (const auto column : {Kinship::SeqNr, Kinship::NrLink, Kinship::NrSpouses}) {
         app_.lvwKinship.SortBy(column, 0);
     }
+    for (const auto column : {Paths::Path, Paths::Links, Paths::Spouses}) app_.lvwPaths.SortBy(column, 0);
 }
 
 }  // namespace swiftroll::modKinship

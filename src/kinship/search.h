@@ -1,18 +1,22 @@
 #pragma once
 
 #include "app/application.h"
+#include "kinship/path_names.h"
 
 namespace swiftroll::modKinship {
 
 /// The search for all kinship paths between two individuals, and what the last one found.
 class Search {
   public:
-    explicit Search(Application& app) : app_(app) {}
+    explicit Search(Application& app);
 
     /// The two individuals, first name and surname in capitals, and the titles made of them.
     Text sKinshipFrom, sKinshipTo, sKinshipPair, sKinshipTitle;
     /// Names the pair of two rows of lvwIn. @throws Failure IndexOutOfRange
     void SetPair(std::int32_t lFrom, std::int32_t lTo);
+
+    /// What the paths are called, of which `lvwPaths` has a row each.
+    PathNames pathNames;
 
     /// Fills `lvwKinship` with all paths from the `lvwIn` row `lFrom` to the row `lTo` of the island
     /// `sIslandNr`, ordered by the marriages they cross and then by length. `bAbort` ends it, and so does the

@@ -32,7 +32,8 @@ Widths& RowFormatter::WidthsOfTable() {
     if (&table_ == &tables_.lvwFamily) return tables_.lMaxLenFamily;
     if (&table_ == &tables_.lvwFamilyXref) return tables_.lMaxLenFamilyXref;
     if (&table_ == &tables_.lvwKinship) return tables_.lMaxLenKinship;
-    // Nothing measures the links of a kinship search when they are copied.
+    // Nothing measures the links of a kinship search when they are copied, nor the names of its paths.
+    table_.NeedAll();
     for (std::int32_t i = 1; i <= table_.Count(); ++i) SetMaxLen(table_.Item(i), lActiveMaxLen_);
     return lActiveMaxLen_;
 }

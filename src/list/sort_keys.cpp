@@ -63,6 +63,7 @@ void WriteSortKeyOut(const Positions& positions, const Row& row, Text& sKey) {
 
 void SortTable(const Positions& positions, Feedback& feedback, SortMode iMode, Table& table, Column& column) {
     const ScopedFlag lock(feedback.bTablesLocked);
+    table.NeedAll();
     // The forms stand aside, one behind the other, for the length of the sort.
     TextStore formStore;
     std::vector<TextView> forms;

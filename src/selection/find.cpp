@@ -23,6 +23,7 @@ void FindState::FindNext(Application& app, Table& table, ColumnId iFirstCol) {
     if (lFindNext == 0) lFindNext = 1;
     for (std::int32_t i = lFindNext; i <= table.Count(); ++i) {
         Row row = table.Item(i);
+        table.Need(row);
         const auto holds = [&](const FindCondition& wanted, ColumnId iCol) {
             return wanted.Holds(formOf(row.Cell(iCol)));
         };

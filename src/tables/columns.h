@@ -32,7 +32,8 @@ struct CellMeaning {
 
 /// First width of a column in hundredths of a millimetre: one inch, or what shows most texts of a kind whole.
 inline constexpr std::int32_t kColumnWidth = 2540, kNameWidth = 3200, kSequenceWidth = 3700,
-                              kPlaceWidth = 4200, kPersonWidth = 4200, kFamilyWidth = 6400;
+                              kPlaceWidth = 4200, kPersonWidth = 4200, kFamilyWidth = 6400,
+                              kRelationWidth = 6400;
 
 /// All that is known of a column of a table.
 struct ColumnFacts {
@@ -288,5 +289,66 @@ inline constexpr auto kColumns = std::to_array<ColumnFacts>({
 });
 static_assert(FollowTheirNumbers(kColumns, kEnd));
 }  // namespace Kinship
+
+// What a path, or a relative, is called and how near it is. Neither leads to rows of other tables.
+namespace Paths {
+enum Columns : std::int16_t {
+    Path = 1,
+    Relation,
+    Spouses,
+    Links,
+    CivilDegree,
+    CanonDegree,
+    Ancestors,
+    Visible,
+    kEnd
+};
+}  // namespace Paths
+template <>
+inline constexpr bool kNumbersColumns<Paths::Columns> = true;
+namespace Paths {
+inline constexpr auto kColumns = std::to_array<ColumnFacts>({
+    {Path, "Path", "N°"_t},
+    {Relation, "Relation", "Lien", CellKind::Words, {}, kRelationWidth},
+    {Spouses, "Spouses", "Conjoints", CellKind::Words, {}, kColumnWidth, Alignment::Centre},
+    {Links, "Links", "Liaisons", CellKind::Words, {}, kColumnWidth, Alignment::Centre},
+    {CivilDegree, "CivilDegree", "Degré civil"_t, CellKind::Number, {}, kColumnWidth, Alignment::Centre},
+    {CanonDegree, "CanonDegree", "Degré canonique"_t, CellKind::Number, {}, kNameWidth, Alignment::Centre},
+    {Ancestors, "Ancestors", "Ancêtres communs"_t, CellKind::Words, {}, kPersonWidth},
+    {Visible, "Visible", "Affiché"_t, CellKind::Words, {}, kColumnWidth, Alignment::Centre},
+});
+static_assert(FollowTheirNumbers(kColumns, kEnd));
+}  // namespace Paths
+
+namespace Relatives {
+enum Columns : std::int16_t {
+    ID = 1,
+    LastName,
+    FirstName,
+    Sex,
+    Relation,
+    CivilDegree,
+    CanonDegree,
+    Ancestors,
+    kEnd
+};
+}  // namespace Relatives
+template <>
+inline constexpr bool kNumbersColumns<Relatives::Columns> = true;
+namespace Relatives {
+inline constexpr CellMeaning kPerson{Subject::Individual, ID, {}, true};
+inline constexpr auto kColumns = std::to_array<ColumnFacts>({
+    {ID, "ID", "ID"_t, CellKind::Identifier, kPerson},
+    {LastName, "LastName", "Nom"_t, CellKind::Words, kPerson, kNameWidth},
+    {FirstName, "FirstName", "Prénom"_t, CellKind::Words, kPerson, kNameWidth},
+    {Sex, "Sex", "Sexe"_t, CellKind::Words, kPerson, kColumnWidth, Alignment::Centre},
+    {Relation, "Relation", "Lien", CellKind::Words, kPerson, kRelationWidth},
+    {CivilDegree, "CivilDegree", "Degré civil"_t, CellKind::Number, kPerson, kColumnWidth, Alignment::Centre},
+    {CanonDegree, "CanonDegree", "Degré canonique"_t, CellKind::Number, kPerson, kNameWidth,
+     Alignment::Centre},
+    {Ancestors, "Ancestors", "Ancêtres communs"_t, CellKind::Words, kPerson, kPersonWidth},
+});
+static_assert(FollowTheirNumbers(kColumns, kEnd));
+}  // namespace Relatives
 
 }  // namespace swiftroll

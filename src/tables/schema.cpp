@@ -39,14 +39,24 @@ TableSet::TableSet()
       lvwKinship(
           "lvwKinship",
           "Ensemble des liens de parenté entre les 2 individus sélectionnés dans la liste en Entrée."_t,
-          MakeColumns(Kinship::kColumns), OwnGroup()) {}
+          MakeColumns(Kinship::kColumns), OwnGroup()),
+      lvwPaths("lvwPaths", "Résumé : une ligne par lien de parenté trouvé, avec le nom et les degrés."_t,
+               MakeColumns(Paths::kColumns), OwnGroup()),
+      lvwRelatives("lvwRelatives", "Toute la parenté par le sang d'un individu, les plus proches d'abord."_t,
+                   MakeColumns(Relatives::kColumns), OwnGroup()) {}
 
-std::vector<Table*> TableSet::All() {
+std::vector<Table*> TableSet::Logged() {
     return {&lvwIn, &lvwOut, &lvwXref, &lvwXref1, &lvwFamily, &lvwFamilyXref, &lvwKinship};
 }
 
+std::vector<Table*> TableSet::All() {
+    std::vector<Table*> tables = Logged();
+    for (Table* summary : Summaries()) tables.push_back(summary);
+    return tables;
+}
+
 std::vector<Table*> TableSet::Shown() {
-    return {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship};
+    return {&lvwIn, &lvwOut, &lvwFamilyXref, &lvwXref, &lvwFamily, &lvwKinship, &lvwPaths, &lvwRelatives};
 }
 
 Table* TableSet::Named(TextView name) {

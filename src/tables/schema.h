@@ -4,7 +4,7 @@
 
 namespace swiftroll {
 
-/// The seven tables, created empty with their columns. The tables that a read fills share their texts.
+/// The tables, created empty with their columns. Those that a read fills share their texts.
 struct TableSet {
     TableSet();
 
@@ -27,7 +27,15 @@ struct TableSet {
     /// Lines of the kinship paths found.
     Table lvwKinship;
 
-    /// All tables in the order of the log's row counts.
+    /// Summaries, which tell anew what the others hold: one row for each kinship path found, and one for each
+    /// blood relative of somebody.
+    Table lvwPaths, lvwRelatives;
+
+    /// The seven tables of what was read and found, in the order of the log's row counts.
+    std::vector<Table*> Logged();
+    std::vector<Table*> Summaries() { return {&lvwPaths, &lvwRelatives}; }
+    bool IsSummary(const Table* table) const { return table == &lvwPaths || table == &lvwRelatives; }
+    /// All of these.
     std::vector<Table*> All();
     /// The tables with header icons: all but lvwXref1.
     std::vector<Table*> Shown();

@@ -170,6 +170,11 @@ void Table::Clear() {
     store_.reset();
 }
 
+void Table::NeedAll() {
+    if (!OnNeeded) return;
+    for (std::int32_t i = 1; i <= Count(); ++i) Need(Item(i));
+}
+
 std::optional<Row> Table::Current() {
     if (currentGeneration_ != generation_) return std::nullopt;
     return Row(*this, currentSlot_);
@@ -179,6 +184,7 @@ void Table::SetCurrent(const Row& row) {
     row.CheckAlive();
     currentSlot_ = row.slot_;
     currentGeneration_ = row.generation_;
+    if (OnCurrent) OnCurrent(row);
 }
 
 void Table::SetSorted(bool sorted) {

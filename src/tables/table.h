@@ -103,10 +103,18 @@ class Table {
     /// The row that the user works with, if there is one and it was not removed.
     std::optional<Row> Current();
     void SetCurrent(const Row& row);
+    /// Called when a row became the current one.
+    std::function<void(const Row& row)> OnCurrent;
     /// Called now and then while many rows are sorted.
     Pause OnPause;
     /// For the presentation, which scrolls a row into view.
     std::function<void(const Row& row)> OnEnsureVisible;
+
+    /// Writes those cells of a row that whoever fills the table leaves for the moment when they are needed.
+    std::function<void(Row& row)> OnNeeded;
+    /// To be called before the cells of a row are shown, or those of all rows are compared or copied.
+    void Need(Row row);
+    void NeedAll();
 
     bool Sorted() const { return sorted_; }
     ColumnId SortKey() const { return sortKey_; }
@@ -265,6 +273,10 @@ class Row : public RowView {
     Table& Owner() const { return const_cast<Table&>(*table_); }
     void SetMark(std::uint8_t mark, bool on);
 };
+
+inline void Table::Need(Row row) {
+    if (OnNeeded) OnNeeded(row);
+}
 
 inline RowView Table::Item(std::int32_t index) const {
     if (index < 1 || index > Count()) ThrowIndexOutOfRange();

@@ -1,0 +1,35 @@
+// The job "cousins", and the summary of paths.
+#include "cli/run_cli.h"
+
+namespace swiftroll::test {
+namespace {
+
+struct Cousins : CliTest {};
+
+TEST_F(Cousins, ListsBloodRelativesTheNearestFirst) {
+    const std::string head = "ID\tLastName\tFirstName\tSex\tRelation\tCivilDegree\tCanonDegree\tAncestors\n";
+    const Outcome run = Cli({"cousins", "f.ged", "@I1@", "-q"});
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.out, head + "@I3@\tDE LA COUR\tLuc\t\tenfant\t1\t1\t@I1@\n");
+    EXPECT_EQ(Cli({"cousins", kExample, "@I70@", "--degre", "4", "-o", "liste.tsv"}).code, 0);
+    EXPECT_NE(Bytes("liste.tsv").find("\tcousin"), std::string::npos) << Bytes("liste.tsv");
+    EXPECT_EQ(Cli({"cousins", kExample, "@I70@", "--degre", "3", "-q"}).out.find("\tcousin"),
+              std::string::npos);
+}
+
+TEST_F(Cousins, RefusesWhatIsNobody) {
+    Cli({"cousins", "f.ged", "@I9@"}).Ends(1, "@I9@");
+    Cli({"cousins", "f.ged", "@I1@", "--sans-familles"}).Ends(1, "--sans-familles");
+    Cli({"cousins", "f.ged"}).Ends(2, "identifiant");
+    Cli({"cousins", "f.ged", "@I1@", "--degre", "0"}).Ends(2, "--degre");
+}
+
+TEST_F(Cousins, TheSummaryOfPathsHasNames) {
+    const Outcome run = Cli({"parente", "f.ged", "@I3@", "@I2@", "-t", "lvwPaths", "-q"});
+    EXPECT_EQ(run.out,
+              "Path\tRelation\tSpouses\tLinks\tCivilDegree\tCanonDegree\tAncestors\tVisible\n"
+              "000001\tmère\t000\t0002\t1\t1\t@I2@\tOui\n");
+}
+
+}  // namespace
+}  // namespace swiftroll::test
