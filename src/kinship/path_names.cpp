@@ -36,20 +36,30 @@ class PathLines {
 
     std::optional<Row> Next() {
         if (path_.IsEmpty()) return std::nullopt;
-        const Text number = Decimal(++line_, kPathDigits);
+        ++line_;
         if (place_ > 0 && place_ < table_.Count()) {
             const Row row = table_.Item(place_ + 1);
-            if (row.Text().starts_with(prefix_) && row.Text().ends_with(number)) {
+            if (IsPresentLine(row.Text())) {
                 ++place_;
                 return row;
             }
         }
-        const auto row = table_.Find(RowKey(path_, table_.Store().FindInterned(number)));
+        const auto number = table_.Store().FindInterned(Decimal(line_, kPathDigits));
+        const auto row = table_.Find(RowKey(path_, number));
         place_ = row ? row->Index() : 0;
         return row;
     }
 
   private:
+    /// Whether a text is the number of the path and of the line. Paths have hundreds of lines, and of each
+    /// this is asked.
+    bool IsPresentLine(TextView sSeqNr) const {
+        if (sSeqNr.size() < prefix_.size() + kPathDigits || !sSeqNr.starts_with(prefix_)) return false;
+        std::int32_t line = 0;
+        for (const char c : sSeqNr.substr(prefix_.size())) line = line * 10 + (c - '0');
+        return line == line_;
+    }
+
     Table& table_;
     Text prefix_;
     TextRef path_;

@@ -37,4 +37,9 @@ void SelectionContext::SetClickedCell(const Application& app, const Table& table
     iFamCol = meaning.family;
 }
 
+std::optional<Text> SelectionContext::IndividualOf(const Table& table, std::int32_t row) const {
+    if (sIdKind != IdKindOf(Subject::Individual) || row < 0 || row >= table.Count()) return std::nullopt;
+    return Text(table.Item(row + 1).Cell(iIndiCol));
+}
+
 }  // namespace swiftroll::modSelectionIn

@@ -25,6 +25,9 @@ struct SelectionContext {
     /// cell identifies nothing. In `lvwOut` only the columns before `Number`, as of the last `InitIndexes`,
     /// have a meaning, since the others form no groups.
     void SetClickedCell(const Application& app, const Table& table, ColumnId column);
+    /// The identifier of the individual that the clicked cell speaks of, in a row of the same table from 0;
+    /// nothing for a cell of anything else, and for a row that has gone.
+    std::optional<Text> IndividualOf(const Table& table, std::int32_t row) const;
 };
 
 }  // namespace swiftroll::modSelectionIn

@@ -69,9 +69,10 @@ void ContextMenu::ModifyContextMenu() {
         commands_.mnuColSelect.Enabled = commands_.mnuColUnselect.Enabled = &table != &app_.lvwOut;
     }
     commands_.mnuDeselectCurrent.Enabled = static_cast<bool>(lists_.lHitCol);
-    commands_.mnuAddFavorite.Enabled = lists_.lHitRow >= 0;
+    commands_.mnuAddFavorite.Enabled = lists_.lHitRow >= 0 && !app_.IsSummary(&table);
     commands_.mnuFind.Enabled = commands_.mnuFindNext.Enabled = true;
     const bool isIndividual = context.sIdKind == "I";
+    commands_.mnuAllKin.Enabled = isIndividual && lists_.lHitRow >= 0 && app_.bFamiliesRead;
     const bool isPerson = isIndividual || context.sIdKind == "F";
     for (Command* command : {&commands_.mnuAddIndi, &commands_.mnuAddParents, &commands_.mnuRemoveIndi,
                              &commands_.mnuRemoveParents}) {

@@ -40,8 +40,8 @@ void Favorites::mnuAddFavorite_Click() {
         "mnuAddFavorite_Click",
         [&] {
             const auto index = static_cast<std::size_t>(app_.SSTab1);
-            const auto row =
-                app_.lvwActiveListView == nullptr ? std::nullopt : app_.lvwActiveListView->Current();
+            Table* const table = app_.lvwActiveListView;
+            const auto row = table == nullptr || app_.IsSummary(table) ? std::nullopt : table->Current();
             if (!row || index >= app_.cboFavorites.size()) return;
             app_.cboFavorites[index].SetText(Concat({row->Key(), TextView(&kKeyEnd, 1)}));
             cboFavorites_GotFocus(index);
@@ -85,12 +85,14 @@ void Favorites::KeepOneFavorite(ComboBox& combo) {
 
 void Favorites::cmdGotoFavorite_Click() {
     const auto index = static_cast<std::size_t>(app_.SSTab1);
-    if (index >= app_.cboFavorites.size() || app_.lvwActiveListView == nullptr) return;
+    Table* const table =
+        app_.IsSummary(app_.lvwActiveListView) ? app_.TableOf(app_.SSTab1) : app_.lvwActiveListView;
+    if (index >= app_.cboFavorites.size() || table == nullptr) return;
     IgnoringFailures([&] {
         const Text text = app_.cboFavorites[index].Get();
         const std::size_t end = GetFavoritePos(text);
         if (end == 0) return;
-        auto row = app_.lvwActiveListView->Find(TextView(text).substr(0, end - 1));
+        auto row = table->Find(TextView(text).substr(0, end - 1));
         if (!row) return;
         CellLook look = row->Look();
         look.ForeColor = kMagenta;

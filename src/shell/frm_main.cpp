@@ -22,9 +22,15 @@ frmMain::frmMain(const Ports& applicationPorts)
       updates(*this),
       findDialog(*this, selection),
       checkDialog(*this, *this, reader.lines),
-      savedSettings(
-          *this,
-          {{*this, All()}, {findDialog}, {checkDialog}, {preview}, {kinshipDialog}, {about}, {updates}}),
+      relatives(*this),
+      savedSettings(*this, {{*this, All()},
+                            {findDialog},
+                            {checkDialog},
+                            {preview},
+                            {kinshipDialog},
+                            {about},
+                            {updates},
+                            {relatives}}),
       fileCombos(*this, *this, *this),
       drawing(*this, *this, kinshipSearch, fileCombos),
       favorites(*this, mnuAddFavorite, cmdGotoFavorite),
@@ -32,6 +38,7 @@ frmMain::frmMain(const Ports& applicationPorts)
       lists(*this, *this, selection, findDialog, tabs),
       contextMenu(*this, *this, selection, lists),
       kinshipRequest(*this, *this, kinshipDialog, kinshipSearch, drawing),
+      pathChoice(*this, kinshipSearch),
       writing(*this, *this, cmdSelectDirSwiftOut, reader.lines, fileCombos),
       reading_(*this, *this, reader, drawing),
       extract_(*this, *this, reader.lines, fileCombos),
@@ -41,6 +48,13 @@ frmMain::frmMain(const Ports& applicationPorts)
     cmdHelp.Operation = mnuDoc.Operation = [this] { LaunchHTMLHelp(0); };
     cmdExit.Operation = mnuExit.Operation = [this] { cmdExit_Click(); };
     mnuAbout.Operation = [this] { about.Show(); };
+    mnuAllKin.Operation = [this] {
+        lists.OnActiveTable("mnuAllKin_Click", [this](Table& table) {
+            if (const auto individual = selection.context.IndividualOf(table, lists.lHitRow)) {
+                relatives.Open(*individual);
+            }
+        });
+    };
     mnuContext2.Operation = [this] { mnuContext2_Click(); };
 }
 

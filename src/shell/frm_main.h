@@ -10,11 +10,13 @@
 #include "shell/frm_find.h"
 #include "shell/frm_kinship_select.h"
 #include "shell/frm_preview.h"
+#include "shell/frm_relatives.h"
 #include "shell/frm_splash.h"
 #include "shell/gedcom_extract.h"
 #include "shell/kinship_request.h"
 #include "shell/lists.h"
 #include "shell/parameter_sets.h"
+#include "shell/path_choice.h"
 #include "shell/path_drawing.h"
 #include "shell/problem_report.h"
 #include "shell/reading.h"
@@ -46,7 +48,7 @@ class frmMain : public Application, public MainCommands {
     void ShowTab(Tab tab) override { tabs.ShowTab(tab); }
     /// The windows beside the main one.
     std::vector<Window*> SecondaryWindows() {
-        return {&about, &updates, &findDialog, &checkDialog, &preview, &kinshipDialog};
+        return {&about, &updates, &findDialog, &checkDialog, &preview, &kinshipDialog, &relatives};
     }
 
     /// What the last read knows beside the tables.
@@ -62,6 +64,7 @@ class frmMain : public Application, public MainCommands {
     frmUpdates updates;
     frmFind findDialog;
     frmCheck checkDialog;
+    frmRelatives relatives;
 
     SavedSettings savedSettings;
 
@@ -73,6 +76,7 @@ class frmMain : public Application, public MainCommands {
     Lists lists;
     ContextMenu contextMenu;
     KinshipRequest kinshipRequest;
+    PathChoice pathChoice;
     Writing writing;
 
   private:

@@ -44,7 +44,8 @@ KinshipCommands::KinshipCommands(Window& window)
                   {"cmdFindPath", "Rech. Parenté"_t,
                    "Recherche la parenté entre les 2 individus sélectionnés dans la liste en entrée."_t},
                   {}, false),
-      mnuFindPath(window, {"mnuFindPath", "Recherche Parenté"_t}, {}, false) {}
+      mnuFindPath(window, {"mnuFindPath", "Recherche Parenté"_t}, {}, false),
+      mnuAllKin(window, {"mnuAllKin", "Toute la parenté..."_t}, {}, false) {}
 
 ExtractCommands::ExtractCommands(Window& window)
     : cmdSaveGed(window, {"cmdSaveGed", "Ecrire"_t}, {}, false),
@@ -155,6 +156,7 @@ Menu MainCommands::TableMenu() {
                              mnuRemoveValue)},
          {mnuKinship},
          {mnuFindPath},
+         {mnuAllKin},
          {mnuDrawKinship,
           {{mnuDrawKinshipOne}, {mnuDrawKinshipOneSpouse}, {mnuDrawKinshipAll}, {mnuDrawKinshipAllSpouse}}}}};
 }

@@ -39,6 +39,7 @@ struct KinshipCommands {
     explicit KinshipCommands(Window& window);
 
     Command cmdFindPath, mnuFindPath;
+    Command mnuAllKin;
 };
 
 struct ExtractCommands {

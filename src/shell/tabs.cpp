@@ -16,10 +16,8 @@ void Tabs::ShowTab(Tab tab) {
 
 void Tabs::SSTab1_GotFocus() {
     favorites_.ShowFavorites(app_.SSTab1);
-    Table* const tables[] = {&app_.lvwIn,   &app_.lvwOut,    &app_.lvwFamilyXref,
-                             &app_.lvwXref, &app_.lvwFamily, &app_.lvwKinship};
-    if (TabHasTable(app_.SSTab1)) {
-        TableGotFocus(*tables[static_cast<std::size_t>(app_.SSTab1)]);
+    if (Table* const table = app_.TableOf(app_.SSTab1)) {
+        TableGotFocus(*table);
         if (OnTabFocus) OnTabFocus();
         return;
     }

@@ -34,6 +34,7 @@ bool DesktopApplication::Start(const QString& file) {
     BuildKinshipDialog(presenter_, dialogs_, window_.get());
     BuildFindDialog(presenter_, window_.get());
     BuildCheckDialog(presenter_, window_.get());
+    BuildRelativesDialog(presenter_, window_.get());
     BuildAboutDialog(presenter_, window_.get());
     BuildUpdatesDialog(presenter_, window_.get());
     new PreviewDialog(presenter_, preview_, window_.get());  // owned by the window

@@ -10,6 +10,7 @@ SecondaryDialog* BuildKinshipDialog(Presenter& presenter, QtDialogs& dialogs, QW
 SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner);
 SecondaryDialog* BuildCheckDialog(Presenter& presenter, QWidget* owner);
 SecondaryDialog* BuildUpdatesDialog(Presenter& presenter, QWidget* owner);
+SecondaryDialog* BuildRelativesDialog(Presenter& presenter, QWidget* owner);
 SecondaryDialog* BuildAboutDialog(Presenter& presenter, QWidget* owner);
 
 }  // namespace swiftroll::ui

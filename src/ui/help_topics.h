@@ -27,7 +27,8 @@ enum : int {
     Favorites,
     FormatOptions,
     Options,
-    Check
+    Check,
+    AllKin
 };
 }
 

@@ -88,7 +88,7 @@ void MainWindow::BuildMenuBar() {
     }
 }
 
-QWidget* MainWindow::TablePage(std::initializer_list<Table*> tables) {
+QWidget* MainWindow::TablePage(std::initializer_list<Table*> tables, int mainTable) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(kTableMargin, kTableMargin, kTableMargin, kTableMargin);
@@ -98,8 +98,8 @@ QWidget* MainWindow::TablePage(std::initializer_list<Table*> tables) {
         views_[table] = view;
         splitter->addWidget(view);
     }
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 1);
+    // The list that the tab is for has the room.
+    for (int i = 0; i < splitter->count(); ++i) splitter->setStretchFactor(i, i == mainTable ? 3 : 1);
     splitter->setChildrenCollapsible(false);
     column->addWidget(splitter);
     return page;
@@ -114,7 +114,7 @@ QWidget* MainWindow::BuildTabs() {
                               TablePage({&main_.lvwFamilyXref}),
                               TablePage({&main_.lvwXref, &main_.lvwXref1}),
                               TablePage({&main_.lvwFamily}),
-                              TablePage({&main_.lvwKinship}),
+                              TablePage({&main_.lvwPaths, &main_.lvwKinship}, 1),
                               Scrolled(BuildFormatTab(main_, binder_, presenter_)),
                               Scrolled(BuildLinksTab(main_, binder_, presenter_)),
                               Scrolled(BuildOptionsTab(main_, binder_))};
@@ -127,6 +127,7 @@ QWidget* MainWindow::BuildTabs() {
                                                     {&main_.lvwXref, "Liens"},
                                                     {&main_.lvwXref1, "Liens de la recherche de parenté"},
                                                     {&main_.lvwFamily, "Familles"},
+                                                    {&main_.lvwPaths, "Résumé des liens de parenté"},
                                                     {&main_.lvwKinship, "Liens de parenté"}};
     for (const auto& [table, name] : names) ViewOf(*table).setAccessibleName(QString::fromUtf8(name));
     ViewOf(main_.lvwIn)
@@ -137,6 +138,9 @@ QWidget* MainWindow::BuildTabs() {
         .SetHint(
             QStringLiteral("Lisez un fichier, placez devant la colonne « Nbre » les colonnes à regrouper,\n"
                            "puis appuyez sur « Recalcul Sortie »."));
+    ViewOf(main_.lvwPaths)
+        .SetHint(QStringLiteral("Résumé : chaque lien trouvé aura ici une ligne,\n"
+                                "avec son nom et ses degrés. Choisissez-en une pour aller au lien."));
     ViewOf(main_.lvwKinship)
         .SetHint(QStringLiteral("Sélectionnez ou cochez deux individus dans l'onglet « Entrée »,\n"
                                 "puis appuyez sur « Rech. Parenté »."));

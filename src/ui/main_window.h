@@ -36,7 +36,8 @@ class MainWindow : public QMainWindow {
     void BuildMenuBar();
     QWidget* BuildTabs();
     QWidget* BuildFavorites();
-    QWidget* TablePage(std::initializer_list<Table*> tables);
+    /// One table above the other; `mainTable` is the number of the one that the tab is for.
+    QWidget* TablePage(std::initializer_list<Table*> tables, int mainTable = 0);
     void BuildStatusBar();
     void Refresh();
     void RefreshTab();

@@ -52,6 +52,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     const ColumnId column = ColumnId::OfSection(index.column());
     switch (role) {
         case Qt::DisplayRole:
+            table_.Need(*row);
             return ToQt(row->Cell(column));
         case Qt::TextAlignmentRole:
             return QVariant(AlignmentOf(table_.ColumnAt(column).Facts->align));

@@ -194,6 +194,7 @@ void TableView::paintEvent(QPaintEvent*) {
     const int height = RowHeight(), first = verticalScrollBar()->value(), current = CurrentRow();
     for (int row = first; row <= LastRowInView(); ++row) {
         if (const auto shown = model_.RowAt(row)) {
+            Data().Need(*shown);
             PaintRow(painter, *shown, (row - first) * height, row % 2 != 0, row == current && hasFocus());
         }
     }
