@@ -26,45 +26,14 @@ Way WayOf(TextView sType) {
     return Way::Same;
 }
 
-/// The lines of a path one after the other. They stand so unless the user has sorted the table otherwise.
-class PathLines {
-  public:
-    PathLines(Table& lvwKinship, TextView number)
-        : table_(lvwKinship),
-          prefix_(Concat({number, kPathEnd})),
-          path_(table_.Count() > 0 ? table_.Store().FindInterned(prefix_) : TextRef()) {}
-
-    std::optional<Row> Next() {
-        if (path_.IsEmpty()) return std::nullopt;
-        ++line_;
-        if (place_ > 0 && place_ < table_.Count()) {
-            const Row row = table_.Item(place_ + 1);
-            if (IsPresentLine(row.Text())) {
-                ++place_;
-                return row;
-            }
-        }
-        const auto number = table_.Store().FindInterned(Decimal(line_, kPathDigits));
-        const auto row = table_.Find(RowKey(path_, number));
-        place_ = row ? row->Index() : 0;
-        return row;
-    }
-
-  private:
-    /// Whether a text is the number of the path and of the line. Paths have hundreds of lines, and of each
-    /// this is asked.
-    bool IsPresentLine(TextView sSeqNr) const {
-        if (sSeqNr.size() < prefix_.size() + kPathDigits || !sSeqNr.starts_with(prefix_)) return false;
-        std::int32_t line = 0;
-        for (const char c : sSeqNr.substr(prefix_.size())) line = line * 10 + (c - '0');
-        return line == line_;
-    }
-
-    Table& table_;
-    Text prefix_;
-    TextRef path_;
-    std::int32_t place_ = 0, line_ = 0;
-};
+/// The first line of the path of a number; nothing for a path that stands nowhere.
+std::optional<Row> FirstLine(Table& lvwKinship, TextView number) {
+    if (lvwKinship.Count() == 0) return std::nullopt;
+    const TextStore& store = lvwKinship.Store();
+    const TextRef path = store.FindInterned(Concat({number, kPathEnd}));
+    if (path.IsEmpty()) return std::nullopt;
+    return lvwKinship.Find(RowKey(path, store.FindInterned(Decimal(1, kPathDigits))));
+}
 
 OtherParent CompareOthers(TextView one, TextView two) {
     if (one.empty() || two.empty()) return OtherParent::Unknown;
@@ -110,15 +79,14 @@ const PathNames::Spouses& PathNames::FamilyOf(TextRef sFam) {
 bool PathNames::ReadPath(const Row& row) {
     ForgetWhatIsGone();
     links_.clear();
-    PathLines lines(tables_.lvwKinship, row.Text());
-    auto line = lines.Next();
+    auto line = FirstLine(tables_.lvwKinship, row.Text());
     if (!line) return false;
     from_ = &PersonOf(line->Ref(Kinship::IDIndi));
-    while (!line->Cell(Kinship::Type).empty()) {
-        const auto next = lines.Next();
+    while (!line->Ref(Kinship::Type).IsEmpty()) {
+        const auto next = tables_.lvwKinship.AddedAfter(*line);
         if (!next) return false;
         Append(WayOf(line->Cell(Kinship::Type)), PersonOf(next->Ref(Kinship::IDIndi)),
-               FamilyOf(line->Ref(Kinship::IDFamily)));
+               line->Ref(Kinship::IDFamily));
         line = next;
     }
     steps_.clear();
@@ -128,27 +96,27 @@ bool PathNames::ReadPath(const Row& row) {
 
 /// Of a couple with two families, the link of the marriage and those of the children may name different ones,
 /// so that the path has a marriage which a name need not tell.
-void PathNames::Append(Way way, const Person& to, const Spouses& family) {
-    KinStep step{way, to.sex};
-    if (!links_.empty()) {
+void PathNames::Append(Way way, const Person& to, TextRef sFam) {
+    const auto follows = [&](Way before) { return !links_.empty() && links_.back().step.way == before; };
+    if (way == Way::Spouse && follows(Way::Parent)) {
         Link& last = links_.back();
-        if (last.step.way == Way::Parent && way == Way::Spouse &&
-            last.family->BesideOf(last.to->id) == to.id) {
+        if (FamilyOf(last.family).BesideOf(last.to->id) == to.id) {
             last = {{Way::Parent, to.sex}, &to, last.family};
             return;
         }
-        if (last.step.way == Way::Spouse && way == Way::Child &&
-            family.BesideOf(last.to->id) == PersonAfter(links_.size() - 1).id) {
-            links_.pop_back();
-        }
     }
-    if (!links_.empty() && links_.back().step.way == Way::Parent && way == Way::Child) {
+    if (way == Way::Child && follows(Way::Spouse)) {
+        const TextView present = links_.back().to->id, before = PersonAfter(links_.size() - 1).id;
+        if (FamilyOf(sFam).BesideOf(present) == before) links_.pop_back();
+    }
+    KinStep step{way, to.sex};
+    if (way == Way::Child && follows(Way::Parent)) {
         const Link& up = links_.back();
-        step.other = up.family == &family
-                         ? OtherParent::Same
-                         : CompareOthers(up.family->BesideOf(up.to->id), family.BesideOf(up.to->id));
+        step.other = up.family == sFam ? OtherParent::Same
+                                       : CompareOthers(FamilyOf(up.family).BesideOf(up.to->id),
+                                                       FamilyOf(sFam).BesideOf(up.to->id));
     }
-    links_.push_back({step, &to, &family});
+    links_.push_back({step, &to, sFam});
 }
 
 /// The identifiers of the individual whom both descend from, and of the other one of the couple.
@@ -156,11 +124,12 @@ Text PathNames::CommonAncestors(std::size_t stepsToAncestor) {
     const TextView ancestor = PersonAfter(stepsToAncestor).id;
     if (stepsToAncestor == 0 || stepsToAncestor == links_.size()) return Text(ancestor);
     const Link& down = links_[stepsToAncestor];
-    const TextView other = down.family->BesideOf(ancestor);
+    const Spouses& couple = FamilyOf(down.family);
+    const TextView other = couple.BesideOf(ancestor);
     if (down.step.other != OtherParent::Same || other.empty() || !tables_.lvwIn.Find(other)) {
         return Text(ancestor);
     }
-    return Concat({down.family->husband, " ", down.family->wife});
+    return Concat({couple.husband, " ", couple.wife});
 }
 
 void PathNames::Complete(Row& row) {

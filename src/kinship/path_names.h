@@ -35,10 +35,10 @@ class PathNames {
     struct Link {
         KinStep step;
         const Person* to;
-        const Spouses* family;
+        TextRef family;  // of the store of lvwKinship
     };
     bool ReadPath(const Row& row);
-    void Append(KinStep::Way way, const Person& to, const Spouses& family);
+    void Append(KinStep::Way way, const Person& to, TextRef sFam);
     void ForgetWhatIsGone();
     const Person& PersonOf(TextRef sIndi);
     const Spouses& FamilyOf(TextRef sFam);

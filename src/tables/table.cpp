@@ -154,6 +154,13 @@ void Table::Remove(std::int32_t index) {
     ++generation_;
 }
 
+std::optional<Row> Table::AddedAfter(const Row& row) {
+    row.CheckAlive();
+    const Slot next = row.slot_ + 1;
+    if (next >= index_.SlotCount()) return std::nullopt;
+    return Row(*this, next);
+}
+
 void Table::Clear() {
     cells_.Clear();
     tags_.Clear();

@@ -94,6 +94,9 @@ class Table {
     std::optional<Row> Find(RowKey key);
     std::optional<RowView> Find(RowKey key) const;
     std::optional<Row> Find(TextView key);
+    /// The row that was added next after this one, wherever the two stand now. Only for a table from which no
+    /// rows are removed but all. @throws Failure IndexOutOfRange for a row that has gone
+    std::optional<Row> AddedAfter(const Row& row);
     /// Removes the row at `index`. @throws Failure IndexOutOfRange
     void Remove(std::int32_t index);
     void Clear();
