@@ -26,6 +26,7 @@ install_packages() {
 }
 
 BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev libsqlite3-dev libicu-dev
+  libcairo2-dev pkg-config
   qt6-base-dev qt6-svg-dev qt6-translations-l10n)
 TEST_PACKAGES=(libgtest-dev xsltproc python3)
 

@@ -32,9 +32,9 @@ int PlaceOfMode(std::string_view mode) {
 }  // namespace
 
 std::string ParenteJob::Help() const {
-    return R"(  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--dessin SORTIE.html]
-                        [--mode une|une+|toutes|toutes+] [--lignes SEQ[,SEQ...]] [--max N] [--delai SECONDES]
-                        [--proches N]
+    return R"(  swiftroll-cli parente FICHIER.ged ID1 ID2 [-t TABLE[,TABLE...]] [-o LISTE] [--max N] [--delai SECONDES]
+                        [--proches N] [--dessin SORTIE.html|.svg|.pdf] [--mode une|une+|toutes|toutes+]
+                        [--lignes SEQ[,SEQ...]] [--dessin-max N] [--chemin-par-page] [--ajuster]
       cherche tous les liens de parenté du premier individu au second, et affiche les chemins ()" +
            kDefaultTable + R"(),
       ou écrit les tables dans LISTE. --max arrête la recherche après N chemins, --delai après ce temps ; ce
@@ -45,7 +45,9 @@ std::string ParenteJob::Help() const {
       -t lvwPaths affiche une ligne par chemin, qui dit ce que le second individu est pour le premier, les degrés
       civil et canonique et les ancêtres communs.
       --dessin dessine ensuite tous les chemins (toutes, toutes+ avec les conjoints, qui est le défaut), ou
-      ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit).
+      ceux des lignes données par leur numéro (une, une+ ; la première ligne si rien n'est dit). L'extension de
+      SORTIE dit le format : .svg, .pdf, une page HTML sinon. --dessin-max ne dessine que les N premiers ;
+      dans un PDF, --chemin-par-page commence une page à chaque chemin, et --ajuster réduit à une page.
 )";
 }
 
@@ -59,6 +61,9 @@ void ParenteJob::Declare(JobParser& parser) {
     parser.Option("--dessin", options_.drawing);
     parser.Option("--mode", options_.mode);
     parser.List("--lignes", options_.drawnRows);
+    parser.Limit("--dessin-max", options_.mostDrawings);
+    parser.Flag("--chemin-par-page", options_.pathPerPage);
+    parser.Flag("--ajuster", options_.fitToPage);
     parser.Limit("--max", options_.mostPaths);
     parser.Limit("--delai", options_.mostSeconds);
     parser.Limit("--proches", options_.nearest);
@@ -69,6 +74,14 @@ void ParenteJob::Check() {
     const bool hasRows = !options_.drawnRows.empty();
     if (options_.drawing.empty() && (!options_.mode.empty() || hasRows)) {
         throw UsageError("--mode et --lignes demandent un dessin : --dessin SORTIE.html");
+    }
+    if (options_.drawing.empty() && options_.mostDrawings > 0) {
+        throw UsageError("--dessin-max demande un dessin : --dessin SORTIE.html");
+    }
+    const modDrawingFiles::DrawingFormat* format =
+        modDrawingFiles::FormatOf(FileNameToText(options_.drawing));
+    if ((options_.pathPerPage || options_.fitToPage) && (format == nullptr || !format->hasPages)) {
+        throw UsageError("--chemin-par-page et --ajuster demandent un PDF : --dessin SORTIE.pdf");
     }
     if (hasRows && drawingMode_ >= kAll) throw UsageError("--lignes ne va qu'avec --mode une ou une+");
     if (options_.drawing == "-" && (options_.output.empty() || options_.output == "-")) {
@@ -85,6 +98,9 @@ void ParenteJob::Prepare(Session& session) {
         session.main.chkNearest.SetChecked(true);
         session.main.txtNearest.SetText(Decimal(options_.nearest));
     }
+    session.main.drawing.lMostDrawings = options_.mostDrawings;
+    session.main.preview.chkPathPerPage.SetChecked(options_.pathPerPage);
+    session.main.preview.chkFitToPage.SetChecked(options_.fitToPage);
     output_ = options_.output.empty() ? Text(kStandardOutput) : FileNameToText(options_.output);
 }
 

@@ -15,6 +15,9 @@ struct ParenteOptions {
     /// The page of drawings, how it is drawn, and the rows to draw.
     std::string drawing, mode;
     std::vector<std::string> drawnRows;
+    /// Number of paths that are drawn at most, 0 for all; and how they lie on the pages of a PDF.
+    std::int64_t mostDrawings = 0;
+    bool pathPerPage = false, fitToPage = false;
     /// Number of paths, and seconds, after which the search ends; 0 for no limit.
     std::int64_t mostPaths = 0;
     double mostSeconds = 0;

@@ -5,12 +5,6 @@
 #include "text/literal.h"
 
 namespace swiftroll::modKinshipOutput {
-namespace {
-
-constexpr TextView kIdBegins = "<p class=Right style=\"text-align: right\">", kIdEnds = "</p>";
-
-}  // namespace
-
 CellTexts::CellTexts(const DrawingSource& source, const CellFont& font)
     : source_(source), font_(font), places_(source.options) {}
 
@@ -66,6 +60,35 @@ Text CellTexts::FamilyInfos(TextView sFamID) const {
             return text;
         },
         [&] { return Text(sFamID); });
+}
+
+TextView CellTexts::ClassOf(const GridCell& cell) const {
+    switch (cell.kind) {
+        case CellKind::Person: {
+            const auto person = source_.tables.lvwIn.Find(TextView(cell.id));
+            const TextView sex = person ? person->Cell(In::Sex) : TextView();
+            return sex == "M" ? "IndivMBox" : sex == "F" ? "IndivFBox" : "IndivUBox";
+        }
+        case CellKind::UnknownPerson:
+            return "IndivUBox";
+        case CellKind::Marriage:
+            return "SpouseLine";
+        case CellKind::ChildLeft:
+            return "ChildHLine";
+        case CellKind::Child1Parent:
+        case CellKind::Child2Parents:
+        case CellKind::Children1Parent:
+        case CellKind::Children2Parents:
+            break;
+    }
+    return "ChildVLine";
+}
+
+Text CellTexts::TextOf(const GridCell& cell) const {
+    if (cell.kind == CellKind::Person) return IndividualInfos(cell.id);
+    if (cell.kind == CellKind::UnknownPerson) return Text(kUnknownPartner);
+    if (cell.kind == CellKind::Marriage) return FamilyInfos(cell.id);
+    return {};
 }
 
 Text TakeDateFromTo(TextView sFrom, TextView sTo) {

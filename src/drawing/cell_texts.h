@@ -2,9 +2,15 @@
 
 #include "app/cell_font.h"
 #include "drawing/drawing_source.h"
+#include "drawing/kinship_grid.h"
 #include "gedcom/places.h"
 
 namespace swiftroll::modKinshipOutput {
+
+/// The text of a partner who is not known.
+inline constexpr TextView kUnknownPartner = "<p>?</p>";
+/// What stands around an identifier in a text.
+inline constexpr TextView kIdBegins = "<p class=Right style=\"text-align: right\">", kIdEnds = "</p>";
 
 /// What stands in the boxes and on the marriage lines of a drawing, as fragments of HTML, under the options
 /// of the moment at which this was made.
@@ -17,6 +23,9 @@ class CellTexts {
     /// The text of a marriage line by the key of the family in `lvwFamily`; empty when nothing is to be told,
     /// or after a failure, which is reported.
     Text FamilyInfos(TextView sFamID) const;
+    /// The class of a cell, and its text; lines have none.
+    TextView ClassOf(const GridCell& cell) const;
+    Text TextOf(const GridCell& cell) const;
 
   private:
     void AppendEvent(Text& text, TextView marker, bool withDate, TextView from, TextView to, bool withPlace,

@@ -1,8 +1,8 @@
 #include "drawing/kinship_document.h"
 
-#include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "text/numbers.h"
 
 namespace swiftroll::modKinshipOutput {
 namespace {
@@ -18,12 +18,12 @@ KinshipDocument::KinshipDocument(const DrawingSource& source, TextView sKinshipT
       font_(ParseCellFont(source.options.txtFont.Get()).value_or(CellFont())),
       texts_(source, font_) {}
 
-bool KinshipDocument::DisplayKinship(int iStage, const KinshipGrid& grid) {
+bool KinshipDocument::DisplayKinship(int iStage, const KinshipGrid& grid, TextView sPathTitle) {
     const CellSizes sizes(source_.options);
     try {
         if (iStage == kFirst) Begin(sizes);
         if (iStage != kLast) {
-            WriteDrawing(grid, sizes);
+            WriteDrawing(grid, sizes, sPathTitle);
         } else {
             End(lPageTop_);
             source_.feedback.pnlMessage.Set(Concat({sKinshipTitle_, " : Terminé"_t}));
@@ -35,46 +35,23 @@ bool KinshipDocument::DisplayKinship(int iStage, const KinshipGrid& grid) {
     return false;
 }
 
-void KinshipDocument::WriteDrawing(const KinshipGrid& grid, const CellSizes& sizes) {
+void KinshipDocument::WriteDrawing(const KinshipGrid& grid, const CellSizes& sizes, TextView sPathTitle) {
     constexpr std::int64_t kBeforeRule = 20, kBehindRule = 10;
     for (const GridCell& cell : grid.asGrid) {
         CellRectangle place = RectangleOf(cell, grid, sizes);
         place.top += lPageTop_;
         place.left += lPageLeft;
-        WriteCell(ClassOf(cell), TextOf(cell), place, sizes);
+        WriteCell(texts_.ClassOf(cell), texts_.TextOf(cell), place, sizes);
     }
     lPageTop_ += kBeforeRule + DrawingHeight(grid, sizes);
-    EndDrawing(lPageTop_, RuleWidth(grid, sizes));
+    EndDrawing(lPageTop_, RuleWidth(grid, sizes), sPathTitle);
     lPageTop_ += kBehindRule;
 }
 
-TextView KinshipDocument::ClassOf(const GridCell& cell) const {
-    switch (cell.kind) {
-        case CellKind::Person: {
-            const auto person = source_.tables.lvwIn.Find(TextView(cell.id));
-            const TextView sex = person ? person->Cell(In::Sex) : TextView();
-            return sex == "M" ? "IndivMBox" : sex == "F" ? "IndivFBox" : "IndivUBox";
-        }
-        case CellKind::UnknownPerson:
-            return "IndivUBox";
-        case CellKind::Marriage:
-            return "SpouseLine";
-        case CellKind::ChildLeft:
-            return "ChildHLine";
-        case CellKind::Child1Parent:
-        case CellKind::Child2Parents:
-        case CellKind::Children1Parent:
-        case CellKind::Children2Parents:
-            break;
-    }
-    return "ChildVLine";
-}
-
-Text KinshipDocument::TextOf(const GridCell& cell) const {
-    if (cell.kind == CellKind::Person) return texts_.IndividualInfos(cell.id);
-    if (cell.kind == CellKind::UnknownPerson) return Text(kUnknownPartner);
-    if (cell.kind == CellKind::Marriage) return texts_.FamilyInfos(cell.id);
-    return {};
+void KinshipDocument::TellWriteFailure(const Failure& failure) {
+    source_.feedback.Box(
+        " - Kinship", Concat({"Erreur d'écriture dans le fichier "_t, source_.options.cboKinship.Get(), ".",
+                              kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
 }
 
 }  // namespace swiftroll::modKinshipOutput

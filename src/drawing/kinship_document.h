@@ -13,31 +13,29 @@ class KinshipDocument {
     virtual ~KinshipDocument() = default;
 
     /// Stage 1 opens the document and writes a drawing, 2 writes a further one, 9 closes the document without
-    /// drawing. True when a failure was shown to the user.
+    /// drawing. `sPathTitle` tells what the path of the drawing is. True when a failure was shown to the
+    /// user.
     /// @throws Failure when a size option is no number
-    bool DisplayKinship(int iStage, const KinshipGrid& grid);
+    bool DisplayKinship(int iStage, const KinshipGrid& grid, TextView sPathTitle = {});
 
   protected:
-    /// The text of a partner who is not known.
-    static constexpr TextView kUnknownPartner = "<p>?</p>";
-
     virtual void Begin(const CellSizes& sizes) = 0;
     virtual void WriteCell(TextView sClass, TextView sText, const CellRectangle& place,
                            const CellSizes& sizes) = 0;
     /// `lTop` is where the drawing ends, `lWidth` how wide it is.
-    virtual void EndDrawing(std::int64_t lTop, std::int64_t lWidth) = 0;
+    virtual void EndDrawing(std::int64_t lTop, std::int64_t lWidth, TextView sPathTitle) = 0;
     virtual void End(std::int64_t lTop) = 0;
     /// Shows a failure and abandons the document.
     virtual void Fail(const Failure& failure) = 0;
+    /// Shows that the file of `cboKinship` could not be written.
+    void TellWriteFailure(const Failure& failure);
 
     DrawingSource source_;
     Text sKinshipTitle_;
     CellFont font_;
 
   private:
-    void WriteDrawing(const KinshipGrid& grid, const CellSizes& sizes);
-    TextView ClassOf(const GridCell& cell) const;
-    Text TextOf(const GridCell& cell) const;
+    void WriteDrawing(const KinshipGrid& grid, const CellSizes& sizes, TextView sPathTitle);
 
     CellTexts texts_;
     std::int64_t lPageTop_ = 10;

@@ -60,7 +60,7 @@ void KinshipPage::WriteCell(TextView sClass, TextView sText, const CellRectangle
                sText.empty() ? TextView("&nbsp;") : sText, "</td></tr></table>"});
 }
 
-void KinshipPage::EndDrawing(std::int64_t lTop, std::int64_t lWidth) {
+void KinshipPage::EndDrawing(std::int64_t lTop, std::int64_t lWidth, TextView) {
     WriteLine({"<table class=hr style=\"top:", Decimal(lTop), "; left:0; height:1; width:", Decimal(lWidth),
                "\"><tr><td>&nbsp;</td></tr></TABLE>"});
 }
@@ -75,9 +75,7 @@ void KinshipPage::End(std::int64_t lTop) {
 }
 
 void KinshipPage::Fail(const Failure& failure) {
-    source_.feedback.Box(
-        " - Kinship", Concat({"Erreur d'écriture dans le fichier "_t, source_.options.cboKinship.Get(), ".",
-                              kLineEnd, failure.What(), " (", Decimal(failure.Number()), ")"}));
+    TellWriteFailure(failure);
     file_.reset();
 }
 

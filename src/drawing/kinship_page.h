@@ -17,7 +17,7 @@ class KinshipPage : public KinshipDocument {
     void Begin(const CellSizes& sizes) override;
     void WriteCell(TextView sClass, TextView sText, const CellRectangle& place,
                    const CellSizes& sizes) override;
-    void EndDrawing(std::int64_t lTop, std::int64_t lWidth) override;
+    void EndDrawing(std::int64_t lTop, std::int64_t lWidth, TextView sPathTitle) override;
     void End(std::int64_t lTop) override;
     void Fail(const Failure& failure) override;
 

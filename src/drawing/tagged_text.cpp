@@ -24,8 +24,10 @@ bool TakeMarker(TextPiece& piece, TextView marker) {
         piece.italic = marker[1] == '+';
     } else if (marker == "<BR>") {
         piece.afterBreak = true;
+    } else if (marker == "<RI>") {
+        piece.toRight = true;
     } else {
-        return marker == "<RI>";
+        return false;
     }
     return true;
 }

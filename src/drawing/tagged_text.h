@@ -10,11 +10,12 @@ namespace swiftroll::modPreview {
 struct TextPiece {
     Text text;
     bool bold = false, underline = false, italic = false;
+    bool toRight = false;
     bool afterBreak = false;
 };
 
-/// The pieces of a cell's text with its tags <b>, <u>, <i> and <br>, in order; empty ones are left out unless
-/// they break a line.
+/// The pieces of a cell's text with its tags <b>, <u>, <i>, <br> and <RIGHT>, in order; empty ones are left
+/// out unless they break a line.
 std::vector<TextPiece> SplitTags(TextView sText);
 
 }  // namespace swiftroll::modPreview

@@ -15,14 +15,20 @@ BoxAnswer AskToOverwrite(Application& app, TextView sFile) {
         BoxButtons::YesNoCancel, BoxIcon::Question, BoxTopic::OverwriteFile);
 }
 
+Text FilterOf(TextView name, TextView extension) {
+    return Concat({name, " (*.", extension, ")|*.", extension, "|"});
+}
+
 }  // namespace
 
 Dialogs::FileRequest FileRequestOf(bool bSave, TextView title, TextView fileName, TextView filterName,
-                                   TextView extension) {
+                                   TextView extension, const FileKinds& others) {
     Dialogs::FileRequest request{bSave, Text(title), Text(fileName), {}, Text(extension)};
     if (fileName.ends_with(':') || fileName.ends_with('\\') || fileName.ends_with('/'))
         request.fileName += Concat({"*.", extension});
-    request.filter = Concat({filterName, " (*.", extension, ")|*.", extension, "|Tous (*.*)|*.*"});
+    request.filter = FilterOf(filterName, extension);
+    for (const auto& [name, otherExtension] : others) request.filter += FilterOf(name, otherExtension);
+    request.filter += "Tous (*.*)|*.*";
     return request;
 }
 

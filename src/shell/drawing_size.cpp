@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "app/large_file.h"
-#include "drawing/kinship_page.h"
 #include "tables/columns.h"
 #include "text/numbers.h"
 
@@ -49,14 +48,15 @@ class CountingFiles : public Files {
 
 }  // namespace
 
-std::uint64_t EstimateDrawings(Application& app, TextView sKinshipTitle, std::span<const std::int32_t> rows,
-                               bool bSpouses) {
-    const auto linesOf = [&](std::int32_t row) -> std::int64_t {
-        return ToLong(app.lvwKinship.Item(row).Cell(Kinship::NrLink));
+std::uint64_t EstimateDrawings(Application& app, const std::vector<std::int32_t>& rows,
+                               const WriteDrawings& write) {
+    const auto linesOf = [&](const std::vector<std::int32_t>& some) {
+        std::int64_t lines = 0;
+        for (const std::int32_t row : some) lines += ToLong(app.lvwKinship.Item(row).Cell(Kinship::NrLink));
+        return static_cast<double>(lines);
     };
-    std::int64_t lines = 0, drawnLines = 0;
-    for (const std::int32_t row : rows) lines += linesOf(row);
-    if (lines < kManyLines) return 0;
+    const double allLines = linesOf(rows);
+    if (allLines < kManyLines) return 0;
 
     Silence silence;
     CountingFiles files;
@@ -65,19 +65,21 @@ std::uint64_t EstimateDrawings(Application& app, TextView sKinshipTitle, std::sp
                            p.clipboard, p.keyboard, p.desktop, p.settings, p.preview, p.network, p.mail};
     const auto nothing = [] { return Text(); };
     Feedback quiet(quietPorts, app, {nothing, nothing, nothing});
-    {
-        modKinshipOutput::KinshipPage page({app, app, quiet}, sKinshipTitle, app, files, p.clock);
-        const std::size_t samples = std::min(kSamples, rows.size());
-        for (std::size_t i = 0; i < samples; ++i) {
-            const std::int32_t row = rows[i * rows.size() / samples];
-            drawnLines += linesOf(row);
-            page.DisplayKinship(i == 0 ? 1 : 2,
-                                modKinshipOutput::MakeKinshipTable(app, quiet.trail, row, bSpouses));
-        }
-        page.DisplayKinship(9, {});
+    const auto bytesOf = [&](const std::vector<std::int32_t>& some) {
+        files.bytes = 0;
+        write({app, app, quiet}, files, some);
+        return static_cast<double>(files.bytes);
+    };
+    std::vector<std::int32_t> few, more;
+    for (std::size_t i = 0; i < std::min(kSamples, rows.size()); ++i) {
+        more.push_back(rows[i * rows.size() / std::min(kSamples, rows.size())]);
+        if (i % 2 == 0) few.push_back(more.back());
     }
-    return static_cast<std::uint64_t>(static_cast<double>(files.bytes) * static_cast<double>(lines) /
-                                      static_cast<double>(std::max<std::int64_t>(drawnLines, 1)));
+    // What every file has once, such as fonts, does not grow with the paths.
+    const double bytes = bytesOf(more), lines = linesOf(more);
+    const bool isAll = more.size() == rows.size();
+    const double each = isAll ? 0 : std::max(0.0, bytes - bytesOf(few)) / std::max(1.0, lines - linesOf(few));
+    return static_cast<std::uint64_t>(bytes + each * (allLines - lines));
 }
 
 }  // namespace swiftroll

@@ -1,6 +1,5 @@
 #include "shell/file_combos.h"
 
-#include "shell/ask_file.h"
 #include "shell/file_names.h"
 #include "shell/settings/history.h"
 #include "text/edit.h"
@@ -51,8 +50,9 @@ void FileCombos::SelectFile(ComboBox& combo, bool bSave, const FileRole& role) {
 
 bool FileCombos::GetFile(ComboBox& combo, bool bSave, const FileRole& role) {
     Text chosen;
-    const bool goesOn =
-        AskFile(app_, FileRequestOf(bSave, role.title, combo.Get(), role.filterName, role.extension), chosen);
+    const bool goesOn = AskFile(
+        app_, FileRequestOf(bSave, role.title, combo.Get(), role.filterName, role.extension, role.others),
+        chosen);
     if (!chosen.empty()) combo.SetText(chosen);
     return goesOn;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/application.h"
+#include "shell/ask_file.h"
 #include "shell/main_commands.h"
 
 namespace swiftroll {
@@ -9,6 +10,8 @@ namespace swiftroll {
 struct FileRole {
     TextView title, filterName;
     Text extension;
+    /// Further kinds of files that are offered.
+    FileKinds others = {};
 };
 
 /// The five file combos: the dialogs that fill them, the rules of the names in them, and the opening of what

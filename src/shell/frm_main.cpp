@@ -32,7 +32,7 @@ frmMain::frmMain(const Ports& applicationPorts)
                             {updates},
                             {relatives}}),
       fileCombos(*this, *this, *this),
-      drawing(*this, *this, kinshipSearch, fileCombos),
+      drawing(*this, *this, kinshipSearch, fileCombos, preview),
       favorites(*this, mnuAddFavorite, cmdGotoFavorite),
       tabs(*this, mnuCopy, favorites, drawing),
       lists(*this, *this, selection, findDialog, tabs),

@@ -42,6 +42,11 @@ frmPreview::frmPreview(Application& app)
                    {"chkFitToPage", "Ajuster à une page"_t,
                     "Réduit le dessin à une seule feuille au lieu de le répartir sur plusieurs."_t},
                    false),
+      chkPathPerPage(*this,
+                     {"chkPathPerPage", "Un chemin par page"_t,
+                      "Chaque chemin commence une nouvelle page. Avec « Ajuster à une page », chacun "
+                      "tient sur la sienne."_t},
+                     false),
       cmdSetup(*this, {"cmdSetup", "Mise en page..."}),
       cmdPrint(*this, {"cmdPrint", "Imprimer..."}),
       cmdExport(*this, {"cmdExport", "Exporter...", "Enregistre le dessin en PDF ou en SVG."_t}),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/application.h"
+#include "drawing/drawing_sheets.h"
 
 namespace swiftroll {
 
@@ -16,7 +17,7 @@ class frmPreview : public Window {
     TextBox txtPageNr;
     /// "Page" before the number, and how many there are behind it.
     Label Label1, lblPageOn;
-    CheckBox chkFitToPage;
+    CheckBox chkFitToPage, chkPathPerPage;
     Command cmdSetup, cmdPrint, cmdExport, cmdHelp, cmdClose;
 
     /// Zoom in percent; 0 for the whole page, -1 for its width.
@@ -26,6 +27,8 @@ class frmPreview : public Window {
     /// The page that is shown, from 1 to `PageCount`.
     int Page() const;
     int PageCount() const { return pageCount_; }
+    /// How the drawings are laid out on the sheets.
+    modPreview::SheetLayout Layout() const { return {chkFitToPage.Checked(), chkPathPerPage.Checked()}; }
     /// Comes to the screen with new drawings, at their first page.
     void Open();
     /// Tells how many sheets the drawings take.

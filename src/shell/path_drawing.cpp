@@ -8,12 +8,28 @@
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
+#include "text/numbers.h"
 
 namespace swiftroll {
+namespace {
+
+/// "Chemin 12 : 5 liaisons, 1 conjoint", of the path of a row.
+Text PathTitle(const RowView& row) {
+    const auto counted = [](TextView cell, TextView unit) {
+        const std::int64_t count = ParseDecimal(cell).value_or(0);
+        return Concat({Decimal(count), " ", unit, count > 1 ? "s" : ""});
+    };
+    const TextView seqNr = row.Text();
+    const std::int64_t number = ParseDecimal(seqNr.substr(0, seqNr.find('-'))).value_or(0);
+    return Concat({"Chemin ", Decimal(number), " : ", counted(row.Cell(Kinship::NrLink), "liaison"), ", ",
+                   counted(row.Cell(Kinship::NrSpouses), "conjoint")});
+}
+
+}  // namespace
 
 PathDrawing::PathDrawing(Application& app, DrawingCommands& commands, const modKinship::Search& search,
-                         FileCombos& fileCombos)
-    : app_(app), commands_(commands), search_(search), fileCombos_(fileCombos) {
+                         FileCombos& fileCombos, const frmPreview& preview)
+    : app_(app), commands_(commands), search_(search), fileCombos_(fileCombos), preview_(preview) {
     DisableKinshipCommands();
     commands_.mnuDrawKinshipOne.Operation = [this] { DrawKinshipAll(false, true, false); };
     commands_.mnuDrawKinshipOneSpouse.Operation = [this] { DrawKinshipAll(true, true, false); };
@@ -31,9 +47,12 @@ PathDrawing::PathDrawing(Application& app, DrawingCommands& commands, const modK
     app_.cboDrawKinship.OnClick = [this] { commands_.cmdDrawKinship.Caption = app_.cboDrawKinship.Get(); };
     commands_.cmdCopyTitle2kinship.Operation = [this] { cmdCopyTitle2kinship_Click(); };
     commands_.cmdSelectDirKinship.Operation = [this] {
-        fileCombos_.SelectFile(app_.cboKinship, true,
-                               {"Choisissez le fichier des Liens de Parenté à écrire"_t, "HTML",
-                                modCommon::KinshipExtension(app_)});
+        FileRole role{"Choisissez le fichier des Liens de Parenté à écrire"_t, "HTML",
+                      modCommon::KinshipExtension(app_)};
+        for (const auto& format : modDrawingFiles::DrawingFormats()) {
+            role.others.emplace_back(format.name, format.extension);
+        }
+        fileCombos_.SelectFile(app_.cboKinship, true, role);
     };
     commands_.picTreeH.Operation = [this] { app_.txtKinshipLandscape.SetChecked(true); };
     commands_.picTreeV.Operation = [this] { app_.txtKinshipLandscape.SetChecked(false); };
@@ -71,48 +90,68 @@ void PathDrawing::DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll) {
     }
     const ScopedFlag wait(app_.bWaitCursor);
     app_.trail.Guard(
-        "DrawKinshipAll",
-        [&] {
-            const modKinshipOutput::DrawingSource source{app_, app_, app_};
-            modKinshipOutput::KinshipPage page(source, search_.sKinshipTitle, app_, app_.ports.files,
-                                               app_.ports.clock);
-            modPrint::KinshipPrint print(source, search_.sKinshipTitle, app_.ports.preview);
-            modKinshipOutput::KinshipDocument& document =
-                bHtml ? static_cast<modKinshipOutput::KinshipDocument&>(page) : print;
-            DrawPaths(bSpouses, document, {bHtml, bAll});
-        },
+        "DrawKinshipAll", [&] { DrawPaths(bSpouses, bHtml, bAll); },
         [&] {
             return Concat({bSpouses ? "True" : "False", "/", bHtml ? "True" : "False", "/",
                            bAll ? "True" : "False", "/", app_.cboKinship.Get()});
         });
 }
 
-void PathDrawing::DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document,
-                            const PathChoice& choice) {
-    constexpr int kFirst = 1, kFurther = 2, kLast = 9;
+void PathDrawing::DrawPaths(bool bSpouses, bool bHtml, bool bAll) {
     const ColumnId previousSortKey = app_.lvwKinship.SortKey();
     app_.lvwKinship.SortBy(Kinship::SeqNr, 0);
-    const std::vector<std::int32_t> rows = RowsToDraw(choice.bAll);
-    const auto mayDraw = [&] {
-        const std::uint64_t bytes = EstimateDrawings(app_, search_.sKinshipTitle, rows, bSpouses);
-        return MayWriteLarge(app_, app_.ports.files, app_.cboKinship.Get(), bytes);
-    };
+    const std::vector<std::int32_t> rows = RowsToDraw(bAll);
+    const modKinshipOutput::DrawingSource source{app_, app_, app_};
+    std::unique_ptr<modKinshipOutput::KinshipDocument> document;
     if (rows.empty()) {
         MessageBox box;
         box.title = "Graphicage des parentés"_t;
         box.text = Concat({"Aucune parenté à écrire."_t, kLineEnd, "Fichier non créé."_t});
         app_.ports.dialogs.Show(box);
-    } else if (!choice.bHtml || mayDraw()) {
-        int iStage = kFirst;
-        for (const std::int32_t row : rows) {
-            if (document.DisplayKinship(iStage,
-                                        modKinshipOutput::MakeKinshipTable(app_, app_.trail, row, bSpouses)))
-                return;
-            iStage = kFurther;
-        }
-        if (document.DisplayKinship(kLast, {})) return;
+    } else if (!bHtml) {
+        document =
+            std::make_unique<modPrint::KinshipPrint>(source, search_.sKinshipTitle, app_.ports.preview);
+    } else if (MayWriteDrawings(rows, bSpouses)) {
+        document = NewDrawingFile(source, app_.ports.files);
     }
+    if (document && !DrawRows(app_.trail, rows, bSpouses, *document)) return;
     app_.lvwKinship.SetSortKey(previousSortKey);
+}
+
+/// Whether the file of the drawings is small enough or allowed to be large.
+bool PathDrawing::MayWriteDrawings(const std::vector<std::int32_t>& rows, bool bSpouses) {
+    if (!app_.ports.files.RoomFor(app_.cboKinship.Get())) return true;
+    const auto write = [&](const modKinshipOutput::DrawingSource& source, Files& files,
+                           const std::vector<std::int32_t>& some) {
+        DrawRows(source.feedback.trail, some, bSpouses, *NewDrawingFile(source, files));
+    };
+    return MayWriteLarge(app_, app_.ports.files, app_.cboKinship.Get(), EstimateDrawings(app_, rows, write));
+}
+
+/// False when it was told that a drawing could not be written.
+bool PathDrawing::DrawRows(Trail& trail, const std::vector<std::int32_t>& rows, bool bSpouses,
+                           modKinshipOutput::KinshipDocument& document) {
+    constexpr int kFirst = 1, kFurther = 2, kLast = 9;
+    int iStage = kFirst;
+    for (const std::int32_t row : rows) {
+        const auto grid = modKinshipOutput::MakeKinshipTable(app_, trail, row, bSpouses);
+        if (document.DisplayKinship(iStage, grid, PathTitle(app_.lvwKinship.Item(row)))) return false;
+        iStage = kFurther;
+    }
+    return !document.DisplayKinship(kLast, {});
+}
+
+/// What writes the file of `cboKinship`, by its extension.
+std::unique_ptr<modKinshipOutput::KinshipDocument> PathDrawing::NewDrawingFile(
+    const modKinshipOutput::DrawingSource& source, Files& files) const {
+    const Text name = app_.cboKinship.Get();
+    const Text& title = search_.sKinshipTitle;
+    if (const modDrawingFiles::DrawingFormat* format = modDrawingFiles::FormatOf(name)) {
+        return std::make_unique<modPrint::KinshipFile>(
+            source, title,
+            format->make(files, name, preview_.Layout(), {{}, app_.MainCaption(), app_.ports.clock.Now()}));
+    }
+    return std::make_unique<modKinshipOutput::KinshipPage>(source, title, app_, files, app_.ports.clock);
 }
 
 /// The rows of `lvwKinship` at which drawings begin: the first of each path, or those that are marked.
@@ -120,6 +159,7 @@ std::vector<std::int32_t> PathDrawing::RowsToDraw(bool bAll) {
     constexpr TextView kFirstLine = "000001";
     std::vector<std::int32_t> rows;
     for (std::int32_t i = 1; i <= app_.lvwKinship.Count(); ++i) {
+        if (lMostDrawings > 0 && std::ssize(rows) == lMostDrawings) break;
         const Row row = app_.lvwKinship.Item(i);
         const bool isDrawn =
             bAll ? row.Text().ends_with(kFirstLine) : !row.Cell(Kinship::IDIndi).empty() && row.Marked();

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "drawing/kinship_document.h"
+#include "drawing_files/drawing_file.h"
 #include "kinship/search.h"
 #include "shell/file_combos.h"
+#include "shell/frm_preview.h"
 
 namespace swiftroll {
 
@@ -10,7 +12,10 @@ namespace swiftroll {
 class PathDrawing {
   public:
     PathDrawing(Application& app, DrawingCommands& commands, const modKinship::Search& search,
-                FileCombos& fileCombos);
+                FileCombos& fileCombos, const frmPreview& preview);
+
+    /// So many drawings are made at most, those of the first paths; 0 for all.
+    std::int64_t lMostDrawings = 0;
 
     /// There are no paths to draw any more; what the message bar says of them goes.
     void DisableKinshipCommands();
@@ -23,12 +28,13 @@ class PathDrawing {
 
   private:
     void DrawKinshipAll(bool bSpouses, bool bHtml, bool bAll);
-    /// Which paths are drawn, and whether into a file.
-    struct PathChoice {
-        bool bHtml, bAll;
-    };
-    void DrawPaths(bool bSpouses, modKinshipOutput::KinshipDocument& document, const PathChoice& choice);
+    void DrawPaths(bool bSpouses, bool bHtml, bool bAll);
     std::vector<std::int32_t> RowsToDraw(bool bAll);
+    bool MayWriteDrawings(const std::vector<std::int32_t>& rows, bool bSpouses);
+    bool DrawRows(Trail& trail, const std::vector<std::int32_t>& rows, bool bSpouses,
+                  modKinshipOutput::KinshipDocument& document);
+    std::unique_ptr<modKinshipOutput::KinshipDocument> NewDrawingFile(
+        const modKinshipOutput::DrawingSource& source, Files& files) const;
     bool CheckWidths();
     void cmdCopyTitle2kinship_Click();
     void cmdFont_Click();
@@ -37,6 +43,7 @@ class PathDrawing {
     DrawingCommands& commands_;
     const modKinship::Search& search_;
     FileCombos& fileCombos_;
+    const frmPreview& preview_;
 };
 
 }  // namespace swiftroll

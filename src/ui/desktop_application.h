@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "drawing_recorder.h"
+#include "drawing/recorded_drawing.h"
 #include "main_window.h"
 #include "platform/machine.h"
 #include "platform/mail.h"
@@ -39,7 +39,7 @@ class DesktopApplication {
     platform::ThisMachine machine_;
     QtDesktop desktop_{pump_};
     platform::SettingsFile settings_;
-    DrawingRecorder preview_;
+    modPreview::RecordedDrawing preview_;
     QtNetwork network_;
     platform::DesktopMail mail_{pump_};
     frmMain main_;

@@ -3,7 +3,7 @@
 #include <QScrollArea>
 #include <functional>
 
-#include "preview_sheets.h"
+#include "drawing/drawing_sheets.h"
 
 namespace swiftroll::ui {
 
@@ -16,7 +16,7 @@ class PreviewCanvas : public QScrollArea {
     std::function<void(int direction)> OnZoom;
     /// Shows the sheet `index` of `sheets` from 0, at `zoom` percent, 0 for the whole sheet and -1 for its
     /// width.
-    void Show(const PreviewSheets& sheets, int index, int zoom);
+    void Show(const modPreview::DrawingSheets& sheets, int index, int zoom);
 
   protected:
     void wheelEvent(QWheelEvent* event) override;

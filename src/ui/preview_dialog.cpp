@@ -4,27 +4,36 @@
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPageSetupDialog>
-#include <QPdfWriter>
 #include <QPrintDialog>
-#include <QSvgGenerator>
 #include <QVBoxLayout>
 
 #include "drawing/kinship_print.h"
+#include "drawing_files/pdf_pages.h"
+#include "drawing_files/svg_file.h"
 #include "help_topics.h"
 #include "layout.h"
 #include "preview_canvas.h"
+#include "qt_surface.h"
 #include "qt_text.h"
 
 namespace swiftroll::ui {
 namespace {
 
-constexpr qreal kTwipsPerInch = 1440;
+constexpr qreal kTwipsPerInch = 1440, kTwipsPerPoint = 20;
 constexpr int kZoomLength = 12;            // "Page entière"
 constexpr QMarginsF kMargins(8, 8, 8, 8);  // millimetres
 
+modPreview::Paper PaperOf(const QPageLayout& layout) {
+    const QRectF full = layout.fullRect(QPageLayout::Point), inner = layout.paintRect(QPageLayout::Point);
+    return {full.width() * kTwipsPerPoint,
+            full.height() * kTwipsPerPoint,
+            {inner.left() * kTwipsPerPoint, inner.top() * kTwipsPerPoint, inner.right() * kTwipsPerPoint,
+             inner.bottom() * kTwipsPerPoint}};
+}
+
 }  // namespace
 
-PreviewDialog::PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWidget* owner)
+PreviewDialog::PreviewDialog(Presenter& presenter, modPreview::RecordedDrawing& drawing, QWidget* owner)
     : SecondaryDialog(presenter, presenter.Main().preview, owner),
       presenter_(presenter),
       form_(presenter.Main().preview),
@@ -49,7 +58,8 @@ PreviewDialog::PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWi
     presenter_.Refresh();  // the captions count
     setMinimumSize(QSize(900, 640).expandedTo(minimumSizeHint()));
     resize(minimumSize());
-    sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, false);
+    sheets_ =
+        std::make_unique<modPreview::DrawingSheets>(drawing_, PaperOf(layout_), modPreview::SheetLayout{});
     presenter_.OnRefresh([this] { Refresh(); });
 }
 
@@ -81,6 +91,7 @@ QWidget* PreviewDialog::BuildTools() {
         NewToolButton(binder_, form_.cmdNextPage, QStringLiteral("Page suivante"), QStringLiteral("next")));
     row->addSpacing(2 * kSpacing);
     row->addWidget(NewCheckBox(binder_, form_.chkFitToPage));
+    row->addWidget(NewCheckBox(binder_, form_.chkPathPerPage));
     row->addStretch(1);
     for (Command* command : {&form_.cmdSetup, &form_.cmdExport, &form_.cmdPrint, &form_.cmdClose}) {
         row->addWidget(NewButton(binder_, *command));
@@ -90,12 +101,11 @@ QWidget* PreviewDialog::BuildTools() {
 
 void PreviewDialog::BindCommands() {
     drawing_.OnOpen = [this] {
-        const bool landscape = drawing_.Sheet().width() > drawing_.Sheet().height();
-        layout_.setOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        layout_.setOrientation(drawing_.IsLandscape() ? QPageLayout::Landscape : QPageLayout::Portrait);
         form_.Open();
     };
     drawing_.OnClose = [this] { LayOut(); };
-    form_.chkFitToPage.OnClick = [this] { LayOut(); };
+    form_.chkFitToPage.OnClick = form_.chkPathPerPage.OnClick = [this] { LayOut(); };
     form_.cmdPrint.Operation = [this] { Print(); };
     form_.cmdSetup.Operation = [this] { SetUp(); };
     form_.cmdExport.Operation = [this] { Export(); };
@@ -103,7 +113,7 @@ void PreviewDialog::BindCommands() {
 }
 
 void PreviewDialog::LayOut() {
-    sheets_ = std::make_unique<PreviewSheets>(drawing_, layout_, form_.chkFitToPage.Checked());
+    sheets_ = std::make_unique<modPreview::DrawingSheets>(drawing_, PaperOf(layout_), form_.Layout());
     form_.SetPageCount(sheets_->Count());
     // The canvas may be painted before the next refresh, and must not hold the former sheets.
     Refresh();
@@ -123,11 +133,13 @@ bool PreviewDialog::PrintOn(QPagedPaintDevice& device, int first, int last) {
     QPainter painter;
     if (!painter.begin(&device)) return false;
     const qreal scale = device.logicalDpiX() / kTwipsPerInch;
+    QtFontShapes shapes;
+    QtSurface surface(painter, shapes);
     for (int sheet = first; sheet <= last; ++sheet) {
         if (sheet != first && !device.newPage()) return false;
         painter.save();
         painter.scale(scale, scale);
-        sheets_->Paint(painter, sheet - 1);
+        sheets_->Draw(surface, sheet - 1);
         painter.restore();
     }
     return painter.end();
@@ -137,7 +149,7 @@ void PreviewDialog::Print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(layout_);
     printer.setFullPage(true);
-    printer.setDocName(drawing_.Title());
+    printer.setDocName(ToQt(drawing_.Title()));
     QPrintDialog dialog(&printer, this);
     dialog.setMinMax(1, sheets_->Count());
     if (dialog.exec() != QDialog::Accepted) return;
@@ -164,7 +176,7 @@ void PreviewDialog::SetUp() {
 void PreviewDialog::Export() {
     const QString pdf = QStringLiteral("PDF (*.pdf)"), svg = QStringLiteral("SVG (*.svg)");
     QString filter = pdf;
-    QString name = drawing_.Title();
+    QString name = ToQt(drawing_.Title());
     for (const char c : {'"', '/', '\\', ':', '*', '?', '|', '<', '>'})
         name.replace(QLatin1Char(c), QLatin1Char(' '));
     const QString folder = EditableToQt(presenter_.Main().sUserMyDocuments);
@@ -173,9 +185,10 @@ void PreviewDialog::Export() {
                                                 pdf + QStringLiteral(";;") + svg, &filter);
     if (file.isEmpty()) return;
     const bool isSvg = file.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
-    if (isSvg ? WriteSvg(file) : WritePdf(file)) {
+    try {
+        isSvg ? WriteSvg(FromQt(file)) : WritePdf(FromQt(file));
         presenter_.Main().pnlMessage.Set(FromQt(file + QStringLiteral(" : Terminé")));
-    } else {
+    } catch (const std::exception&) {
         presenter_.Main().Box(
             " - Export",
             FromQt(QStringLiteral("Le fichier n'a pas pu être écrit : vérifiez le dossier, vos "
@@ -185,36 +198,20 @@ void PreviewDialog::Export() {
     }
 }
 
-bool PreviewDialog::WritePdf(const QString& file) {
-    QFile target(file);
-    if (!target.open(QIODevice::WriteOnly)) return false;
-    {
-        QPdfWriter writer(&target);
-        QPageLayout layout = layout_;
-        layout.setMode(QPageLayout::FullPageMode);
-        writer.setPageLayout(layout);
-        writer.setTitle(drawing_.Title());
-        writer.setCreator(ToQt(presenter_.Main().MainCaption()));
-        if (!PrintOn(writer, 1, sheets_->Count())) return false;
-    }
-    return target.flush() && target.error() == QFileDevice::NoError;
+void PreviewDialog::WritePdf(TextView file) {
+    frmMain& main = presenter_.Main();
+    const auto target = main.ports.files.Open(file, Files::Mode::Write);
+    modDrawingFiles::PdfPages pages(*target, {drawing_.Title(), main.MainCaption(), main.ports.clock.Now()});
+    pages.Add(*sheets_);
+    pages.Finish();
+    target->Close();
 }
 
-bool PreviewDialog::WriteSvg(const QString& file) {
-    QFile target(file);
-    if (!target.open(QIODevice::WriteOnly)) return false;
-    {
-        QSvgGenerator generator;
-        generator.setOutputDevice(&target);
-        generator.setTitle(drawing_.Title());
-        generator.setResolution(static_cast<int>(kTwipsPerInch));
-        const QSizeF extent = drawing_.Extent() + QSizeF(150, 150);
-        generator.setSize(extent.toSize());
-        generator.setViewBox(QRectF(QPointF(), extent));
-        QPainter painter(&generator);
-        drawing_.Paint(painter, QRectF(QPointF(), extent));
-    }
-    return target.flush() && target.error() == QFileDevice::NoError;
+void PreviewDialog::WriteSvg(TextView file) {
+    modDrawingFiles::SvgFile target(presenter_.Main().ports.files, file);
+    target.Open(drawing_.Title(), 0, 0);
+    drawing_.Draw(target, {0, 0, drawing_.Width() + 1, drawing_.Height() + 1});
+    target.Close();
 }
 
 }  // namespace swiftroll::ui

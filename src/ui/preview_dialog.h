@@ -4,8 +4,7 @@
 #include <memory>
 
 #include "binder.h"
-#include "drawing_recorder.h"
-#include "preview_sheets.h"
+#include "drawing/drawing_sheets.h"
 #include "secondary_dialog.h"
 
 namespace swiftroll::ui {
@@ -16,14 +15,14 @@ class QtDialogs;
 /// The drawings as they will be printed.
 class PreviewDialog : public SecondaryDialog {
   public:
-    PreviewDialog(Presenter& presenter, DrawingRecorder& drawing, QWidget* owner);
+    PreviewDialog(Presenter& presenter, modPreview::RecordedDrawing& drawing, QWidget* owner);
 
-    /// Writes all sheets into a PDF file, or the whole drawing into an SVG file; false when it fails.
-    bool WritePdf(const QString& file);
-    bool WriteSvg(const QString& file);
+    /// Writes all sheets into a PDF file, or the whole drawing into an SVG file. @throws Failure
+    void WritePdf(TextView file);
+    void WriteSvg(TextView file);
     /// Prints the pages that were asked of the printer; a failure is shown to the user.
     void Print(QPrinter& printer);
-    const PreviewSheets& Sheets() const { return *sheets_; }
+    const modPreview::DrawingSheets& Sheets() const { return *sheets_; }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -40,12 +39,11 @@ class PreviewDialog : public SecondaryDialog {
 
     Presenter& presenter_;
     frmPreview& form_;
-    DrawingRecorder& drawing_;
+    modPreview::RecordedDrawing& drawing_;
     Binder binder_;
     QPageLayout layout_;
-    std::unique_ptr<PreviewSheets> sheets_;
+    std::unique_ptr<modPreview::DrawingSheets> sheets_;
     PreviewCanvas* canvas_ = nullptr;
-    bool isFitted_ = false;
 };
 
 }  // namespace swiftroll::ui

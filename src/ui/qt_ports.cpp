@@ -96,6 +96,28 @@ QStringList FiltersOf(TextView filter) {
     return filters;
 }
 
+/// The kind of file that is chosen gives the name its extension, and at first the name tells the kind.
+void FollowFilter(QFileDialog& dialog, const QString& suffix) {
+    const auto suffixOf = [](const QString& filter) {
+        const QString pattern = filter.mid(filter.lastIndexOf(QLatin1Char('(')) + 1).chopped(1);
+        return pattern.startsWith(QStringLiteral("*.")) ? pattern.mid(2) : QString();
+    };
+    for (const QString& filter : dialog.nameFilters()) {
+        if (!suffix.isEmpty() && suffixOf(filter) == suffix.toLower()) dialog.selectNameFilter(filter);
+    }
+    if (dialog.acceptMode() != QFileDialog::AcceptSave) return;
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog, suffixOf](const QString& filter) {
+                         const QString wanted = suffixOf(filter);
+                         if (wanted.isEmpty()) return;
+                         dialog.setDefaultSuffix(wanted);
+                         const QFileInfo chosen(dialog.selectedFiles().value(0));
+                         if (!chosen.isDir() && !chosen.suffix().isEmpty()) {
+                             dialog.selectFile(chosen.completeBaseName() + QLatin1Char('.') + wanted);
+                         }
+                     });
+}
+
 }  // namespace
 
 void QtDialogs::Attach(Presenter& presenter, QWidget& owner) {
@@ -162,6 +184,7 @@ bool QtDialogs::AskFile(const FileRequest& request, Text& chosen) {
     const QFileInfo file(name);
     if (!file.path().isEmpty()) dialog.setDirectory(file.path());
     if (!file.fileName().contains(QLatin1Char('*'))) dialog.selectFile(file.fileName());
+    FollowFilter(dialog, file.suffix());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
     chosen = FromQt(dialog.selectedFiles().first());
     return true;

@@ -111,11 +111,49 @@ TEST_F(Parente, DrawsThePathsFound) {
     EXPECT_TRUE(screen.out.starts_with("<HTML>\r\n")) << screen.err;
 }
 
+TEST_F(Parente, DrawsAsPdfAndSvgByTheExtension) {
+    environment = {"SOURCE_DATE_EPOCH=1700000000"};
+    const Strings pair{"parente", "f.ged", "@I3@", "@I2@", "-o", "k.tsv", "-f"};
+    EXPECT_EQ(Cli(pair + Strings{"--dessin", "a.PDF", "--set", "txtFont=Arial|8|0|0|0|0|0"}).code, 0);
+    EXPECT_EQ(Cli(pair + Strings{"--dessin", "b.pdf"}).code, 0);
+    const std::string pdf = Bytes("b.pdf");
+    EXPECT_TRUE(pdf.starts_with("%PDF-") && pdf.ends_with("%%EOF\n"));
+    EXPECT_NE(pdf.find("20231114"), std::string::npos) << "the time of the epoch";
+    EXPECT_EQ(Bytes("a.PDF"), pdf);
+    EXPECT_EQ(Cli(pair + Strings{"--dessin", "c.svg", "--set", "txtFont=D<&\"|8|0|0|0|0|0"}).code, 0);
+    const std::string svg = Bytes("c.svg");
+    EXPECT_NE(svg.find("font-family=\"'D&lt;&amp;&quot;', sans-serif\""), std::string::npos) << svg;
+    EXPECT_NE(svg.find(">Luc, DE LA COUR</text>"), std::string::npos);
+    EXPECT_NE(svg.find("<title>Chemin 1 : 2 liaisons, 0 conjoint</title>"), std::string::npos);
+    EXPECT_EQ(svg.find('\t'), std::string::npos) << "a tab of a name";
+    EXPECT_EQ(CountOf("<rect ", svg), 4u) << "three boxes and the ground";
+    Cli(pair + Strings{"--dessin", "no/where.svg"})
+        .Ends(1, "Erreur d'écriture dans le fichier no/where.svg.");
+    Cli(pair + Strings{"--dessin", "no/where.pdf"})
+        .Ends(1, "Erreur d'écriture dans le fichier no/where.pdf.");
+    // Two ways from one to the other: by either parent of both.
+    Put("two.ged",
+        "0 @I1@ INDI\n1 SEX M\n0 @I2@ INDI\n1 SEX F\n0 @I3@ INDI\n1 SEX M\n0 @I4@ INDI\n1 SEX F\n"
+        "0 @F1@ FAM\n1 HUSB @I1@\n1 CHIL @I3@\n1 CHIL @I4@\n0 @F2@ FAM\n1 WIFE @I2@\n1 CHIL @I3@\n1 CHIL "
+        "@I4@\n"
+        "0 TRLR\n");
+    const Strings two{"parente", "two.ged", "@I3@", "@I4@", "-o", "k.tsv", "-f", "--dessin"};
+    EXPECT_EQ(Cli(two + Strings{"p.svg"}).code, 0);
+    EXPECT_EQ(CountOf("<title>Chemin", Bytes("p.svg")), 2u);
+    EXPECT_EQ(Cli(two + Strings{"p.svg", "--dessin-max", "1"}).code, 0);
+    EXPECT_EQ(CountOf("<title>Chemin", Bytes("p.svg")), 1u);
+    EXPECT_EQ(Cli(two + Strings{"p.pdf"}).code, 0);
+    EXPECT_EQ(CountOf("/Type /Page ", Bytes("p.pdf")), 1u);
+    EXPECT_EQ(Cli(two + Strings{"p.pdf", "--chemin-par-page"}).code, 0);
+    EXPECT_EQ(CountOf("/Type /Page ", Bytes("p.pdf")), 2u);
+}
+
 TEST_F(Parente, UsageErrorsNameTheirCause) {
     for (const std::string words :
          {"|identifiants", "@I2@ --max 0|--max", "@I2@ --max 1x|--max", "@I2@ --delai nan|--delai",
           "@I2@ --delai -1|--delai", "@I2@ --dessin -|-o", "@I2@ --dessin x.html --mode deux|deux",
           "@I2@ --dessin x.html --lignes 000001-000001|--lignes", "@I2@ --mode une|--dessin",
+          "@I2@ --dessin-max 3|--dessin-max", "@I2@ --dessin x.html --chemin-par-page|PDF",
           "@I2@ -t lvwFoo|lvwFoo"}) {
         const Strings sides = Split(words, '|');
         const Outcome run = Cli(Strings{"parente", "f.ged", "@I1@"} + Split(sides[0], ' '));

@@ -147,7 +147,8 @@ TEST(KinshipPrint, TextsAreThoseOfThePageWithoutItsTags) {
         texts.push_back(text.text);
         EXPECT_FALSE(text.font.strikethrough);
     }
-    EXPECT_EQ(texts, Rows({"A, DE A", "?", "B, DE B"}));
+    EXPECT_EQ(texts, Rows({"A, DE A", "@F1@", "?", "B, DE B"})) << "the marriage between the spouses";
+    EXPECT_EQ(t.preview.texts.at(1).side, TextSide::Right);
     EXPECT_TRUE(t.preview.texts.at(0).font.bold);
 }
 

@@ -5,7 +5,6 @@
 #include <QToolButton>
 
 #include "preview_dialog.h"
-#include "sheet_starts.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -61,15 +60,15 @@ TEST_F(Preview, ShowsPrintsAndExportsTheDrawing) {
     Print();
     ASSERT_TRUE(Dialog().isVisible());
     EXPECT_EQ(Dialog().Sheets().Count(), 1);
-    EXPECT_GT(Dialog().Sheets().Sheet().width(), Dialog().Sheets().Sheet().height()) << "landscape";
+    EXPECT_GT(Dialog().Sheets().Sheet().width, Dialog().Sheets().Sheet().height) << "landscape";
     const QString pdf = Path(QStringLiteral("a.pdf")), svg = Path(QStringLiteral("a.svg"));
-    EXPECT_TRUE(Dialog().WritePdf(pdf));
-    EXPECT_TRUE(Dialog().WriteSvg(svg));
+    Dialog().WritePdf(ui::FromQt(pdf));
+    Dialog().WriteSvg(ui::FromQt(svg));
     QFile drawing(svg);
     ASSERT_TRUE(drawing.open(QIODevice::ReadOnly));
     const QByteArray content = drawing.readAll();
     EXPECT_TRUE(content.contains("DUPONT")) << content.size();
-    EXPECT_FALSE(Dialog().WritePdf(Path(QStringLiteral("no/such/folder/a.pdf"))));
+    EXPECT_THROW(Dialog().WritePdf(ui::FromQt(Path(QStringLiteral("no/such/folder/a.pdf")))), Failure);
 }
 
 TEST_F(Preview, ALargeDrawingTakesSheetsOrFitsOne) {
@@ -117,76 +116,6 @@ TEST_F(Preview, KeepsItsZoomFromOneRunToTheNext) {
         EXPECT_EQ(Main().preview.Zoom(), zoom);
         EXPECT_EQ(Main().preview.cboZoom.Items(), zooms);
     }
-}
-
-/// A drawing on sheets of 6000 twips with margins of 150, as pictures of a pixel for 15 twips.
-struct Sheets {
-    void Box(int left, int top, int width, int height) {
-        drawing.FillRectangle(left, top, width, height, 0xFFFFFF);
-        drawing.DrawLine(left, top, left + width, top, 0);
-        drawing.DrawLine(left, top, left, top + height, 0);
-        drawing.DrawLine(left, top + height, left + width, top + height, 0);
-        drawing.DrawLine(left + width, top, left + width, top + height, 0);
-    }
-    QImage Picture(int sheet) const {
-        const QMarginsF margins(7.5, 7.5, 7.5, 7.5);
-        const QPageLayout layout(QPageSize(QSizeF(300, 300), QPageSize::Point), QPageLayout::Portrait,
-                                 margins);
-        QImage picture(400, 400, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        QPainter painter(&picture);
-        painter.scale(1 / 15.0, 1 / 15.0);
-        ui::PreviewSheets(drawing, layout, false).Paint(painter, sheet);
-        return picture;
-    }
-    /// What of a sheet is not white, from the corner of its printable area, in pixels.
-    QRect Drawn(int sheet) const {
-        const QImage picture = Picture(sheet);
-        QRect drawn;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                if (picture.pixel(x, y) != qRgb(255, 255, 255)) drawn |= QRect(x - 10, y - 10, 1, 1);
-            }
-        }
-        return drawn;
-    }
-    ui::DrawingRecorder drawing;
-};
-
-TEST(PreviewSheets, ShowNothingOfTheBoxesOfTheirNeighbours) {
-    for (const int gap : {0, 900}) {
-        Sheets t;
-        t.Box(0, 0, 3900, 3900);
-        t.Box(3900 + gap, 0, 3900, 3900);
-        t.Box(0, 3900 + gap, 3900, 3900);
-        for (int sheet = 0; sheet < 3; ++sheet) {
-            const QRect drawn = t.Drawn(sheet);
-            EXPECT_TRUE(drawn.width() >= 260 && drawn.width() <= 262)
-                << gap << " " << sheet << " " << drawn.width();
-            EXPECT_TRUE(drawn.height() >= 260 && drawn.height() <= 262) << gap << " " << sheet;
-        }
-    }
-}
-
-TEST(PreviewSheets, TextsKeepAwayFromTheBordersOfTheirBox) {
-    Sheets t;
-    t.drawing.PrintTexts(0, 0, 3000, 3000, {{"\xC9\xC9\xC9", {.name = "Arial", .size = "8"}}});
-    const QRect room(3, 3, 194, 194);
-    EXPECT_TRUE(room.contains(t.Drawn(0))) << t.Drawn(0).top();
-}
-
-TEST(SheetStarts, LieBetweenDrawingsAndBoxesWhereTheyCan) {
-    using Starts = std::vector<qreal>;
-    EXPECT_EQ(ui::SheetStarts({{0, 900}}, {900}, 900, 1000), Starts({0})) << "all on one";
-    EXPECT_EQ(ui::SheetStarts({}, {400, 900, 1300, 3000}, 3000, 1000), Starts({0, 900, 1300, 2300}))
-        << "a new drawing, then a long one in pieces";
-    EXPECT_EQ(ui::SheetStarts({{0, 300}, {300, 600}, {950, 1250}, {1250, 1550}}, {}, 1550, 1000),
-              Starts({0, 950}))
-        << "before the box that would be cut";
-    EXPECT_EQ(ui::SheetStarts({{800, 1100}, {900, 1200}, {700, 950}}, {}, 1200, 1000), Starts({0, 700}))
-        << "before the one before, to cut none";
-    EXPECT_EQ(ui::SheetStarts({{0, 5000}}, {}, 2500, 1000), Starts({0, 1000, 2000}))
-        << "through what is larger";
 }
 
 }  // namespace
