@@ -43,16 +43,21 @@ void CellPainter::Draw(DrawingSurface& surface, TextView sClass, TextView sText,
     if (isMarriage) {
         DrawEdges(surface, frame, {bLandscape, !bLandscape, bLandscape, !bLandscape});
     } else {
-        const ColourButton& colour = sClass == "IndivMBox"   ? options_.cmdColorMale
-                                     : sClass == "IndivFBox" ? options_.cmdColorFemale
-                                                             : options_.cmdColorUndefined;
-        surface.FillRectangle(frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top,
-                              colour.Colour());
+        DrawGround(surface, sClass, place);
         DrawEdges(surface, frame, {true, true, true, true});
     }
     const std::vector<PrintedText> texts = TextsOf(sText);
     if (texts.empty()) return;
     surface.PrintTexts(frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top, texts);
+}
+
+void CellPainter::DrawGround(DrawingSurface& surface, TextView sClass,
+                             const modKinshipOutput::CellRectangle& place) const {
+    const ColourButton& colour = sClass == "IndivMBox"   ? options_.cmdColorMale
+                                 : sClass == "IndivFBox" ? options_.cmdColorFemale
+                                                         : options_.cmdColorUndefined;
+    surface.FillRectangle(place.left * kTwipsPerPixel, place.top * kTwipsPerPixel,
+                          place.width * kTwipsPerPixel, place.height * kTwipsPerPixel, colour.Colour());
 }
 
 std::vector<PrintedText> CellPainter::TextsOf(TextView sText) const {

@@ -18,6 +18,9 @@ class CellPainter {
     /// Draws a cell by its class; `sText` is its text as the page has it, `place` in pixels.
     void Draw(DrawingSurface& surface, TextView sClass, TextView sText,
               const modKinshipOutput::CellRectangle& place, bool bLandscape) const;
+    /// Draws the ground of a box alone.
+    void DrawGround(DrawingSurface& surface, TextView sClass,
+                    const modKinshipOutput::CellRectangle& place) const;
 
   private:
     std::vector<PrintedText> TextsOf(TextView sText) const;

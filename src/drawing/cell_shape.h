@@ -13,6 +13,8 @@ struct CellSizes {
     std::int64_t lBoxY, lBoxX, lGapY, lGapX;
     /// Ancestors stand on top, and not on the left: the y axis of the grid runs down the page.
     bool bLandscape;
+
+    friend bool operator==(const CellSizes&, const CellSizes&) = default;
 };
 
 /// A rectangle in the units of the drawing.

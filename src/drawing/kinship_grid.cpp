@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "kinship/kinship_codes.h"
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/numbers.h"
@@ -13,8 +12,8 @@ namespace {
 /// Walks over the codes of a path and writes cells relative to where it stands.
 class GridWalk {
   public:
-    GridWalk(TableSet& tables, Trail& trail, KinshipGrid& grid)
-        : tables_(tables), trail_(trail), grid_(grid) {}
+    GridWalk(TableSet& tables, Trail& trail, const modKinship::PathRows& rowAt, KinshipGrid& grid)
+        : tables_(tables), trail_(trail), rowAt_(rowAt), grid_(grid) {}
 
     void Run(const modKinship::KinshipCodes& codes, bool bSpouses) {
         Put(0, 0, Person(IdAt(codes.lFirst)));
@@ -87,8 +86,8 @@ class GridWalk {
         }
     }
 
-    Text IdAt(std::int32_t row) const { return Text(tables_.lvwKinship.Item(row).Cell(Kinship::IDIndi)); }
-    Text FamilyOfRow() const { return Text(tables_.lvwKinship.Item(row_).Cell(Kinship::IDFamily)); }
+    Text IdAt(std::int32_t row) const { return Text(rowAt_(row).Cell(Kinship::IDIndi)); }
+    Text FamilyOfRow() const { return Text(rowAt_(row_).Cell(Kinship::IDFamily)); }
     static GridCell Person(Text id) { return {.kind = CellKind::Person, .id = std::move(id)}; }
     GridCell Next() const { return Person(IdAt(row_ + 1)); }
     GridCell Marriage(std::int32_t span) const {
@@ -118,6 +117,7 @@ class GridWalk {
 
     TableSet& tables_;
     Trail& trail_;
+    const modKinship::PathRows& rowAt_;
     KinshipGrid& grid_;
     std::int32_t row_ = 0;
     std::int32_t lX_ = 0, lY_ = 0;
@@ -144,12 +144,18 @@ void SortCells(std::vector<GridCell>& cells) {
 }  // namespace
 
 KinshipGrid MakeKinshipTable(TableSet& tables, Trail& trail, std::int32_t lRow, bool bSpouses) {
+    return MakeKinshipTable(
+        tables, trail, [&](std::int32_t row) { return tables.lvwKinship.Item(row); }, lRow, bSpouses);
+}
+
+KinshipGrid MakeKinshipTable(TableSet& tables, Trail& trail, const modKinship::PathRows& rowAt,
+                             std::int32_t lRow, bool bSpouses) {
     KinshipGrid grid;
     trail.Guard(
         "MakeKinshipTable",
         [&] {
-            GridWalk(tables, trail, grid)
-                .Run(modKinship::MakeKinshipCodes(tables.lvwKinship, lRow, bSpouses), bSpouses);
+            GridWalk(tables, trail, rowAt, grid)
+                .Run(modKinship::MakeKinshipCodes(rowAt, lRow, bSpouses), bSpouses);
         },
         [&] {
             return Concat({Decimal(lRow), "/", bSpouses ? "True" : "False"});

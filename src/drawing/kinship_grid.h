@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "app/trail.h"
+#include "kinship/kinship_codes.h"
 
 namespace swiftroll::modKinshipOutput {
 
@@ -37,5 +37,8 @@ struct KinshipGrid {
 /// first person stands at (0, 0). `bSpouses` draws couples whole. After a failure, which is reported, what
 /// was made so far.
 KinshipGrid MakeKinshipTable(TableSet& tables, Trail& trail, std::int32_t lRow, bool bSpouses);
+/// The same where the rows of the path are found otherwise, in whatever order the table stands.
+KinshipGrid MakeKinshipTable(TableSet& tables, Trail& trail, const modKinship::PathRows& rowAt,
+                             std::int32_t lRow, bool bSpouses);
 
 }  // namespace swiftroll::modKinshipOutput

@@ -24,14 +24,12 @@ TextView KinshipCodes::Of(std::int32_t row) const {
     return asCode[static_cast<std::size_t>(row - lFirst)];
 }
 
-KinshipCodes MakeKinshipCodes(Table& lvwKinship, std::int32_t lRow, bool bSpouses) {
+KinshipCodes MakeKinshipCodes(const PathRows& rowAt, std::int32_t lRow, bool bSpouses) {
     KinshipCodes codes;
     codes.lFirst = lRow;
     std::vector<TextView>& asCode = codes.asCode;
-    const auto typeAt = [&](std::int32_t row) {
-        return RelationOf(lvwKinship.Item(row).Cell(Kinship::Type));
-    };
-    const auto familyAt = [&](std::int32_t row) { return lvwKinship.Item(row).Cell(Kinship::IDFamily); };
+    const auto typeAt = [&](std::int32_t row) { return RelationOf(rowAt(row).Cell(Kinship::Type)); };
+    const auto familyAt = [&](std::int32_t row) { return rowAt(row).Cell(Kinship::IDFamily); };
     std::int32_t i = codes.lFirst;
     for (Relation type = typeAt(i); type != Relation::Other; type = typeAt(i)) {
         const bool turns = type == Relation::Child && typeAt(i + 1) == Relation::Parent;
@@ -51,6 +49,10 @@ KinshipCodes MakeKinshipCodes(Table& lvwKinship, std::int32_t lRow, bool bSpouse
             WidthBesideSpouses(codes.Of(j - 1), codes.Of(j), codes.Of(j + 1));
     }
     return codes;
+}
+
+KinshipCodes MakeKinshipCodes(Table& lvwKinship, std::int32_t lRow, bool bSpouses) {
+    return MakeKinshipCodes([&](std::int32_t row) { return lvwKinship.Item(row); }, lRow, bSpouses);
 }
 
 Text GetSpouseID(TableSet& tables, Trail& trail, TextView sIndiID, TextView sFamID) {

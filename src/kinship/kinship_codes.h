@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "app/trail.h"
 
 namespace swiftroll::modKinship {
@@ -8,7 +10,7 @@ namespace swiftroll::modKinship {
 /// to a parent ("E", "e" where the row after it turns down to a child of the same couple), a couple of one to
 /// three cells ("C1" to "C3"), and nothing for the last row.
 struct KinshipCodes {
-    /// First and last row of the drawing, in the present order of `lvwKinship`, from 1.
+    /// First and last row of the drawing.
     std::int32_t lFirst = 0;
     std::int32_t lLast = 0;
     /// The code of a row; empty for every row that is not drawn.
@@ -17,10 +19,14 @@ struct KinshipCodes {
     std::vector<TextView> asCode;  // from lFirst on
 };
 
-/// The codes of a path of `lvwKinship`, which stands in the order of `SeqNr`, from the row `lRow` on, which
-/// need not be its first. Beside spouses, `bSpouses`, couples are wider. A row whose type shows no way
-/// forward, "ALIA" for one, ends the drawing.
+/// Rows of `lvwKinship` by numbers that follow each other along a path.
+using PathRows = std::function<Row(std::int32_t number)>;
+
+/// The codes of a path from the row `lRow` on, which need not be its first. Beside spouses, `bSpouses`,
+/// couples are wider. A row whose type shows no way forward, "ALIA" for one, ends the drawing.
 /// @throws Failure when there is no such row
+KinshipCodes MakeKinshipCodes(const PathRows& rowAt, std::int32_t lRow, bool bSpouses);
+/// The same of the table, which stands in the order of `SeqNr`.
 KinshipCodes MakeKinshipCodes(Table& lvwKinship, std::int32_t lRow, bool bSpouses);
 
 /// What stands for a spouse who is not known.

@@ -12,12 +12,14 @@
 
 #include "file_rows.h"
 #include "help_topics.h"
+#include "kinship_view.h"
 #include "layout.h"
 #include "menus.h"
 #include "message_bar_widget.h"
 #include "option_tabs.h"
 #include "qt_text.h"
 #include "themed_icon.h"
+#include "turning_splitter.h"
 
 namespace swiftroll::ui {
 namespace {
@@ -105,6 +107,18 @@ QWidget* MainWindow::TablePage(std::initializer_list<Table*> tables, int mainTab
     return page;
 }
 
+/// The page of the paths, with the drawing of the current one.
+QWidget* MainWindow::WithPicture(QWidget* page) {
+    constexpr int kPageStretch = 3, kPictureStretch = 2;
+    auto* splitter = new TurningSplitter;
+    splitter->addWidget(page);
+    splitter->addWidget(new KinshipView(presenter_));
+    splitter->setStretchFactor(0, kPageStretch);
+    splitter->setStretchFactor(1, kPictureStretch);
+    splitter->setCollapsible(0, false);
+    return splitter;
+}
+
 QWidget* MainWindow::BuildTabs() {
     tabs_ = new QTabWidget;
     tabs_->setObjectName(QStringLiteral("SSTab1"));
@@ -114,7 +128,7 @@ QWidget* MainWindow::BuildTabs() {
                               TablePage({&main_.lvwFamilyXref}),
                               TablePage({&main_.lvwXref, &main_.lvwXref1}),
                               TablePage({&main_.lvwFamily}),
-                              TablePage({&main_.lvwPaths, &main_.lvwKinship}, 1),
+                              WithPicture(TablePage({&main_.lvwPaths, &main_.lvwKinship}, 1)),
                               Scrolled(BuildFormatTab(main_, binder_, presenter_)),
                               Scrolled(BuildLinksTab(main_, binder_, presenter_)),
                               Scrolled(BuildOptionsTab(main_, binder_))};

@@ -36,6 +36,7 @@ class MainWindow : public QMainWindow {
     void BuildMenuBar();
     QWidget* BuildTabs();
     QWidget* BuildFavorites();
+    QWidget* WithPicture(QWidget* page);
     /// One table above the other; `mainTable` is the number of the one that the tab is for.
     QWidget* TablePage(std::initializer_list<Table*> tables, int mainTable = 0);
     void BuildStatusBar();
