@@ -3,6 +3,7 @@
 #include "app/large_file.h"
 #include "drawing/kinship_page.h"
 #include "drawing/kinship_print.h"
+#include "kinship/out_link.h"
 #include "shell/drawing_size.h"
 #include "shell/file_names.h"
 #include "tables/columns.h"
@@ -13,16 +14,20 @@
 namespace swiftroll {
 namespace {
 
-/// "Chemin 12 : 5 liaisons, 1 conjoint", of the path of a row.
-Text PathTitle(const RowView& row) {
+/// "Chemin 12 : grand-oncle (5 liaisons, 1 conjoint)", of the path of a row.
+Text PathTitle(TableSet& tables, const RowView& row) {
     const auto counted = [](TextView cell, TextView unit) {
         const std::int64_t count = ParseDecimal(cell).value_or(0);
         return Concat({Decimal(count), " ", unit, count > 1 ? "s" : ""});
     };
-    const TextView seqNr = row.Text();
-    const std::int64_t number = ParseDecimal(seqNr.substr(0, seqNr.find('-'))).value_or(0);
-    return Concat({"Chemin ", Decimal(number), " : ", counted(row.Cell(Kinship::NrLink), "liaison"), ", ",
-                   counted(row.Cell(Kinship::NrSpouses), "conjoint")});
+    const TextView number = row.Text().substr(0, row.Text().find(modKinship::kPathEnd));
+    const Text counts = Concat({counted(row.Cell(Kinship::NrLink), "liaison"), ", ",
+                                counted(row.Cell(Kinship::NrSpouses), "conjoint")});
+    const Text head = Concat({"Chemin ", Decimal(ParseDecimal(number).value_or(0)), " : "});
+    const auto summary = tables.lvwPaths.Find(number);
+    if (summary) tables.lvwPaths.Need(*summary);
+    const TextView name = summary ? summary->Cell(Paths::Relation) : TextView();
+    return name.empty() ? Concat({head, counts}) : Concat({head, name, " (", counts, ")"});
 }
 
 }  // namespace
@@ -135,7 +140,7 @@ bool PathDrawing::DrawRows(Trail& trail, const std::vector<std::int32_t>& rows, 
     int iStage = kFirst;
     for (const std::int32_t row : rows) {
         const auto grid = modKinshipOutput::MakeKinshipTable(app_, trail, row, bSpouses);
-        if (document.DisplayKinship(iStage, grid, PathTitle(app_.lvwKinship.Item(row)))) return false;
+        if (document.DisplayKinship(iStage, grid, PathTitle(app_, app_.lvwKinship.Item(row)))) return false;
         iStage = kFurther;
     }
     return !document.DisplayKinship(kLast, {});

@@ -42,6 +42,9 @@ TEST_F(Picture, FollowsTheRowTheOptionsAndTheFile) {
     EXPECT_EQ(Current(), "@I1@");
     ClickRow(1);
     EXPECT_EQ(Current(), "@I3@");
+    QTest::mouseClick(View(Main().lvwPaths).viewport(), Qt::LeftButton, {}, CellAt(Main().lvwPaths, 0, 0));
+    EXPECT_EQ(Current(), "@I1@") << "the summary of a path leads to its first person";
+    ASSERT_EQ(Drawing().Picture().BoxCount(), 3);
     const auto height = Drawing().Picture().Height();
     program_->ThePresenter().Act([this] { Main().lvwKinship.SortBy(Kinship::Indi, 1); });
     EXPECT_EQ(Drawing().Picture().Height(), height) << "in whatever order";
