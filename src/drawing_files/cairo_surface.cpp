@@ -1,7 +1,5 @@
 #include "drawing_files/cairo_surface.h"
 
-#include "drawing_files/cairo_font.h"
-
 namespace swiftroll::modDrawingFiles {
 namespace {
 
@@ -14,7 +12,8 @@ double Part(std::uint32_t colour, int shift) { return static_cast<double>(colour
 
 }  // namespace
 
-CairoSurface::CairoSurface(cairo_t& context, FontShapes& shapes) : context_(context), shapes_(shapes) {
+CairoSurface::CairoSurface(cairo_t& context, FontShapes& shapes, FontFaces& faces)
+    : context_(context), shapes_(shapes), faces_(faces) {
     cairo_scale(&context_, kPointsPerTwip, kPointsPerTwip);
 }
 
@@ -49,8 +48,7 @@ void CairoSurface::PrintTexts(std::int64_t left, std::int64_t top, std::int64_t 
     };
     for (const modPreview::PlacedLine& line : FitTexts(box, texts, shapeOf)) {
         SetColour(line.font->colour);
-        const FontFace face = FaceOf(*line.font);
-        cairo_set_font_face(&context_, face.get());
+        cairo_set_font_face(&context_, faces_.Of(*line.font));
         cairo_set_font_size(&context_, line.size);
         cairo_move_to(&context_, line.x, line.baseline);
         cairo_show_text(&context_, ToUtf8(line.text).c_str());

@@ -3,6 +3,7 @@
 #include <cairo.h>
 
 #include "drawing/drawing_sheets.h"
+#include "drawing_files/cairo_font.h"
 #include "drawing_files/font_shapes.h"
 
 namespace swiftroll::modDrawingFiles {
@@ -10,8 +11,8 @@ namespace swiftroll::modDrawingFiles {
 /// Draws on a page of the library, whose unit is the point.
 class CairoSurface : public modPreview::SheetSurface {
   public:
-    /// `context` draws on the page; both it and `shapes` outlive this.
-    CairoSurface(cairo_t& context, FontShapes& shapes);
+    /// `context` draws on the page; it, `shapes` and `faces` outlive this.
+    CairoSurface(cairo_t& context, FontShapes& shapes, FontFaces& faces);
 
     void FillRectangle(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height,
                        std::uint32_t colour) override;
@@ -26,6 +27,7 @@ class CairoSurface : public modPreview::SheetSurface {
     void SetColour(std::uint32_t colour);
     cairo_t& context_;
     FontShapes& shapes_;
+    FontFaces& faces_;
 };
 
 }  // namespace swiftroll::modDrawingFiles

@@ -46,6 +46,7 @@ struct PdfPages::Document {
 
     File& file;
     cairo_surface_t* surface;
+    FontFaces faces;
     std::exception_ptr failure;
 };
 
@@ -67,7 +68,7 @@ void PdfPages::Add(const modPreview::DrawingSheets& sheets) {
     for (int i = 0; i < sheets.Count(); ++i) {
         const std::unique_ptr<cairo_t, decltype(&cairo_destroy)> context(cairo_create(document_->surface),
                                                                          cairo_destroy);
-        CairoSurface surface(*context, shapes_);
+        CairoSurface surface(*context, shapes_, document_->faces);
         sheets.Draw(surface, i);
         cairo_show_page(context.get());
         ++count_;
