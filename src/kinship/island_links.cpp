@@ -13,6 +13,30 @@ namespace {
 constexpr std::int32_t kStatusStep = 1000;
 constexpr TextView kStatus = "Simplification de l'arbre... : ";
 
+/// Tells what links say. Their words are few, and looked at once each.
+class KindReader {
+  public:
+    explicit KindReader(const TextStore& store) : store_(store), kindOfWord_(store.InternedCount()) {}
+
+    LinkKind Read(TextRef word, TextRef family) {
+        LinkKind kind;
+        if (!word.IsEmpty()) {
+            auto& known = kindOfWord_[word.Symbol()];
+            if (!known) {
+                const TextView text = store_.Get(word);
+                known = {RelationOf(text) == Relation::Spouse, FoldAsFirst(text), FoldAsSecond(text)};
+            }
+            kind = *known;
+        }
+        if (!family.IsEmpty()) kind.family = static_cast<std::int32_t>(family.Symbol()) + 1;
+        return kind;
+    }
+
+  private:
+    const TextStore& store_;
+    std::vector<std::optional<LinkKind>> kindOfWord_;
+};
+
 }  // namespace
 
 bool AddLvwXref1(Application& app, TextView sIslandNr, CopyProgress& progress) {
@@ -92,10 +116,13 @@ IslandGraph::IslandGraph(Application& app) : app_(app) {
     firstLinks.resize(ids.size() + 1, links.Count());
     targets.reserve(static_cast<std::size_t>(links.Count()));
     linkKeys_.reserve(targets.capacity());
+    kinds_.reserve(targets.capacity());
+    KindReader reader(links.Store());
     for (std::int32_t i = 1; i <= links.Count(); ++i) {
         const Row link = links.Item(i);
         const TextRef id = link.Ref(Xref1::Indi2);
         linkKeys_.emplace_back(link.Ref(Xref1::Indi1), id);
+        kinds_.push_back(reader.Read(link.Ref(Xref1::Type), link.Ref(Xref1::IDFamily)));
         targets.push_back(id.IsEmpty() ? kNobody : nodeOfSymbol_[id.Symbol()]);
     }
     graph = LinkGraph(std::move(firstLinks), std::move(targets));
@@ -116,27 +143,10 @@ Row IslandGraph::RowOfLink(std::int32_t link) const {
 }
 
 std::vector<LinkKind> IslandGraph::KindsOf(const std::vector<std::int32_t>& links) const {
-    const TextStore& store = app_.lvwXref1.Store();
-    // The words are few.
-    std::vector<std::optional<LinkKind>> kinds(store.InternedCount());
-    std::vector<LinkKind> result;
-    result.reserve(links.size());
-    for (const std::int32_t link : links) {
-        const Row row = RowOfLink(link);
-        const TextRef word = row.Ref(Xref1::Type), family = row.Ref(Xref1::IDFamily);
-        LinkKind kind;
-        if (!word.IsEmpty()) {
-            auto& known = kinds[word.Symbol()];
-            if (!known) {
-                const TextView text = store.Get(word);
-                known = {RelationOf(text) == Relation::Spouse, FoldAsFirst(text), FoldAsSecond(text)};
-            }
-            kind = *known;
-        }
-        if (!family.IsEmpty()) kind.family = static_cast<std::int32_t>(family.Symbol()) + 1;
-        result.push_back(kind);
-    }
-    return result;
+    std::vector<LinkKind> kinds;
+    kinds.reserve(links.size());
+    for (const std::int32_t link : links) kinds.push_back(At(kinds_, link));
+    return kinds;
 }
 
 }  // namespace swiftroll::modKinship

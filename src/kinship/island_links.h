@@ -29,12 +29,13 @@ struct IslandGraph {
     LinkGraph graph;
     std::vector<TextRef> ids;  // identifiers in the store of lvwIn, by node
 
-    /// What each of these links says beside whom it joins. @throws Failure KeyNotFound
+    /// What each of these links says beside whom it joins.
     std::vector<LinkKind> KindsOf(const std::vector<std::int32_t>& links) const;
 
   private:
     Application& app_;
     std::vector<RowKey> linkKeys_;
+    std::vector<LinkKind> kinds_;
     std::vector<std::int32_t> nodeOfSymbol_;  // by number of the identifier in the store of lvwXref1
 };
 

@@ -90,7 +90,7 @@ class StepGraph {
 
   private:
     struct Crossing;
-    std::vector<Crossing> FindCrossings();
+    void NumberCrossings();
     void ListLinks();
 
     const LinkGraph& graph_;
