@@ -2,11 +2,10 @@
 
 #include <malloc.h>
 
-#include <chrono>
-
 #include "kinship/out_link.h"
 #include "kinship/path_walk.h"
 #include "kinship/remove_islands.h"
+#include "stopwatch.h"
 #include "support/plain_kinship.h"
 #include "tables/columns.h"
 
@@ -19,22 +18,6 @@ using swiftroll::modKinship::LinkGraph;
 using swiftroll::modKinship::PathCore;
 using swiftroll::test::PlainLinks;
 using swiftroll::test::PlainPairs;
-
-class Stopwatch {
-  public:
-    double Seconds() const {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
-    }
-    /// Seconds so far, and starts anew.
-    double Lap() {
-        const double seconds = Seconds();
-        start_ = std::chrono::steady_clock::now();
-        return seconds;
-    }
-
-  private:
-    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-};
 
 std::size_t UsedBytes() {
     const auto info = mallinfo2();
