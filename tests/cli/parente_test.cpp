@@ -79,6 +79,12 @@ TEST_F(Parente, StopsAtItsLimitsAndKeepsWhatItFound) {
     Cli({"parente", "many.ged", "@M0@", "@W40@", "--max", "25", "--set", "chkMaxLinks=1", "--set",
          "txtMaxLinks=41"})
         .Ends(3, " non affiché(s).");
+    const Outcome nearest =
+        Cli({"parente", "many.ged", "@M0@", "@W40@", "--proches", "25", "-t", "lvwKinship,lvwPaths"});
+    EXPECT_EQ(nearest.code, 0) << nearest.err;
+    EXPECT_EQ(paths(nearest), 25u);
+    EXPECT_TRUE(nearest.Says("25 liens de parenté trouvé(s) au total."));
+    EXPECT_EQ(CountOf("\t000\t0041\t40\t40\t@M0@\tOui\n", nearest.out), 25u) << nearest.out;
     const Outcome timed = Cli({"parente", "many.ged", "@M0@", "@W40@", "--delai", "0.05", "-o", "k.tsv"});
     EXPECT_EQ(timed.code, 3);
     EXPECT_TRUE(Bytes("k.tsv").starts_with("SeqNr\t"));
@@ -124,7 +130,7 @@ TEST_F(Parente, DrawsAsPdfAndSvgByTheExtension) {
     const std::string svg = Bytes("c.svg");
     EXPECT_NE(svg.find("font-family=\"'D&lt;&amp;&quot;', sans-serif\""), std::string::npos) << svg;
     EXPECT_NE(svg.find(">Luc, DE LA COUR</text>"), std::string::npos);
-    EXPECT_NE(svg.find("<title>Chemin 1 : 2 liaisons, 0 conjoint</title>"), std::string::npos);
+    EXPECT_NE(svg.find("<title>Chemin 1 : mère (2 liaisons, 0 conjoint)</title>"), std::string::npos);
     EXPECT_EQ(svg.find('\t'), std::string::npos) << "a tab of a name";
     EXPECT_EQ(CountOf("<rect ", svg), 4u) << "three boxes and the ground";
     Cli(pair + Strings{"--dessin", "no/where.svg"})
@@ -150,11 +156,11 @@ TEST_F(Parente, DrawsAsPdfAndSvgByTheExtension) {
 
 TEST_F(Parente, UsageErrorsNameTheirCause) {
     for (const std::string words :
-         {"|identifiants", "@I2@ --max 0|--max", "@I2@ --max 1x|--max", "@I2@ --delai nan|--delai",
-          "@I2@ --delai -1|--delai", "@I2@ --dessin -|-o", "@I2@ --dessin x.html --mode deux|deux",
-          "@I2@ --dessin x.html --lignes 000001-000001|--lignes", "@I2@ --mode une|--dessin",
-          "@I2@ --dessin-max 3|--dessin-max", "@I2@ --dessin x.html --chemin-par-page|PDF",
-          "@I2@ -t lvwFoo|lvwFoo"}) {
+         {"|identifiants", "@I2@ --max 0|--max", "@I2@ --max 1x|--max", "@I2@ --proches 0|--proches",
+          "@I2@ --delai nan|--delai", "@I2@ --delai -1|--delai", "@I2@ --dessin -|-o",
+          "@I2@ --dessin x.html --mode deux|deux", "@I2@ --dessin x.html --lignes 000001-000001|--lignes",
+          "@I2@ --mode une|--dessin", "@I2@ --dessin-max 3|--dessin-max",
+          "@I2@ --dessin x.html --chemin-par-page|PDF", "@I2@ -t lvwFoo|lvwFoo"}) {
         const Strings sides = Split(words, '|');
         const Outcome run = Cli(Strings{"parente", "f.ged", "@I1@"} + Split(sides[0], ' '));
         run.Ends(2, sides[1]);

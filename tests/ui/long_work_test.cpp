@@ -1,6 +1,7 @@
 // What the user does while a file is read or paths are searched.
 #include <QPushButton>
 
+#include "tables/columns.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -73,6 +74,34 @@ TEST_F(LongWork, EscapeEndsASearchWithWholePathsAndTheListIsSeenGrowing) {
     EXPECT_TRUE(Main().lvwKinship.Item(Main().lvwKinship.Count()).Text().size() > 0);
     EXPECT_TRUE(Find<QPushButton>("cmdDrawKinship").isEnabled());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the wait cursor is gone";
+}
+
+TEST_F(LongWork, ASearchWithoutEndOffersTheNearestPathsOrItsEnd) {
+    Start();
+    ReadCousins();
+    const auto press = [this](const char* button) {
+        const auto find = [this, button] {
+            return Window().findChild<QAbstractButton*>(QLatin1String(button));
+        };
+        QString said;
+        Meanwhile([find] { return find() != nullptr && find()->isVisible(); },
+                  [&, button] {
+                      said = Find<QLabel>("messageBarText").text() + find()->text();
+                      Click(button);
+                  });
+        StartSearch();
+        return said;
+    };
+    const QString continues = QStringLiteral(" liens trouvés, la recherche continue.");
+    EXPECT_TRUE(
+        press("messageBarButton(0)").endsWith(continues + QStringLiteral("Afficher les 100 plus proches")));
+    EXPECT_EQ(Find<QLabel>("messageBarText").text(), QStringLiteral("Les 100 plus proches"));
+    EXPECT_EQ(Main().lvwPaths.Count(), 100);
+    EXPECT_EQ(Main().lvwPaths.Item(100).Cell(Paths::Spouses), "000");
+
+    EXPECT_TRUE(press("messageBarButton(1)").endsWith(continues + QStringLiteral("Arrêter")));
+    EXPECT_FALSE(Find<QWidget>("messageBar").isVisible());
+    EXPECT_GE(Main().lvwPaths.Count(), 1000) << "what was found stays";
 }
 
 TEST_F(LongWork, EscapeEndsARead) {
