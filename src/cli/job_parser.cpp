@@ -133,11 +133,12 @@ std::string HelpOfEveryJob() {
                             dit) ; la liste vide met le nombre en premier
   --marquer ID[,ID...]      marque ces individus après la lecture
   --ajouter MODE            marque aussi ceux auxquels mènent les individus marqués, --enlever MODE enlève
-  --enlever MODE            leurs marques. MODE : individus, parents, conjoints, enfants, ou une colonne de
-                            lvwIn et une comparaison : "LastName=", "BirthMin<=", "BirthMin>=" (les individus
-                            dont la valeur est égale, au plus, ou au moins celle d'un individu marqué, en
-                            ordre de texte). La table est parcourue de haut en bas : qui vient d'être marqué
-                            plus haut compte à son tour
+  --enlever MODE            leurs marques. MODE : individus, parents, conjoints, enfants, ascendants,
+                            descendants (ascendants:5 pour cinq générations), ou une colonne de lvwIn et une
+                            comparaison : "LastName=", "BirthMin<=", "BirthMin>=" (les individus dont la
+                            valeur est égale, au plus, ou au moins celle d'un individu marqué, en ordre de
+                            texte). Pour parents, conjoints et enfants, la table est parcourue de haut en
+                            bas : qui vient d'être marqué plus haut compte à son tour
   --strict                  arrête la lecture à la première ligne fautive ou au jeu de caractères inconnu
   -f, --ecraser             écrase un fichier existant
   --grand                   écrit les liens de parenté même dans un fichier de plus de 1 Go, ou de plus de la

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "text/numbers.h"
 #include "words.h"
 
 namespace swiftroll::cli {
@@ -14,6 +15,7 @@ struct NamedMode {
 
 constexpr NamedMode kLinkModes[] = {
     {"individus", "I"}, {"parents", "P"}, {"conjoints", "S"}, {"enfants", "C"}};
+constexpr NamedMode kLineageModes[] = {{"ascendants", "A"}, {"descendants", "D"}};
 // The longer ones first, since all of them end alike.
 constexpr NamedMode kValueModes[] = {{"<=", "V<="}, {">=", "V>="}, {"=", "V="}};
 
@@ -29,9 +31,31 @@ MarkSteps::MarkSteps(const frmMain& main, const std::vector<MarkStep>& steps) {
     }
 }
 
+std::optional<MarkSteps::Selection> MarkSteps::LineageOf(const MarkStep& step) {
+    const std::string_view word = step.value;
+    const std::size_t colon = std::min(word.find(':'), word.size());
+    for (const NamedMode& mode : kLineageModes) {
+        if (word.substr(0, colon) != mode.name) continue;
+        Selection selection;
+        selection.bSelect = step.kind == MarkStep::Kind::Add;
+        selection.sMode = mode.sMode;
+        if (colon == word.size()) return selection;
+        const auto number = ParseDecimal(word.substr(colon + 1));
+        if (!number || *number < 1) {
+            throw UsageError("le nombre de générations doit être au moins 1 : " + step.value);
+        }
+        selection.lGenerations =
+            static_cast<std::int32_t>(std::min<std::int64_t>(*number, modSelectionIn::kAllGenerations));
+        return selection;
+    }
+    return std::nullopt;
+}
+
 MarkSteps::Selection MarkSteps::SelectionOf(const frmMain& main, const MarkStep& step) {
     const std::string_view word = step.value;
-    Selection selection{step.kind == MarkStep::Kind::Add, {}};
+    if (const auto lineage = LineageOf(step)) return *lineage;
+    Selection selection;
+    selection.bSelect = step.kind == MarkStep::Kind::Add;
     for (const NamedMode& mode : kLinkModes) {
         if (word == mode.name) selection.sMode = mode.sMode;
     }
@@ -60,7 +84,7 @@ bool MarkSteps::Run(Session& session) const {
         const auto& selection = std::get<Selection>(step);
         main.lvwActiveListView = &main.lvwIn;
         main.selection.context.SetClickedCell(main, main.lvwIn, selection.column);
-        main.selection.Add_Remove_Selection(selection.bSelect, selection.sMode);
+        main.selection.Add_Remove_Selection(selection.bSelect, selection.sMode, selection.lGenerations);
     }
     return true;
 }

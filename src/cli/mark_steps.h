@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <variant>
 
 #include "session.h"
@@ -19,11 +20,14 @@ class MarkSteps {
   private:
     /// A step of the selection.
     struct Selection {
-        bool bSelect;
+        bool bSelect = false;
         TextView sMode;
+        std::int32_t lGenerations = modSelectionIn::kAllGenerations;
         /// Column of the values that are compared, from 0.
         ColumnId column = In::ID;
     };
+    /// A mode that may tell a number of generations behind ":"; nothing for another one. @throws UsageError
+    static std::optional<Selection> LineageOf(const MarkStep& step);
     static Selection SelectionOf(const frmMain& main, const MarkStep& step);
 
     /// An identifier to be marked, or a selection.

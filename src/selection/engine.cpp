@@ -2,6 +2,7 @@
 
 #include "list/sort_keys.h"
 #include "selection/cell_values.h"
+#include "selection/seen_texts.h"
 #include "selection/value_targets.h"
 #include "selection/wanted_values.h"
 #include "text/edit.h"
@@ -28,6 +29,14 @@ constexpr LinkMode kLinkModes[] = {
     {"C", "F", &SelectionContext::iFamCol, &Relatives::MarkFamilyChildren},
 };
 
+/// A mode that goes on from generation to generation.
+struct LineageMode {
+    TextView sMode;
+    GenerationStep step;
+};
+
+constexpr LineageMode kLineageModes[] = {{"A", &Relatives::VisitParents}, {"D", &Relatives::VisitChildren}};
+
 std::optional<Comparison> ComparisonOf(TextView sMode) {
     if (sMode == "V<=") return Comparison::AtMost;
     if (sMode == "V=") return Comparison::Equal;
@@ -44,24 +53,9 @@ void ForEachMarked(Table& table, Visitor visit) {
     }
 }
 
-/// Tells texts that come again, which would only repeat what is done.
-class SeenTexts {
-  public:
-    bool IsNew(TextRef ref) {
-        const std::size_t place = ListOf(ref);
-        if (place >= seen_.size()) seen_.resize(std::max(place + 1, seen_.size() * 2));
-        const bool isNew = !seen_[place];
-        seen_[place] = true;
-        return isNew;
-    }
-
-  private:
-    std::vector<bool> seen_;
-};
-
 }  // namespace
 
-void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
+void Engine::Add_Remove_Selection(bool bSelect, TextView sMode, std::int32_t lGenerations) {
     const ScopedFlag wait(app_.bWaitCursor);
     context.bRestoreClickedRow = false;
     Table* const table = app_.lvwActiveListView;
@@ -72,6 +66,7 @@ void Engine::Add_Remove_Selection(bool bSelect, TextView sMode) {
             if (table == nullptr) return;
             if (sMode == "?1" || sMode == "?N") return find.FindNext(app_, *table, context.iClickedCol);
             FollowLinks(relatives, *table, sMode);
+            FollowLineage(relatives, *table, sMode, bSelect, lGenerations);
             CompareValues(*table, sMode, bSelect);
         },
         [&] {
@@ -91,6 +86,19 @@ void Engine::FollowLinks(Relatives& relatives, Table& table, TextView sMode) {
             const TextRef id = ids.Of(row);
             if (!id.IsEmpty() && seen.IsNew(id)) (relatives.*mode.mark)(id);
         });
+    }
+}
+
+void Engine::FollowLineage(Relatives& relatives, Table& table, TextView sMode, bool bSelect,
+                           std::int32_t lGenerations) {
+    for (const LineageMode& mode : kLineageModes) {
+        if (mode.sMode != sMode) continue;
+        const IdColumn ids(table, context.iIndiCol, app_.lvwIn.Store());
+        Lineage lineage;
+        // All marks are tested before the first is changed: a generation is counted from those who were
+        // marked.
+        ForEachMarked(table, [&](std::int32_t, const Row& row) { lineage.Add(ids.Of(row)); });
+        lineage.Mark(relatives, Marker(app_.lvwIn, bSelect), mode.step, lGenerations);
     }
 }
 

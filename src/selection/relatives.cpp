@@ -61,12 +61,14 @@ void Relatives::MarkIndividual(TextRef sIndi) {
     marker_.SelectIn(sIndi);
 }
 
-void Relatives::MarkParents(TextRef sIndi) {
+void Relatives::MarkParents(TextRef sIndi) { VisitParents(sIndi, Select()); }
+
+void Relatives::VisitParents(TextRef sIndi, const Visitor& visit) {
     sIndi_ = sIndi;
     const auto origins = ChildRows(origins_, FamilyXref::IDIndi).Of(ListOf(sIndi));
     if (origins.empty()) return;
     const IdColumn families(app_.lvwFamilyXref, FamilyXref::IDFam, store_);
-    MarkFamilySpouses(families.Of(app_.lvwFamilyXref.Item(origins.front())));
+    VisitFamilySpouses(families.Of(app_.lvwFamilyXref.Item(origins.front())), visit);
 }
 
 void Relatives::MarkSpouses(TextRef sIndi) {
@@ -79,26 +81,32 @@ void Relatives::MarkSpouses(TextRef sIndi) {
     }
 }
 
-void Relatives::MarkChildren(TextRef sIndi) {
+void Relatives::MarkChildren(TextRef sIndi) { VisitChildren(sIndi, Select()); }
+
+void Relatives::VisitChildren(TextRef sIndi, const Visitor& visit) {
     sIndi_ = sIndi;
     const IdColumn families(app_.lvwFamily, Family::IDFam, store_);
     for (const std::int32_t row : FamilyRows().Of(ListOf(sIndi))) {
-        MarkFamilyChildren(families.Of(app_.lvwFamily.Item(row)));
+        VisitFamilyChildren(families.Of(app_.lvwFamily.Item(row)), visit);
     }
 }
 
-void Relatives::MarkFamilySpouses(TextRef sFam) {
+void Relatives::MarkFamilySpouses(TextRef sFam) { VisitFamilySpouses(sFam, Select()); }
+
+void Relatives::VisitFamilySpouses(TextRef sFam, const Visitor& visit) {
     sFam_ = sFam;
     const auto family = app_.lvwFamily.Find(RowKey(sFam));
     if (!family) throw Failure(FailureKind::KeyNotFound, store_.Get(sFam));
-    for (const TextRef spouse : SpouseColumns(app_.lvwFamily, store_).Of(*family)) marker_.SelectIn(spouse);
+    for (const TextRef spouse : SpouseColumns(app_.lvwFamily, store_).Of(*family)) visit(spouse);
 }
 
-void Relatives::MarkFamilyChildren(TextRef sFam) {
+void Relatives::MarkFamilyChildren(TextRef sFam) { VisitFamilyChildren(sFam, Select()); }
+
+void Relatives::VisitFamilyChildren(TextRef sFam, const Visitor& visit) {
     sFam_ = sFam;
     const IdColumn individuals(app_.lvwFamilyXref, FamilyXref::IDIndi, store_);
     for (const std::int32_t row : ChildRows(children_, FamilyXref::IDFam).Of(ListOf(sFam))) {
-        marker_.SelectIn(individuals.Of(app_.lvwFamilyXref.Item(row)));
+        visit(individuals.Of(app_.lvwFamilyXref.Item(row)));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "app/application.h"
@@ -30,11 +31,22 @@ class Relatives {
     /// Marks the children of a family.
     void MarkFamilyChildren(TextRef sFam);
 
+    using Visitor = std::function<void(TextRef sId)>;
+    /// Calls `visit` for those whom `MarkParents` and `MarkChildren` mark; a spouse who is not told is the
+    /// empty identifier. @throws Failure KeyNotFound for a family that lvwFamily does not hold
+    void VisitParents(TextRef sIndi, const Visitor& visit);
+    void VisitChildren(TextRef sIndi, const Visitor& visit);
+
     /// The individual and the family worked on last.
     TextView Individual() const { return store_.Get(sIndi_); }
     TextView FamilyId() const { return store_.Get(sFam_); }
 
   private:
+    void VisitFamilySpouses(TextRef sFam, const Visitor& visit);
+    void VisitFamilyChildren(TextRef sFam, const Visitor& visit);
+    Visitor Select() {
+        return [this](TextRef sId) { marker_.SelectIn(sId); };
+    }
     /// The rows of lvwFamily in which an individual is a spouse.
     const RowLists& FamilyRows();
     /// The rows of lvwFamilyXref that name children, by child and by family.

@@ -14,8 +14,11 @@ constexpr TextView kValueModes[] = {"V<=", "V=", "V>="};
 ContextMenu::ContextMenu(Application& app, MainCommands& commands, modSelectionIn::Engine& selection,
                          Lists& lists)
     : mnuContext(commands.TableMenu()), app_(app), commands_(commands), selection_(selection), lists_(lists) {
-    const auto bind = [this](Command& command, bool bSelect, TextView sMode) {
-        command.Operation = [this, bSelect, sMode] { selection_.Add_Remove_Selection(bSelect, sMode); };
+    const auto bind = [this](Command& command, bool bSelect, TextView sMode,
+                             std::int32_t lGenerations = modSelectionIn::kAllGenerations) {
+        command.Operation = [this, bSelect, sMode, lGenerations] {
+            selection_.Add_Remove_Selection(bSelect, sMode, lGenerations);
+        };
     };
     const struct {
         Command &add, &remove;
@@ -27,6 +30,17 @@ ContextMenu::ContextMenu(Application& app, MainCommands& commands, modSelectionI
     for (const auto& link : links) {
         bind(link.add, true, link.sMode);
         bind(link.remove, false, link.sMode);
+    }
+    const struct {
+        GenerationCommands &add, &remove;
+        TextView sMode;
+    } lineages[] = {{commands_.mnuAddAncestors, commands_.mnuRemoveAncestors, "A"},
+                    {commands_.mnuAddDescendants, commands_.mnuRemoveDescendants, "D"}};
+    for (const auto& lineage : lineages) {
+        for (std::size_t i = 0; i < GenerationCommands::kChoices.size(); ++i) {
+            bind(lineage.add.upTo[i], true, lineage.sMode, GenerationCommands::kChoices[i]);
+            bind(lineage.remove.upTo[i], false, lineage.sMode, GenerationCommands::kChoices[i]);
+        }
     }
     for (std::size_t i = 0; i < commands_.mnuAddValue.size(); ++i) {
         bind(commands_.mnuAddValue[i], true, kValueModes[i]);
@@ -77,6 +91,10 @@ void ContextMenu::ModifyContextMenu() {
     for (Command* command : {&commands_.mnuAddIndi, &commands_.mnuAddParents, &commands_.mnuRemoveIndi,
                              &commands_.mnuRemoveParents}) {
         command->Enabled = isIndividual;
+    }
+    for (GenerationCommands* lineage : {&commands_.mnuAddAncestors, &commands_.mnuAddDescendants,
+                                        &commands_.mnuRemoveAncestors, &commands_.mnuRemoveDescendants}) {
+        lineage->Enable(isIndividual);
     }
     for (Command* command : {&commands_.mnuAddSpouses, &commands_.mnuAddChildren, &commands_.mnuRemoveSpouses,
                              &commands_.mnuRemoveChildren}) {

@@ -1,6 +1,8 @@
 #include "shell/list_commands.h"
 
+#include "text/edit.h"
 #include "text/literal.h"
+#include "text/numbers.h"
 
 namespace swiftroll {
 namespace {
@@ -14,7 +16,29 @@ std::array<Command, 3> OfValues(Window& window, TextView name) {
             OfClickedCell(window, {name, "Valeur >=", {}, 2})};
 }
 
+Text CaptionOf(std::int32_t generations) {
+    if (generations == modSelectionIn::kAllGenerations) return Text("Toutes les générations"_t);
+    return Concat({Decimal(generations), " génération"_t, generations > 1 ? "s" : ""});
+}
+
 }  // namespace
+
+GenerationCommands::GenerationCommands(Window& window, TextView name, TextView caption)
+    : head(OfClickedCell(window, {name, caption})), upTo(ArrayOf<Command, kChoices.size()>(window, {name})) {
+    for (std::size_t i = 0; i < upTo.size(); ++i) upTo[i].Caption = CaptionOf(kChoices[i]);
+    Enable(false);
+}
+
+void GenerationCommands::Enable(bool enabled) {
+    head.Enabled = enabled;
+    for (Command& command : upTo) command.Enabled = enabled;
+}
+
+Menu GenerationCommands::Entry() {
+    Menu menu{head};
+    for (Command& command : upTo) menu.entries.push_back({command});
+    return menu;
+}
 
 ListCommands::ListCommands(Window& window)
     : mnuContextTitle(window, {"mnuContext", "Menu Contextuel"}),
@@ -40,12 +64,16 @@ ListCommands::ListCommands(Window& window)
       mnuAddSpouses(OfClickedCell(window, {"mnuAddSpouses", "Conjoints"})),
       mnuAddChildren(OfClickedCell(window, {"mnuAddChildren", "Enfants"})),
       mnuAddValue(OfValues(window, "mnuAddValue")),
+      mnuAddAncestors(window, "mnuAddAncestors", "Ascendants"),
+      mnuAddDescendants(window, "mnuAddDescendants", "Descendants"),
       mnuRemove(window, {"mnuRemove", "Enlever de la liste Entrée"_t}),
       mnuRemoveIndi(OfClickedCell(window, {"mnuRemoveIndi", "Individus"})),
       mnuRemoveParents(OfClickedCell(window, {"mnuRemoveParents", "P&arents"})),
       mnuRemoveSpouses(OfClickedCell(window, {"mnuRemoveSpouses", "C&onjoints"})),
       mnuRemoveChildren(OfClickedCell(window, {"mnuRemoveChildren", "En&fants"})),
       mnuRemoveValue(OfValues(window, "mnuRemoveValue")),
+      mnuRemoveAncestors(window, "mnuRemoveAncestors", "Ascendants"),
+      mnuRemoveDescendants(window, "mnuRemoveDescendants", "Descendants"),
       mnuKinship(window, {"mnuKinship", "---------- Liens de Parenté ----------"_t}) {}
 
 }  // namespace swiftroll

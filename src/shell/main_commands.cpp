@@ -6,10 +6,12 @@
 namespace swiftroll {
 namespace {
 
-std::vector<Menu> Entries(std::initializer_list<Command*> commands, std::array<Command, 3>& values) {
+std::vector<Menu> Entries(std::initializer_list<Command*> commands, std::array<Command, 3>& values,
+                          std::initializer_list<GenerationCommands*> lineages) {
     std::vector<Menu> entries;
     for (Command* command : commands) entries.push_back({*command});
     for (Command& value : values) entries.push_back({value});
+    for (GenerationCommands* lineage : lineages) entries.push_back(lineage->Entry());
     return entries;
 }
 
@@ -151,9 +153,10 @@ Menu MainCommands::TableMenu() {
          {mnuFindNext},
          {mnuSelect},
          {mnuDeselectIn},
-         {mnuAdd, Entries({&mnuAddIndi, &mnuAddParents, &mnuAddSpouses, &mnuAddChildren}, mnuAddValue)},
+         {mnuAdd, Entries({&mnuAddIndi, &mnuAddParents, &mnuAddSpouses, &mnuAddChildren}, mnuAddValue,
+                          {&mnuAddAncestors, &mnuAddDescendants})},
          {mnuRemove, Entries({&mnuRemoveIndi, &mnuRemoveParents, &mnuRemoveSpouses, &mnuRemoveChildren},
-                             mnuRemoveValue)},
+                             mnuRemoveValue, {&mnuRemoveAncestors, &mnuRemoveDescendants})},
          {mnuKinship},
          {mnuFindPath},
          {mnuAllKin},

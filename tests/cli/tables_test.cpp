@@ -96,6 +96,9 @@ TEST_F(Tables, UsageErrorsNameTheirCause) {
         const Strings sides = Split(words, '|');
         expectError(Strings{"tables", "f.ged"} + Split(sides[0], ' '), sides[1]);
     }
+    for (const std::string mode : {"ascendants:0", "descendants:", "ascendants:x"}) {
+        expectError({"tables", "f.ged", "--ajouter", mode}, mode);
+    }
     expectError({"tables"}, "GEDCOM");
     expectError({"parente"}, "GEDCOM");
     expectError({"releve", "f.ged"}, "-o");
@@ -116,6 +119,7 @@ TEST_F(Tables, MarksAreAddedAndRemovedInTheOrderOfTheCommandLine) {
         {"--marquer @I2@ --ajouter conjoints", {"SC", "SC", ""}},
         {"--marquer @I3@,@I1@ --enlever enfants", {"SC", "", ""}},
         {"--marquer @I3@ --ajouter parents --enlever BirthMin>=", {"", "", ""}},
+        {"--marquer @I3@ --ajouter ascendants:9999999999 --enlever descendants:1", {"SC", "SC", ""}},
         {"--marquer @I1@ --ajouter BirthMin<=", {"SC", "SC", ""}},
         {"--marquer @I1@ --ajouter BirthPlace=", {"SC", "", "SC"}},
         {"--set chkDelAccents=0 --marquer @I1@ --ajouter BirthPlace=", {"SC", "", ""}},

@@ -33,8 +33,9 @@ class AnySelection : public TestMain {
         Table& table = *std::vector{
             &main.lvwIn,         &main.lvwIn,     &main.lvwOut,    &main.lvwXref,
             &main.lvwFamilyXref, &main.lvwFamily, &main.lvwKinship}[static_cast<std::size_t>(Below(7))];
-        const TextView sMode =
-            std::vector<TextView>{"I", "P", "S", "C", "V<=", "V=", "V>="}[static_cast<std::size_t>(Below(7))];
+        const TextView sMode = std::vector<TextView>{
+            "I", "P", "S", "C", "V<=", "V=", "V>=", "A", "D"}[static_cast<std::size_t>(Below(9))];
+        const int generations = 1 + Below(4);
         main.chkIgnoreCase.SetChecked(Below(2) == 0);
         main.chkDelAccents.SetChecked(Below(2) == 0);
         main.lvwActiveListView = &table;
@@ -47,14 +48,14 @@ class AnySelection : public TestMain {
         const auto before = Marks();
         bool fails = false;
         try {
-            PlainSelection(main, context, bSelect).Run(sMode);
+            PlainSelection(main, context, bSelect).Run(sMode, generations);
         } catch (const Failure&) {
             fails = true;
         }
         const auto expected = Marks();
         SetMarks(before);
         const int reports = main.trail.Reports();
-        main.selection.Add_Remove_Selection(bSelect, sMode);
+        main.selection.Add_Remove_Selection(bSelect, sMode, generations);
         changes += expected != before;
         failures += fails;
         if (Marks() == expected && main.trail.Reports() == reports + (fails ? 1 : 0) && !main.bWaitCursor &&

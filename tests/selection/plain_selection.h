@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "list/sort_keys.h"
 #include "selection/context.h"
 #include "tables/columns.h"
@@ -15,7 +17,8 @@ class PlainSelection {
         : app_(app), context_(context), bSelect_(bSelect) {}
 
     /// @throws Failure as soon as an individual or a family is not there
-    void Run(TextView sMode) {
+    void Run(TextView sMode, int generations = 0) {
+        if (sMode == "A" || sMode == "D") return MarkLineage(sMode == "A", generations);
         Table& active = *app_.lvwActiveListView;
         const bool byFamily = context_.sIdKind == "F";
         for (std::int32_t i = 1; i <= active.Count(); ++i) {
@@ -37,6 +40,29 @@ class PlainSelection {
     }
 
   private:
+    /// Generation by generation, each person followed once.
+    void MarkLineage(bool up, int generations) {
+        std::vector<Text> seen;
+        const auto isNew = [&](TextView id) {
+            if (id.empty() || std::find(seen.begin(), seen.end(), id) != seen.end()) return false;
+            seen.emplace_back(id);
+            return true;
+        };
+        for (std::int32_t i = 1; i <= app_.lvwActiveListView->Count(); ++i) {
+            const Row row = app_.lvwActiveListView->Item(i);
+            if (row.Marked()) isNew(Cell(row, context_.iIndiCol));
+        }
+        for (std::size_t next = 0; generations > 0 && next < seen.size(); --generations) {
+            for (const std::size_t end = seen.size(); next < end; ++next) {
+                relative_ = [&](TextView id) {
+                    if (auto row = app_.lvwIn.Find(id)) Set(*row);
+                    isNew(id);
+                };
+                const Text id = seen[next];
+                up ? MarkParents(id) : MarkChildren(id);
+            }
+        }
+    }
     static TextView Cell(const Row& row, ColumnId column) { return row.Cell(column); }
     static bool IsChild(const Row& member) {
         const TextView type = member.Cell(FamilyXref::Type);
@@ -51,6 +77,7 @@ class PlainSelection {
         row.SetChecked(bSelect_);
     }
     void SelectIn(TextView id) {
+        if (relative_) return relative_(id);
         if (!id.empty()) Set(app_.lvwIn.Item(id));
     }
     void MarkParents(TextView sIndi) {
@@ -132,6 +159,7 @@ class PlainSelection {
     Application& app_;
     const modSelectionIn::SelectionContext& context_;
     bool bSelect_;
+    std::function<void(TextView id)> relative_;  // takes relatives while a lineage is followed
 };
 
 }  // namespace swiftroll::test
