@@ -17,7 +17,8 @@ class SelectionBench {
   public:
     void Read(const char* file) {
         app_.Read(file);
-        swiftroll::modCalcOut::CalcOuptut(main_, main_);
+        swiftroll::modCalcOut::CalcOuptut(main_, main_,
+                                          swiftroll::modPrivacy::Living(main_, main_, main_.ports.clock));
         main_.lvwIn.SortBy(swiftroll::In::ID, 0);
         std::printf("%s: %d people, %d groups, %d links\n", file, main_.lvwIn.Count(), main_.lvwOut.Count(),
                     main_.lvwXref.Count());

@@ -31,6 +31,8 @@ class OptionRecord : public Window {
 
     /// What `txtNearest` counts as when it holds no number.
     static constexpr TextView kDefaultNearest = "100";
+    /// What `txtPrivateYears` counts as when it holds no number.
+    static constexpr TextView kDefaultPrivateYears = "100";
 
     // Named parameter sets. Restoring one loads it, so they stand before the options that they hold: what
     // the user saw last wins.
@@ -200,6 +202,17 @@ class OptionRecord : public Window {
         *this, {"chkTips", "Montrer les conseils (\"ToolTips\") dans la liste \"Sortie\"."_t}, true};
     CheckBox chkCheckUpdates{
         *this, {"chkCheckUpdates", "Tester au démarrage si une nouvelle version est disponible."_t}, false};
+    CheckBox chkPrivate{
+        *this,
+        {"chkPrivate", "Masquer les personnes vivantes"_t,
+         "Est vivante une personne sans décès ni inhumation, née depuis moins d'années que le nombre\r\n"
+         "indiqué, ou sans année de naissance et proche d'une telle personne. Le Relevé-vif, les dessins\r\n"
+         "et l'extrait ne montrent rien d'elle que ses liens ; les listes de cette fenêtre montrent tout."_t},
+        false};
+    TextBox txtPrivateYears{
+        *this,
+        {"txtPrivateYears", {}, "Née depuis moins d'années que cela, une personne est vivante."_t},
+        kDefaultPrivateYears};
     CheckBox chkMaxLinks{*this, {"chkMaxLinks", "Le nombre de liaisons est > que"_t}, false};
     TextBox txtMaxLinks{*this, {"txtMaxLinks"}, "50"};
     CheckBox chkMaxSpouses{*this, {"chkMaxSpouses", "Le nombre de conjoints est > que"_t}, false};

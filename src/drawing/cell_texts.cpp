@@ -15,10 +15,13 @@ Text CellTexts::IndividualInfos(TextView sID) const {
             const Row person = source_.tables.lvwIn.Item(sID);
             Text text =
                 Concat({font_.bold ? "<b>" : "", font_.underline ? "<u>" : "", font_.italic ? "<i>" : ""});
-            if (source_.options.optFullName.Index() == 0) text += Concat({person.Cell(In::FirstName), ", "});
-            text += UpperCase(person.Cell(In::LastName));
+            const bool isHidden = source_.living.IsLiving(person);
+            if (!isHidden && source_.options.optFullName.Index() == 0)
+                text += Concat({person.Cell(In::FirstName), ", "});
+            text += isHidden ? Text(modPrivacy::kLivingName) : UpperCase(person.Cell(In::LastName));
             text +=
                 Concat({font_.italic ? "</i>" : "", font_.underline ? "</u>" : "", font_.bold ? "</b>" : ""});
+            if (isHidden) return text;
             AppendEvent(text, "<br>°"_t, source_.options.chkIndiBirthDate.Checked(),
                         person.Cell(In::BirthMin), person.Cell(In::BirthMax),
                         source_.options.chkIndiBirthPlace.Checked(), person.Cell(In::BirthPlace));
@@ -46,6 +49,7 @@ Text CellTexts::FamilyInfos(TextView sFamID) const {
         "FamilyInfos",
         [&] {
             const Row family = source_.tables.lvwFamily.Item(sFamID);
+            if (source_.living.HidesFamily(family)) return Text();
             const TextView from = family.Cell(Family::MarrMin), to = family.Cell(Family::MarrMax);
             const TextView place = family.Cell(Family::MarrPlace);
             const bool withDate = source_.options.chkMarrDate.Checked(),

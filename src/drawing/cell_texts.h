@@ -19,9 +19,10 @@ class CellTexts {
     CellTexts(const DrawingSource& source, const CellFont& font);
 
     /// The text of the box of an individual by its key in `lvwIn`; empty after a failure, which is reported.
+    /// Of somebody who is hidden as living it tells nothing else.
     Text IndividualInfos(TextView sID) const;
     /// The text of a marriage line by the key of the family in `lvwFamily`; empty when nothing is to be told,
-    /// or after a failure, which is reported.
+    /// nor may be, or after a failure, which is reported.
     Text FamilyInfos(TextView sFamID) const;
     /// The class of a cell, and its text; lines have none.
     TextView ClassOf(const GridCell& cell) const;

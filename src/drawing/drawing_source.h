@@ -2,6 +2,7 @@
 
 #include "app/feedback.h"
 #include "app/option_record.h"
+#include "privacy/living.h"
 
 namespace swiftroll::modKinshipOutput {
 
@@ -10,6 +11,7 @@ struct DrawingSource {
     TableSet& tables;
     const OptionRecord& options;
     Feedback& feedback;
+    const modPrivacy::Living& living;
 };
 
 }  // namespace swiftroll::modKinshipOutput

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "extract/head_charset.h"
+#include "extract/private_record.h"
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/failure.h"
@@ -24,14 +25,15 @@ TextView RoleOf(TextView type) {
 
 }  // namespace
 
-ExtractWriter::ExtractWriter(TableSet& tables, const modReadGedcom::LineReader& lines, TextView sGedIn,
-                             Input in, File& out)
+ExtractWriter::ExtractWriter(TableSet& tables, const modPrivacy::Living& living,
+                             const modReadGedcom::LineReader& lines, TextView sGedIn, Input in, File& out)
     : tables_(tables),
+      living_(living),
       lines_(lines),
       source_(std::move(in.records), sGedIn),
       familySource_(std::move(in.families), sGedIn),
       out_(out),
-      colFamToSave_(tables) {}
+      colFamToSave_(tables, living) {}
 
 void ExtractWriter::Write() {
     OutHead();
@@ -68,7 +70,13 @@ void ExtractWriter::OutIndividuals() {
     for (std::int32_t i = 1; i <= tables_.lvwIn.Count(); ++i) {
         const Row person = tables_.lvwIn.Item(i);
         if (!person.Marked()) continue;
-        OutWithNeighbours(RangeOfTag(person.Tag()));
+        const RecordRange range = RangeOfTag(person.Tag());
+        if (living_.IsLiving(person)) {
+            OutRun();
+            out_.Write(PrivateRecord(source_.Read(range), person.Text()));
+        } else {
+            OutWithNeighbours(range);
+        }
         ++individuals_;
     }
     OutRun();

@@ -15,6 +15,7 @@ namespace swiftroll::modSaveGed {
 /// Writes a GEDCOM file of the marked individuals, with the families that tie them together and every record
 /// that these refer to. Records are copied byte for byte out of the file that was read last, by the ranges
 /// that the reader kept; only family records are touched, so that none points at somebody who was left out.
+/// Of those who are hidden as living, and of families of two of them, only the links are told.
 /// The extract of a file in UTF-16 is UTF-8, and its head says so.
 class ExtractWriter {
   public:
@@ -23,8 +24,8 @@ class ExtractWriter {
         std::unique_ptr<File> records, families;
     };
     /// `lines` knows the ranges of the records of the input, whose name is `sGedIn`; `out` is the extract.
-    ExtractWriter(TableSet& tables, const modReadGedcom::LineReader& lines, TextView sGedIn, Input in,
-                  File& out);
+    ExtractWriter(TableSet& tables, const modPrivacy::Living& living, const modReadGedcom::LineReader& lines,
+                  TextView sGedIn, Input in, File& out);
 
     /// Writes everything but the records that the file does not have. @throws Failure when a file fails; what
     /// was written until then stays
@@ -68,6 +69,7 @@ class ExtractWriter {
     void EndLine(TextView sRecord);
 
     TableSet& tables_;
+    const modPrivacy::Living& living_;
     const modReadGedcom::LineReader& lines_;
     RecordSource source_, familySource_;
     BackgroundWriter out_;

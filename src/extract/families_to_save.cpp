@@ -10,8 +10,9 @@
 
 namespace swiftroll::modSaveGed {
 
-FamiliesToSave::FamiliesToSave(TableSet& tables)
-    : lvwIn_(tables.lvwIn),
+FamiliesToSave::FamiliesToSave(TableSet& tables, const modPrivacy::Living& living)
+    : living_(living),
+      lvwIn_(tables.lvwIn),
       lvwFamily_(tables.lvwFamily),
       lvwFamilyXref_(tables.lvwFamilyXref),
       rankOf_(tables.lvwFamily.Store().InternedCount() + 1) {}
@@ -39,7 +40,8 @@ std::vector<FamiliesToSave::Spouses> FamiliesToSave::ReadFamilies() {
         const RowView family = lvwFamily_.Item(i);
         spouses.push_back(
             {family.Ref(Family::IDHusb), family.Ref(Family::IDWife), family.Ref(Family::IDFams)});
-        families_.push_back({family.Ref(Family::IDFam), RangeOfTag(family.Tag())});
+        families_.push_back(
+            {family.Ref(Family::IDFam), RangeOfTag(family.Tag()), living_.HidesFamily(family)});
     }
     return spouses;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "extract/record_range.h"
+#include "privacy/living.h"
 #include "tables/schema.h"
 
 namespace swiftroll::modSaveGed {
@@ -13,7 +14,7 @@ namespace swiftroll::modSaveGed {
 /// to the end each time a member is added, so that families stand in the order of their last member.
 class FamiliesToSave {
   public:
-    explicit FamiliesToSave(TableSet& tables);
+    FamiliesToSave(TableSet& tables, const modPrivacy::Living& living);
 
     /// Adds each marked individual, in the order of lvwIn, to all its families, and puts these in their
     /// order. Only reads the tables.
@@ -31,14 +32,14 @@ class FamiliesToSave {
         RecordRange range;               // of its record; empty when there is none
         std::span<const Member> sIndis;  // in the order in which they were added
         bool isComplete;                 // nobody of the family is missing
-        bool bFull;                      // at least two of the spouses were added
+        bool bFull;                      // at least two of the spouses were added, and not all are hidden
     };
     std::size_t Count() const { return ordered_.size(); }
     /// A family by its place from 0.
     Entry operator[](std::size_t i) const {
         const FamilyRow& family = ordered_[i];
         return {family.sFam, family.range, std::span(members_).subspan(family.firstMember, family.added),
-                family.added == family.size, family.spouses >= 2};
+                family.added == family.size, family.spouses >= 2 && !family.isHidden};
     }
     /// The individual that was added with a rank.
     TextRef Individual(Rank rank) const { return added_[rank - 1]; }
@@ -47,6 +48,7 @@ class FamiliesToSave {
     struct FamilyRow {
         TextRef sFam;
         RecordRange range;
+        bool isHidden = false;      // only its links may be told
         std::uint32_t spouses = 0;  // number of those who were added
         std::uint32_t size = 0;     // number of its members
         std::uint32_t added = 0;    // number of those who were added: they stand from firstMember on
@@ -62,6 +64,7 @@ class FamiliesToSave {
     std::vector<Spouses> ReadFamilies();
     std::vector<Membership> ReadMemberships(const std::vector<Spouses>& spouses);
 
+    const modPrivacy::Living& living_;
     const Table& lvwIn_;
     const Table& lvwFamily_;
     const Table& lvwFamilyXref_;

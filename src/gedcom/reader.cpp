@@ -36,6 +36,7 @@ void Reader::Prepare(const char*& stage, std::int16_t& counter) {
         table->SetSorted(false);
         table->Clear();
     }
+    app_.deaths.Clear();
     app_.lvwKinship.Tip = app_.lvwKinship.BaseTip();
     for (counter = 1; counter <= kMaxColumns; ++counter) app_.lMaxLenIn[ColumnId::OfIndex(counter)] = 0;
     stage = "ReadLines";

@@ -23,6 +23,10 @@ bool IsFamilyEvent(std::uint64_t tag) {
     return std::find(std::begin(kTags), std::end(kTags), tag) != std::end(kTags);
 }
 
+bool TellsDeath(std::uint64_t tag) {
+    return tag == TagCode("DEAT") || tag == TagCode("BURI") || tag == TagCode("CREM");
+}
+
 }  // namespace
 
 PersonNames SplitName(TextView sValue) {
@@ -93,6 +97,7 @@ std::int32_t RecordReader::ReadIndividual() {
     // The line that ended the record has been read, so these are the starts of this record and of the next
     // one.
     SetRange(row);
+    if (individual.hasDied) app_.deaths.Add(lines_.lPrevPos);
     row.SetCell(In::LastName, individual.lastName);
     row.SetCell(In::FirstName, individual.firstName);
     const LifeFacts birth = individual.events.Birth(usesStandIns_, findings_);
@@ -119,6 +124,7 @@ void RecordReader::ReadIndividualLine(Individual& individual) {
     const std::uint64_t tag = TagCode(lines_.sTag);
     if (lines_.iLevel == lines_.iBaseLevel + 1) {
         individual.event = nullptr;
+        individual.hasDied |= TellsDeath(tag);
         switch (tag) {
             case TagCode("NAME"):
                 return ReadName(individual);

@@ -34,6 +34,7 @@ class RecordReader {
         TextRef lastName, firstName, sex;
         LifeEvents events;
         EventFacts* event = nullptr;  // that the lines below belong to
+        bool hasDied = false;
     };
 
     /// Passes over an individual whose identifier another one has.

@@ -149,9 +149,15 @@ void Search::SetPair(std::int32_t lFrom, std::int32_t lTo) {
     };
     sKinshipFrom = name(lFrom);
     sKinshipTo = name(lTo);
-    sKinshipPair = Concat({"[", sKinshipFrom, "] et [", sKinshipTo, "]"});
-    sKinshipTitle = Concat({"Liens de Parenté entre "_t, sKinshipPair});
+    sKinshipFromId = app_.lvwIn.Item(lFrom).Text();
+    sKinshipToId = app_.lvwIn.Item(lTo).Text();
+    sKinshipPair = PairOf(sKinshipFrom, sKinshipTo);
+    sKinshipTitle = TitleOf(sKinshipPair);
 }
+
+Text Search::PairOf(TextView sFrom, TextView sTo) { return Concat({"[", sFrom, "] et [", sTo, "]"}); }
+
+Text Search::TitleOf(TextView sPair) { return Concat({"Liens de Parenté entre "_t, sPair}); }
 
 void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo, std::int32_t nearest) {
     const char* step = "";

@@ -12,6 +12,11 @@ class Search {
 
     /// The two individuals, first name and surname in capitals, and the titles made of them.
     Text sKinshipFrom, sKinshipTo, sKinshipPair, sKinshipTitle;
+    /// Their identifiers.
+    Text sKinshipFromId, sKinshipToId;
+    /// The titles of two names.
+    static Text PairOf(TextView sFrom, TextView sTo);
+    static Text TitleOf(TextView sPair);
     /// Names the pair of two rows of lvwIn. @throws Failure IndexOutOfRange
     void SetPair(std::int32_t lFrom, std::int32_t lTo);
 

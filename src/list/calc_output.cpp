@@ -99,7 +99,7 @@ class GroupWriter {
     std::vector<std::int32_t> aggregates_;
 };
 
-void ComputeList(ArrangedTables& tables, Feedback& feedback) {
+void ComputeList(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living) {
     tables.InitIndexes(feedback);
     feedback.pnlMessage.Set("Comptage..."_t);
     Table &lvwIn = tables.lvwIn, &lvwOut = tables.lvwOut;
@@ -107,13 +107,14 @@ void ComputeList(ArrangedTables& tables, Feedback& feedback) {
     tables.lMaxLenOut[Out::Number] = static_cast<std::int32_t>(lvwOut.ColumnAt(Out::Number).Caption.size());
     SortTable(tables.positions, feedback, SortMode::GroupKey, lvwIn, lvwIn.ColumnAt(In::ID));
     lvwOut.Clear();
+    tables.lListedBornAfter = living.BornAfter();
     lvwOut.SetSorted(false);
     GroupWriter groups(tables);
     const std::int32_t count = lvwIn.Count();
     for (std::int32_t i = 1; i <= count; ++i) {
         const Row row = lvwIn.Item(i);
         feedback.ProgressBar1.Show(i, count);
-        groups.Add(row, MakeSortKeyIn(tables.positions, row));
+        if (!living.IsLiving(row)) groups.Add(row, MakeSortKeyIn(tables.positions, row));
     }
     groups.Finish();
     groups.SetYearWidths();
@@ -122,11 +123,33 @@ void ComputeList(ArrangedTables& tables, Feedback& feedback) {
 
 }  // namespace
 
-void CalcOuptut(ArrangedTables& tables, Feedback& feedback) {
+void CalcOuptut(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living) {
     if (tables.lvwIn.Count() == 0) return;
     const ScopedFlag wait(feedback.bWaitCursor);
     feedback.trail.Guard(
-        "CalcOuptut", [&] { ComputeList(tables, feedback); }, [] { return Text(); });
+        "CalcOuptut", [&] { ComputeList(tables, feedback, living); }, [] { return Text(); });
+}
+
+void HideInList(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living) {
+    Table& lvwOut = tables.lvwOut;
+    const bool isComputed = lvwOut.Count() > 0 || tables.lListedBornAfter != kNobodyBornAfter;
+    if (!isComputed || tables.lListedBornAfter == living.BornAfter()) return;
+    struct MarkedGroup {
+        Text key;
+        bool isSelected, isChecked;
+    };
+    std::vector<MarkedGroup> marked;
+    for (std::int32_t i = 1; i <= lvwOut.Count(); ++i) {
+        const Row row = lvwOut.Item(i);
+        if (row.Marked()) marked.push_back({row.Key(), row.Selected(), row.Checked()});
+    }
+    CalcOuptut(tables, feedback, living);
+    for (const MarkedGroup& group : marked) {
+        auto row = lvwOut.Find(TextView(group.key));
+        if (!row) continue;
+        row->SetSelected(group.isSelected);
+        row->SetChecked(group.isChecked);
+    }
 }
 
 }  // namespace swiftroll::modCalcOut

@@ -1,12 +1,17 @@
 #pragma once
 
 #include "app/arranged_tables.h"
+#include "privacy/living.h"
 
 namespace swiftroll::modCalcOut {
 
 /// Computes the Relevé-vif: groups the individuals of `lvwIn` by the text columns that stand before `Number`
 /// in `lvwOut`, and writes one row a group with its years and its count. `lvwIn` stands in group-key order
-/// after. An empty `lvwIn` changes nothing.
-void CalcOuptut(ArrangedTables& tables, Feedback& feedback);
+/// after. Those who are hidden as living are in no group. An empty `lvwIn` changes nothing.
+void CalcOuptut(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living);
+
+/// Computes the list anew when it was computed with others hidden than now, so that no output shows somebody
+/// whom the options hide since. The groups keep their marks.
+void HideInList(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living);
 
 }  // namespace swiftroll::modCalcOut

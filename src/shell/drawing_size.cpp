@@ -65,9 +65,10 @@ std::uint64_t EstimateDrawings(Application& app, const std::vector<std::int32_t>
                            p.clipboard, p.keyboard, p.desktop, p.settings, p.preview, p.network, p.mail};
     const auto nothing = [] { return Text(); };
     Feedback quiet(quietPorts, app, {nothing, nothing, nothing});
+    const modPrivacy::Living living(app, app, p.clock);
     const auto bytesOf = [&](const std::vector<std::int32_t>& some) {
         files.bytes = 0;
-        write({app, app, quiet}, files, some);
+        write({app, app, quiet, living}, files, some);
         return static_cast<double>(files.bytes);
     };
     std::vector<std::int32_t> few, more;

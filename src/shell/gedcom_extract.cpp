@@ -47,13 +47,14 @@ void GedcomExtract::cmdSaveGed_Click() {
     std::unique_ptr<File> out;
     std::optional<modSaveGed::ExtractWriter> writer;
     const ScopedFlag wait(app_.bWaitCursor);
+    const modPrivacy::Living living(app_, app_, app_.ports.clock);
     app_.trail.GuardElse(
         "cmdSaveGed_Click",
         [&] {
             // The input first: without it, nothing of an older output is lost.
             auto [records, families] = lines_.OpenTwice(input);
             out = app_.ports.files.Open(output, Files::Mode::Write);
-            writer.emplace(app_, lines_, input,
+            writer.emplace(app_, living, lines_, input,
                            modSaveGed::ExtractWriter::Input{std::move(records), std::move(families)}, *out);
             step = "Write";
             writer->Write();

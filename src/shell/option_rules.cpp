@@ -36,6 +36,11 @@ void BindOptionRules(OptionRecord& options) {
         if (text > "9" || text < "0") options.txtINDEX.SetText("1");
     };
     options.txtINDEX.Accepts = [](TextView text) { return WholePart(text).has_value(); };
+    options.txtPrivateYears.Accepts = [](TextView text) { return ParseDecimal(text).value_or(0) >= 1; };
+    options.txtPrivateYears.OnLostFocus = [&options] {
+        TextBox& years = options.txtPrivateYears;
+        if (!years.Accepts(years.Get())) years.SetText(OptionRecord::kDefaultPrivateYears);
+    };
     const auto bindLimit = [](CheckBox& check, TextBox& limit, TextView standard) {
         limit.Accepts = [](TextView text) { return WholePart(text).value_or(0) >= 1; };
         limit.OnLostFocus = [&check, &limit, standard] { CheckLimit(check, limit, standard); };

@@ -106,7 +106,8 @@ void PathDrawing::DrawPaths(bool bSpouses, bool bHtml, bool bAll) {
     const ColumnId previousSortKey = app_.lvwKinship.SortKey();
     app_.lvwKinship.SortBy(Kinship::SeqNr, 0);
     const std::vector<std::int32_t> rows = RowsToDraw(bAll);
-    const modKinshipOutput::DrawingSource source{app_, app_, app_};
+    const modPrivacy::Living living(app_, app_, app_.ports.clock);
+    const modKinshipOutput::DrawingSource source{app_, app_, app_, living};
     std::unique_ptr<modKinshipOutput::KinshipDocument> document;
     if (rows.empty()) {
         MessageBox box;
@@ -114,8 +115,7 @@ void PathDrawing::DrawPaths(bool bSpouses, bool bHtml, bool bAll) {
         box.text = Concat({"Aucune parenté à écrire."_t, kLineEnd, "Fichier non créé."_t});
         app_.ports.dialogs.Show(box);
     } else if (!bHtml) {
-        document =
-            std::make_unique<modPrint::KinshipPrint>(source, search_.sKinshipTitle, app_.ports.preview);
+        document = std::make_unique<modPrint::KinshipPrint>(source, ShownTitle(living), app_.ports.preview);
     } else if (MayWriteDrawings(rows, bSpouses)) {
         document = NewDrawingFile(source, app_.ports.files);
     }
@@ -150,7 +150,7 @@ bool PathDrawing::DrawRows(Trail& trail, const std::vector<std::int32_t>& rows, 
 std::unique_ptr<modKinshipOutput::KinshipDocument> PathDrawing::NewDrawingFile(
     const modKinshipOutput::DrawingSource& source, Files& files) const {
     const Text name = app_.cboKinship.Get();
-    const Text& title = search_.sKinshipTitle;
+    const Text title = ShownTitle(source.living);
     if (const modDrawingFiles::DrawingFormat* format = modDrawingFiles::FormatOf(name)) {
         return std::make_unique<modPrint::KinshipFile>(
             source, title,
@@ -171,6 +171,18 @@ std::vector<std::int32_t> PathDrawing::RowsToDraw(bool bAll) {
         if (isDrawn) rows.push_back(i);
     }
     return rows;
+}
+
+Text PathDrawing::ShownTitle(const modPrivacy::Living& living) const {
+    return modKinship::Search::TitleOf(ShownPair(living));
+}
+
+Text PathDrawing::ShownPair(const modPrivacy::Living& living) const {
+    const bool hidesFrom = living.IsLiving(search_.sKinshipFromId);
+    const bool hidesTo = living.IsLiving(search_.sKinshipToId);
+    if (!hidesFrom && !hidesTo) return search_.sKinshipPair;
+    return modKinship::Search::PairOf(hidesFrom ? modPrivacy::kLivingName : search_.sKinshipFrom,
+                                      hidesTo ? modPrivacy::kLivingName : search_.sKinshipTo);
 }
 
 /// In a drawing with spouses a child's box stands in the gap between its parents, so that both must be equal.
@@ -214,7 +226,7 @@ bool PathDrawing::CheckWidths() {
 }
 
 void PathDrawing::cmdCopyTitle2kinship_Click() {
-    Text pair = search_.sKinshipPair;
+    Text pair = ShownPair(modPrivacy::Living(app_, app_, app_.ports.clock));
     for (char& c : pair) {
         if (TextView("'\"/\\:*?|").find(c) != TextView::npos) c = ' ';
     }

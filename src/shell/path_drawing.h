@@ -35,6 +35,9 @@ class PathDrawing {
                   modKinshipOutput::KinshipDocument& document);
     std::unique_ptr<modKinshipOutput::KinshipDocument> NewDrawingFile(
         const modKinshipOutput::DrawingSource& source, Files& files) const;
+    /// The names of the pair, without those of the living.
+    Text ShownPair(const modPrivacy::Living& living) const;
+    Text ShownTitle(const modPrivacy::Living& living) const;
     bool CheckWidths();
     void cmdCopyTitle2kinship_Click();
     void cmdFont_Click();

@@ -81,11 +81,12 @@ void Reading::cboLoad_Click() {
 void Reading::chkProcFamilies_Click() { EnableFamilyCommands(app_.bFamiliesRead); }
 
 void Reading::EnableFamilyCommands(bool enabled) {
-    commands_.cmdFindPath.Enabled = commands_.cmdSaveGed.Enabled = commands_.mnuFindPath.Enabled = enabled;
+    commands_.cmdFindPath.Enabled = commands_.cmdSaveGed.Enabled =
+        commands_.mnuFindPath.Enabled = enabled;
 }
 
 void Reading::cmdCalcOutput_Click() {
-    modCalcOut::CalcOuptut(app_, app_);
+    modCalcOut::CalcOuptut(app_, app_, modPrivacy::Living(app_, app_, app_.ports.clock));
     app_.ShowTab(Tab::Out);
     SetAllColumnIcons(app_);
 }

@@ -1,5 +1,6 @@
 #include "shell/writing.h"
 
+#include "list/calc_output.h"
 #include "shell/file_names.h"
 #include "shell/settings/history.h"
 #include "text/edit.h"
@@ -63,6 +64,7 @@ void Writing::WriteSwiftFile(bool bSelectedOnly) {
     const Text out = app_.cboSwiftOut.Get(), model = app_.cboFileModel.Get(), sXslFile = StylesheetOf(out);
     bWriteComplete = true;
     if (format.NeedsModel(!sXslFile.empty()) && ModelIsMissing(model)) return;
+    modCalcOut::HideInList(app_, app_, modPrivacy::Living(app_, app_, app_.ports.clock));
     const modGenFileFromModel::ListOrigin origin{app_.cboGedIn.Get(), lines_.lNrNames, lines_.lNrLines};
     bWriteComplete = format.write({app_, app_, app_, origin, app_.ports.files, app_.ports.clock, app_},
                                   format, {out, model, sXslFile, bSelectedOnly});

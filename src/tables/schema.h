@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tables/death_records.h"
 #include "tables/table.h"
 
 namespace swiftroll {
@@ -26,6 +27,8 @@ struct TableSet {
     Table lvwFamilyXref;
     /// Lines of the kinship paths found.
     Table lvwKinship;
+    /// Who of lvwIn has died.
+    DeathRecords deaths;
 
     /// Summaries, which tell anew what the others hold: one row for each kinship path found, and one for each
     /// blood relative of somebody.

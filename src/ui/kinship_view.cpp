@@ -34,7 +34,9 @@ QRectF RectangleOf(const modKinshipOutput::CellRectangle& place) {
 }  // namespace
 
 KinshipView::KinshipView(Presenter& presenter)
-    : presenter_(presenter), picture_({presenter.Main(), presenter.Main(), presenter.Main()}) {
+    : presenter_(presenter),
+      nobodyHidden_(presenter.Main()),
+      picture_({presenter.Main(), presenter.Main(), presenter.Main(), nobodyHidden_}) {
     QAccessible::installFactory(KinshipViewAccess::Make);
     setObjectName(QStringLiteral("kinshipView"));
     setAccessibleName(QStringLiteral("Dessin du chemin"));

@@ -56,6 +56,7 @@ class KinshipView : public QWidget {
     void PaintFocus(QPainter& painter) const;
 
     Presenter& presenter_;
+    modPrivacy::Living nobodyHidden_;
     modKinshipOutput::PathPicture picture_;
     QtFontShapes shapes_;
     Text followed_;  // the row that was followed last

@@ -64,7 +64,11 @@ QWidget* BuildOptionsTab(frmMain& main, Binder& binder) {
     outer->setSpacing(kSpacing);
     Frame misc(QStringLiteral("Divers"), QStringLiteral("frameMiscOpt"));
     misc.grid->addWidget(NewCheckBox(binder, main.chkTips), 0, 0);
-    misc.grid->setColumnStretch(1, 1);
+    misc.grid->addWidget(NewCheckBox(binder, main.chkPrivate), 1, 0);
+    misc.grid->addWidget(NewTextBox(binder, main.txtPrivateYears, 6, QStringLiteral("Nombre d'années")), 1,
+                         1);
+    misc.grid->addWidget(NewLabel(QStringLiteral("ans")), 1, 2);
+    misc.grid->setColumnStretch(3, 1);
     outer->addWidget(ReadingFrame(main, binder));
     outer->addWidget(FindFrame(main, binder));
     auto* kinship = new QHBoxLayout;

@@ -21,6 +21,13 @@ TEST_F(Extrait, WritesTheMarkedIndividuals) {
     EXPECT_EQ(Bytes("all.ged"), kFamily);
 }
 
+TEST_F(Extrait, HidesTheLivingOfTheDayThatTheEnvironmentTells) {
+    environment = {"SOURCE_DATE_EPOCH=0"};
+    const std::string out =
+        Cli({"extrait", "f.ged", "-o", "-", "-q", "--marquer", "@I1@,@I3@", "--set", "chkPrivate=1"}).out;
+    EXPECT_EQ(CountOf("Vivant", out), 1u) << "born in 1880, not in 1850: " << out;
+}
+
 TEST_F(Extrait, IsRefusedWhereDataWouldBeLost) {
     const Outcome existing = Cli({"extrait", "f.ged", "-o", "f.ged", "-f"});
     EXPECT_EQ(existing.code, 1);

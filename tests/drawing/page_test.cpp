@@ -19,8 +19,9 @@ constexpr TextView kCouple =
 
 struct Couple : AfterRead {
     Couple() : AfterRead(WithCrLf(kCouple)) {}
-    Text Person(TextView id) { return CellTexts({main, main, main}, font).IndividualInfos(id); }
-    Text Marriage(TextView id) { return CellTexts({main, main, main}, font).FamilyInfos(id); }
+    CellTexts Texts() { return {{main, main, main, nobody}, font}; }
+    Text Person(TextView id) { return Texts().IndividualInfos(id); }
+    Text Marriage(TextView id) { return Texts().FamilyInfos(id); }
     void SetAll(bool on) {
         for (CheckBox* box :
              {&main.chkIndiID, &main.chkIndiBirthDate, &main.chkIndiBirthPlace, &main.chkIndiDeathDate,
@@ -36,6 +37,7 @@ struct Couple : AfterRead {
         return files.contents["kin.html"];
     }
     CellFont font;
+    const modPrivacy::Living nobody{main, main, clock};
 };
 
 TEST(CellTexts, TellWhatTheOptionsAskFor) {
