@@ -87,6 +87,8 @@ void ContextMenu::ModifyContextMenu() {
     commands_.mnuFind.Enabled = commands_.mnuFindNext.Enabled = true;
     const bool isIndividual = context.sIdKind == "I";
     commands_.mnuAllKin.Enabled = isIndividual && lists_.lHitRow >= 0 && app_.bFamiliesRead;
+    commands_.mnuKinFrom.Enabled = commands_.mnuKinTo.Enabled =
+        isIndividual && lists_.lHitRow >= 0 && app_.bFamiliesRead;
     const bool isPerson = isIndividual || context.sIdKind == "F";
     for (Command* command : {&commands_.mnuAddIndi, &commands_.mnuAddParents, &commands_.mnuRemoveIndi,
                              &commands_.mnuRemoveParents}) {

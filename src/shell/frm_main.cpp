@@ -39,6 +39,7 @@ frmMain::frmMain(const Ports& applicationPorts)
       contextMenu(*this, *this, selection, lists),
       kinshipRequest(*this, *this, kinshipDialog, kinshipSearch, drawing),
       pathChoice(*this, kinshipSearch),
+      kinshipPair(*this, *this, selection, lists, kinshipRequest),
       writing(*this, *this, cmdSelectDirSwiftOut, reader.lines, fileCombos),
       reading_(*this, *this, reader, drawing),
       extract_(*this, *this, reader.lines, fileCombos),

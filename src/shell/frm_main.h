@@ -13,6 +13,7 @@
 #include "shell/frm_relatives.h"
 #include "shell/frm_splash.h"
 #include "shell/gedcom_extract.h"
+#include "shell/kinship_pair.h"
 #include "shell/kinship_request.h"
 #include "shell/lists.h"
 #include "shell/parameter_sets.h"
@@ -77,6 +78,7 @@ class frmMain : public Application, public MainCommands {
     ContextMenu contextMenu;
     KinshipRequest kinshipRequest;
     PathChoice pathChoice;
+    KinshipPair kinshipPair;
     Writing writing;
 
   private:

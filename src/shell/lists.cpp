@@ -214,4 +214,14 @@ Text Lists::DragText() {
     return lines;
 }
 
+Text Lists::DragPerson() {
+    Text sId;
+    OnActiveTable("DragPerson", [&](Table& table) {
+        modSelectionIn::SelectionContext context;
+        context.SetClickedCell(app_, table, lHitCol);
+        sId = context.IndividualOf(table, lHitRow).value_or(Text());
+    });
+    return sId;
+}
+
 }  // namespace swiftroll

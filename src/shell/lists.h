@@ -29,6 +29,9 @@ class Lists {
     void lvw_ColumnClick(Table& table, Column& column);
     /// The marked rows of the active table as a text to drag.
     Text DragText();
+    /// The identifier of the person whom a drag takes along, that of the cell of the last hit test; empty
+    /// where it speaks of nobody.
+    Text DragPerson();
 
     /// Puts the marked rows of the tab first, and tells how many there are.
     void SSTab1_DblClick();

@@ -47,7 +47,12 @@ KinshipCommands::KinshipCommands(Window& window)
                    "Recherche la parenté entre les 2 individus sélectionnés dans la liste en entrée."_t},
                   {}, false),
       mnuFindPath(window, {"mnuFindPath", "Recherche Parenté"_t}, {}, false),
-      mnuAllKin(window, {"mnuAllKin", "Toute la parenté..."_t}, {}, false) {}
+      mnuAllKin(window, {"mnuAllKin", "Toute la parenté..."_t}, {}, false),
+      cmdFindPair(window, {"cmdFindPair", "Rechercher", "Recherche la parenté de ces deux personnes."_t}, {},
+                  false),
+      cmdSwapPair(window, {"cmdSwapPair", "Inverser", "Échange les deux personnes."_t}),
+      mnuKinFrom(window, {"mnuKinFrom", "Parenté : de cette personne"_t}, {}, false),
+      mnuKinTo(window, {"mnuKinTo", "Parenté : vers cette personne"_t}, {}, false) {}
 
 ExtractCommands::ExtractCommands(Window& window)
     : cmdSaveGed(window, {"cmdSaveGed", "Ecrire"_t}, {}, false),
@@ -160,6 +165,8 @@ Menu MainCommands::TableMenu() {
          {mnuKinship},
          {mnuFindPath},
          {mnuAllKin},
+         {mnuKinFrom},
+         {mnuKinTo},
          {mnuDrawKinship,
           {{mnuDrawKinshipOne}, {mnuDrawKinshipOneSpouse}, {mnuDrawKinshipAll}, {mnuDrawKinshipAllSpouse}}}}};
 }

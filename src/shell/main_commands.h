@@ -40,6 +40,8 @@ struct KinshipCommands {
 
     Command cmdFindPath, mnuFindPath;
     Command mnuAllKin;
+    /// The pair of the slots: its search and its turn; and what puts the person of a cell there.
+    Command cmdFindPair, cmdSwapPair, mnuKinFrom, mnuKinTo;
 };
 
 struct ExtractCommands {

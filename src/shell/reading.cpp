@@ -81,7 +81,7 @@ void Reading::cboLoad_Click() {
 void Reading::chkProcFamilies_Click() { EnableFamilyCommands(app_.bFamiliesRead); }
 
 void Reading::EnableFamilyCommands(bool enabled) {
-    commands_.cmdFindPath.Enabled = commands_.cmdSaveGed.Enabled =
+    commands_.cmdFindPath.Enabled = commands_.cmdFindPair.Enabled = commands_.cmdSaveGed.Enabled =
         commands_.mnuFindPath.Enabled = enabled;
 }
 

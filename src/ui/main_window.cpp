@@ -17,6 +17,7 @@
 #include "menus.h"
 #include "message_bar_widget.h"
 #include "option_tabs.h"
+#include "person_edit.h"
 #include "qt_text.h"
 #include "themed_icon.h"
 #include "turning_splitter.h"
@@ -36,6 +37,18 @@ QWidget* Scrolled(QWidget* page) {
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(page);
     return area;
+}
+
+/// A page with a line above it.
+QWidget* Below(QWidget* line, QWidget* page) {
+    auto* both = new QWidget;
+    auto* column = new QVBoxLayout(both);
+    column->setContentsMargins(0, kTableMargin, 0, 0);
+    column->setSpacing(0);
+    line->layout()->setContentsMargins(kTableMargin, 0, kTableMargin, 0);
+    column->addWidget(line);
+    column->addWidget(page, 1);
+    return both;
 }
 
 /// A local file of a drop, or an empty text.
@@ -123,15 +136,16 @@ QWidget* MainWindow::BuildTabs() {
     tabs_ = new QTabWidget;
     tabs_->setObjectName(QStringLiteral("SSTab1"));
     tabs_->setAccessibleName(QStringLiteral("Listes et options"));
-    QWidget* const pages[] = {TablePage({&main_.lvwIn}),
-                              TablePage({&main_.lvwOut}),
-                              TablePage({&main_.lvwFamilyXref}),
-                              TablePage({&main_.lvwXref, &main_.lvwXref1}),
-                              TablePage({&main_.lvwFamily}),
-                              WithPicture(TablePage({&main_.lvwPaths, &main_.lvwKinship}, 1)),
-                              Scrolled(BuildFormatTab(main_, binder_, presenter_)),
-                              Scrolled(BuildLinksTab(main_, binder_, presenter_)),
-                              Scrolled(BuildOptionsTab(main_, binder_))};
+    QWidget* const pages[] = {
+        TablePage({&main_.lvwIn}),
+        TablePage({&main_.lvwOut}),
+        TablePage({&main_.lvwFamilyXref}),
+        TablePage({&main_.lvwXref, &main_.lvwXref1}),
+        TablePage({&main_.lvwFamily}),
+        Below(BuildKinshipSlots(presenter_), WithPicture(TablePage({&main_.lvwPaths, &main_.lvwKinship}, 1))),
+        Scrolled(BuildFormatTab(main_, binder_, presenter_)),
+        Scrolled(BuildLinksTab(main_, binder_, presenter_)),
+        Scrolled(BuildOptionsTab(main_, binder_))};
     for (std::size_t i = 0; i < std::size(pages); ++i) {
         tabs_->addTab(pages[i], ToQt(kTabCaptions[i]));
     }
@@ -159,6 +173,9 @@ QWidget* MainWindow::BuildTabs() {
         .SetHint(QStringLiteral("Sélectionnez ou cochez deux individus dans l'onglet « Entrée »,\n"
                                 "puis appuyez sur « Rech. Parenté »."));
     tabs_->setCornerWidget(BuildFavorites());
+    // A person of any list can be dragged to the slots of the kinship.
+    tabs_->tabBar()->setAcceptDrops(true);
+    tabs_->tabBar()->setChangeCurrentOnDrag(true);
     // All tabs are seen: where the letters are larger, the window is too.
     tabs_->setUsesScrollButtons(false);
     connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::OnTabChosen);

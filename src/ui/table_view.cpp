@@ -14,6 +14,7 @@
 #include "column_marks.h"
 #include "layout.h"
 #include "list_keys.h"
+#include "person_edit.h"
 #include "qt_text.h"
 
 namespace swiftroll::ui {
@@ -329,11 +330,17 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TableView::StartDrag() {
-    Text text;
-    presenter_.Act([&] { text = presenter_.Main().lists.DragText(); });
+    Text text, person;
+    presenter_.Act([&] {
+        text = presenter_.Main().lists.DragText();
+        person = presenter_.Main().lists.DragPerson();
+    });
     if (text.empty()) return;
     auto* content = new QMimeData;
     content->setText(ToQt(text));
+    if (!person.empty()) {
+        content->setData(QLatin1String(kPersonFormat), QByteArray::fromStdString(person));
+    }
     auto* drag = new QDrag(this);
     drag->setMimeData(content);
     drag->exec(Qt::CopyAction);
