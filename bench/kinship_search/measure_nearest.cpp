@@ -13,21 +13,21 @@ namespace {
 
 using namespace swiftroll::modKinship;
 
-/// Writes every path that is found, so many at most.
+/// Writes every path that is found.
 class Writing : public PathVisitor {
   public:
-    Writing(PathWriter& writer, std::int64_t most) : writer_(writer), most_(most) {}
+    explicit Writing(PathWriter& writer) : writer_(writer) {}
     bool Visit(std::int32_t) override { return true; }
     bool GoOn() override { return true; }
     bool Found(std::span<const std::int32_t> links) override {
         writer_.OutLink(++count_, links);
-        return count_ < most_;
+        return true;
     }
     std::int64_t Count() const { return count_; }
 
   private:
     PathWriter& writer_;
-    std::int64_t most_, count_ = 0;
+    std::int64_t count_ = 0;
 };
 
 /// What every search between two people does before it walks.
@@ -70,20 +70,11 @@ NearestFigures MeasureNearest(swiftroll::frmMain& main, const std::string& from,
     const StepGraph steps(links.core.graph, links.island.KindsOf(links.core.links), links.core.to);
     figures.steps = watch.Lap();
     PathWriter writer(main, links.island, links.core);
-    Writing visitor(writer, count);
+    Writing visitor(writer);
     NearestPaths(steps, links.core.from, LimitsOf(main)).Run(visitor, count);
     figures.search = watch.Lap();
     figures.paths = visitor.Count();
     return figures;
-}
-
-std::int64_t WriteFirstPaths(swiftroll::frmMain& main, const std::string& from, const std::string& to,
-                             std::int64_t most) {
-    const Prepared links(main, from, to);
-    PathWriter writer(main, links.island, links.core);
-    Writing visitor(writer, most);
-    PathWalk(links.core.graph, links.core.from, links.core.to).Run(visitor);
-    return visitor.Count();
 }
 
 double MeasureNames(swiftroll::frmMain& main) {

@@ -20,11 +20,6 @@ struct NearestFigures {
 NearestFigures MeasureNearest(swiftroll::frmMain& main, const std::string& from, const std::string& to,
                               std::int64_t count);
 
-/// Fills the tables of `main` with the first paths that a search for all finds, so many at most; gives their
-/// number.
-std::int64_t WriteFirstPaths(swiftroll::frmMain& main, const std::string& from, const std::string& to,
-                             std::int64_t most);
-
 /// Seconds that the names and degrees of all paths in the tables of `main` take.
 double MeasureNames(swiftroll::frmMain& main);
 
