@@ -20,8 +20,9 @@ FoundCharset CharsetOfHead(TextView head) {
     std::array<std::size_t, 2> nuls{};
     for (std::size_t at = 0; at < head.size(); ++at) nuls[at % 2] += head[at] == '\0' ? 1 : 0;
     const std::size_t most = head.size() / 4;
-    if (nuls[0] == 0 && nuls[1] > most) return {Charset::Utf16LittleEndian, ToldBy::Bytes};
-    if (nuls[1] == 0 && nuls[0] > most) return {Charset::Utf16BigEndian, ToldBy::Bytes};
+    // A few letters of other scripts, such as U+0100, have their NUL on the other side.
+    if (nuls[1] > most && nuls[0] < nuls[1] / 4) return {Charset::Utf16LittleEndian, ToldBy::Bytes};
+    if (nuls[0] > most && nuls[1] < nuls[0] / 4) return {Charset::Utf16BigEndian, ToldBy::Bytes};
     return {};
 }
 
@@ -61,6 +62,11 @@ bool Decoder::Declare(TextView name) {
         if (isOpen && (found_.toldBy == ToldBy::Guess || !CharsetOfName(name))) Tell();
     }
     return found_.toldBy != ToldBy::Unknown;
+}
+
+const FoundCharset& Decoder::Look() {
+    if (found_.toldBy == ToldBy::Nothing) Tell();
+    return found_;
 }
 
 void Decoder::Tell() {

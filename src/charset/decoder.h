@@ -30,6 +30,8 @@ class Decoder {
     }
 
     const FoundCharset& Found() const { return found_; }
+    /// The same, told by the whole file where no value needed it so far.
+    const FoundCharset& Look();
     /// Lets go of the file, when all is read.
     void Close() { file_.reset(); }
 

@@ -62,10 +62,21 @@ void AppendBytes(const icu::UnicodeString& text, Text& out, Otherwise otherwise)
     }
 }
 
+/// The text without the marks of a letter that are more than any script has: composing takes the square of
+/// their number.
+icu::UnicodeString Bounded(std::u32string_view text) {
+    constexpr int kMostMarks = 30;
+    icu::UnicodeString bounded;
+    int marks = 0;
+    for (const char32_t character : text) {
+        marks = u_getCombiningClass(static_cast<UChar32>(character)) == 0 ? 0 : marks + 1;
+        if (marks <= kMostMarks) bounded.append(static_cast<UChar32>(character));
+    }
+    return bounded;
+}
+
 icu::UnicodeString Composed(std::u32string_view text) {
-    static_assert(sizeof(char32_t) == sizeof(UChar32));
-    auto whole = icu::UnicodeString::fromUTF32(reinterpret_cast<const UChar32*>(text.data()),
-                                               static_cast<std::int32_t>(text.size()));
+    icu::UnicodeString whole = Bounded(text);
     UErrorCode error = U_ZERO_ERROR;
     const icu::Normalizer2* const composer = icu::Normalizer2::getNFCInstance(error);
     if (U_FAILURE(error) != 0) return whole;

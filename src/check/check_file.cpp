@@ -71,6 +71,12 @@ Report CheckFile(Application& app, const modReadGedcom::LineReader& lines) {
     FileRecords records;
     FilePass pass(app, decoder ? &*decoder : nullptr, report.findings, records);
     const bool isThrough = pass.Run(std::move(lines.OpenTwice(file).front()));
+    if (found && found->toldBy == charset::ToldBy::Nothing &&
+        decoder->Look().charset != charset::Charset::Ascii) {
+        // Only what no list shows, such as notes, goes beyond ASCII.
+        found->charset = decoder->Found().charset;
+        found->toldBy = decoder->Found().toldBy;
+    }
     CheckCharset(found, pass.Declared(), report.findings);
     report.isComplete = isThrough && app.lvwIn.Clearings() == clearings;
     if (report.isComplete) CheckWhole(app, records, report.findings);

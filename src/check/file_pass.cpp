@@ -199,21 +199,21 @@ void FilePass::TakeCharset() {
 }
 
 void FilePass::TakeDate() {
-    const modReadGedcom::DateReading date =
-        modReadGedcom::ReadDate(line_.sValue, app_.chkCalendars.Checked());
+    const TextView value = decoder_ != nullptr ? decoder_->Decode(line_.sValue) : line_.sValue;
+    const modReadGedcom::DateReading date = modReadGedcom::ReadDate(value, app_.bCalendarsRead);
     const modReadGedcom::Years& years = date.years;
-    if (years.AreNone()) {
-        // Only the grammar of the calendars may have years for it.
+    if (years.AreNone() || date.isMisread) {
+        // Only the grammar of the calendars has the years of a date that is misread.
         const TextView remedy =
             date.isMisread ? " (« Lire les calendriers et toutes les années » la lit)"_t : TextView();
-        Tell(Rule::NoYear,
-             Concat({Shown(line_.sValue), " : ", NoYearReason(line_.sValue, date), remedy, "."}));
+        Tell(Rule::NoYear, Concat({Quoted(value), " : ", NoYearReason(value, date), remedy, "."}));
     }
-    const OpenEnds ends = OpenEndsOf(line_.sValue);
+    // Years that the date does not mean contradict nothing.
+    const OpenEnds ends = date.isMisread ? OpenEnds{true, true} : OpenEndsOf(value);
     if (event_ == Event::Birth) records_.persons.back().birth = ends;
     if (event_ == Event::Death) records_.persons.back().death = ends;
     FamilyRecord* const family = event_ == Event::Marriage ? &records_.families.back() : nullptr;
-    if (family == nullptr || years.AreNone() || family->marriageLine != 0) return;
+    if (family == nullptr || years.AreNone() || date.isMisread || family->marriageLine != 0) return;
     family->marriageLine = number_;
     if (!ends.before) family->marriage.first = static_cast<std::int16_t>(years.lYearMin);
     if (!ends.after) family->marriage.last = static_cast<std::int16_t>(years.lYearMax);

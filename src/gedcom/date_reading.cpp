@@ -80,7 +80,7 @@ DateReading ReadDate(TextView value, bool calendars) {
 }
 
 Text NoYearReason(TextView value, const DateReading& reading) {
-    if (!reading.years.AreNone()) return {};
+    if (!reading.years.AreNone() && !reading.isMisread) return {};
     if (reading.kind != DateKind::Plain) return Concat({"date "_t, DateKindWords(reading.kind)});
     const TextView trimmed = Trim(value);
     if (trimmed.empty()) return Text("date vide"_t);

@@ -17,8 +17,8 @@ struct DateReading {
 /// does not cover; else by `GetYears` alone.
 DateReading ReadDate(TextView value, bool calendars);
 
-/// Why a value gave no year, as the end of a French sentence: "date du calendrier républicain"; empty when it
-/// gave one. Those whose reading is misread have a year for `chkCalendars`.
+/// Why a value gave no year, or one that it does not mean, as the end of a French sentence: "date du
+/// calendrier républicain"; empty when it gave its own. Those that are misread have it for `chkCalendars`.
 Text NoYearReason(TextView value, const DateReading& reading);
 
 }  // namespace swiftroll::modReadGedcom

@@ -59,6 +59,9 @@ class LineReader : public GedcomLine {
     /// UTF-16 that is UTF-8, in memory. @throws Failure FileNotFound, FileAccess
     std::array<std::unique_ptr<File>, 2> OpenTwice(TextView sFile) const;
 
+    /// The number of the current line as an editor counts, with the blank ones; 0 when the file is closed.
+    std::uint32_t LineNumber() const { return scanner_ ? scanner_->LineNumber() : 0; }
+
     std::int32_t lNrLines = 0;
     std::int32_t lNrNames = 0;
     std::int16_t iBaseLevel = 0;

@@ -66,7 +66,7 @@ void Reader::ReadLines() {
         }
     }
     constexpr std::int32_t kEndedByLevel = 1;
-    if (result == kEndedByLevel) findings.endingLine = lines.lNrLines;
+    if (result == kEndedByLevel) findings.endingLine = static_cast<std::int32_t>(lines.LineNumber());
     Finish(links);
 }
 

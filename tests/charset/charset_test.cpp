@@ -174,6 +174,15 @@ std::pair<Text, std::int64_t> Decoded(TextView file, TextView name, TextView val
     return {decoded, decoder.Found().transliterated};
 }
 
+TEST(Charsets, Utf16WithoutAMarkMayHoldLettersWithANulOnTheOtherSide) {
+    MemoryFiles files;
+    Text& file = files.contents["f"];
+    for (const char c : TextView("0 HEAD\n0 @I1@ INDI\n1 NAME ")) file += {c, '\0'};
+    file += TextView("\x00\x01\x00\x4E", 4);
+    const charset::Decoder decoder(files.Open("f", Files::Mode::Read));
+    EXPECT_EQ(NameOf(decoder.Found().charset), NameOf(Charset::Utf16LittleEndian));
+}
+
 TEST(Charsets, AnselPutsMarksBehindTheirLetters) {
     Text real;
     for (int i = 0; i < 50; ++i) real += "\xE2\x65\xE1\x65";
@@ -215,6 +224,10 @@ TEST(Charsets, WhatWindows1252HasNotIsTransliterated) {
         EXPECT_EQ(Decoded("\xEF\xBB\xBF", "UTF-8", c.value), std::pair(Text(c.decoded), c.transliterated))
             << c.value;
     }
+    // More marks than any letter has take no time.
+    Text marks = "e";
+    for (int i = 0; i < 100000; ++i) marks += "\u0301\u0323";
+    EXPECT_EQ(Decoded("\xEF\xBB\xBF", "UTF-8", marks).first, "e");
     EXPECT_EQ(Decoded("", "ISO-8859-15", "\xA4\xBD\x92\xE9").first, "€œ’é"_t);
 }
 

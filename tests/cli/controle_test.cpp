@@ -39,7 +39,7 @@ TEST_F(Controle, TellsTheFormOfLines) {
         Findings("1 HEAD\r\n\r\nVoici un texte\r\n0 @P@ INDI\r\n1 NAME Jean /Roy/\r\n3 SEX M\r\n1 SEX M\r\n"
                  "x1 NOTE a\r\n1 \xE9 b\r\n1 NOTE fin",
                  1),
-        "1\tinfo\t\t\t\tRien n'est déclaré ; lu comme : ASCII.\n"
+        "1\tinfo\t\t\t\tRien n'est déclaré ; lu comme : ANSI (Windows-1252), le plus plausible.\n"
         "4\tavertissement\t1\t\t\tLe fichier commence au niveau 1 : « 1 HEAD »\n"
         "3\terreur\t3\t\t\t« Voici un texte »\n"
         "4\tavertissement\t6\t@P@\tRoy, Jean\tDu niveau 1 au niveau 3 : « 3 SEX M »\n"
@@ -58,7 +58,7 @@ TEST_F(Controle, TellsLostReferencesAndLinksOfOneSide) {
     EXPECT_EQ(
         Findings(file.Text(), 1),
         "42\tinfo\t\t\t\tÎlot 0004 : 1 personne.\n"
-        "1\tinfo\t2\t\t\tDéclaré : « ANSI » ; lu comme : ASCII.\n"
+        "1\tinfo\t2\t\t\tDéclaré : « ANSI » ; lu comme : UTF-8, disent les octets.\n"
         "39\terreur\t3\t@P@\tRoy, Jean\tRoy, Jean (@P@), enfant de Roy, Jean (@P@).\n"
         "42\tinfo\t3\t@P@\tRoy, Jean\tÎlot 0001 : 1 personne, la première : Roy, Jean (@P@).\n"
         "14\terreur\t7\t@P@\tRoy, Jean\tFAMS @G@ : la fiche @G@ n'a pas de ligne HUSB ni WIFE vers @P@.\n"
@@ -98,6 +98,16 @@ TEST_F(Controle, TellsYearsThatContradictEachOther) {
         "32\tavertissement\t33\t@V@\t\tNaissance en 1700, décès en 1811 : 111 ans.\n"
         "42\tinfo\t33\t@V@\t\tÎlot 0002 : 1 personne, l'aînée : @V@, naissance en 1700.\n"
         "30\tavertissement\t40\t@V@\t\t« Pâques » : aucune année n'y est reconnue.\n");
+}
+
+TEST_F(Controle, TakesNoYearFromADateThatIsMisread) {
+    EXPECT_EQ(
+        Findings("0 HEAD\n1 CHAR ANSI\n0 @P@ INDI\n1 NAME Jean /Roy/\n1 SEX M\n" +
+                     Event("BIRT", "@#DHEBREW@ 5 TSH 5604") + Event("DEAT", "1900") + "0 TRLR\n",
+                 0),
+        "1\tinfo\t2\t\t\tDéclaré : « ANSI » ; lu comme : ASCII.\n"
+        "30\tavertissement\t7\t@P@\tRoy, Jean\t« @#DHEBREW@ 5 TSH 5604 » : date du calendrier hébraïque "
+        "(« Lire les calendriers et toutes les années » la lit).\n");
 }
 
 TEST_F(Controle, TellsCirclesSpellingsAndIslandsAndWhatIsCertainAlone) {
