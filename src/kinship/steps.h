@@ -15,7 +15,8 @@ namespace swiftroll::modKinship {
 struct PathCost {
     std::int32_t marriages = 0;
     std::int32_t lines = 0;
-    auto operator<=>(const PathCost&) const = default;
+    // The generated code compares with a literal 0.
+    auto operator<=>(const PathCost&) const = default;  // NOLINT(modernize-use-nullptr)
     PathCost operator+(const PathCost& other) const {
         return {marriages + other.marriages, lines + other.lines};
     }

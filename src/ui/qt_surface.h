@@ -23,7 +23,7 @@ class QtSurface : public modPreview::SheetSurface {
   public:
     /// With an `ink`, what stands on the ground beside the boxes has this colour. Both others outlive this.
     QtSurface(QPainter& painter, QtFontShapes& shapes, std::optional<QColor> ink = {})
-        : painter_(painter), shapes_(shapes), ink_(std::move(ink)) {}
+        : painter_(painter), shapes_(shapes), ink_(ink) {}
 
     void FillRectangle(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height,
                        std::uint32_t colour) override;
