@@ -3,6 +3,7 @@
 #include "app/french_date.h"
 #include "check/finding_columns.h"
 #include "text/code_page.h"
+#include "text/markup.h"
 #include "text/numbers.h"
 
 namespace swiftroll::modCheck {
@@ -24,30 +25,6 @@ tbody tr:nth-child(even) { background: #8881; }
 .info { border-left: .4rem solid #2a6f97; padding-left: .5rem; }
 )";
 
-Text Escaped(TextView text) {
-    Text escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                // No page may hold controls.
-                escaped += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
-        }
-    }
-    return escaped;
-}
-
 Text Counted(std::size_t count, TextView one, TextView several) {
     return Concat({Decimal(static_cast<std::int64_t>(count)), " ", count < 2 ? one : several});
 }
@@ -59,15 +36,15 @@ class Page {
     Page(const Report& report, File& file) : report_(report), findings_(report.findings), file_(file) {}
 
     void Write(const Product& product, const Moment& now) {
-        const Text title = Escaped(TitleOf(report_));
+        const Text title = EscapeMarkup(TitleOf(report_));
         Put(
             {"<!DOCTYPE html>\n<html lang=\"fr\">\n<head>\n<meta charset=\"utf-8\">\n"
              "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>",
              title, "</title>\n<style>\n", kStyle, "</style>\n</head>\n<body>\n<h1>", title, "</h1>\n<p>",
-             Escaped(SummaryOf(report_)), ".</p>\n"});
+             EscapeMarkup(SummaryOf(report_)), ".</p>\n"});
         WriteContents();
         for (const RuleFacts& facts : kRules) WriteRule(facts);
-        Put({"<footer><p>Généré par <a href=\""_t, Escaped(product.sWebAddress), "\">SwiftRoll</a> (v",
+        Put({"<footer><p>Généré par <a href=\""_t, EscapeMarkup(product.sWebAddress), "\">SwiftRoll</a> (v",
              product.sVersion, ") le ", ShortDate(now), "</p></footer>\n</body>\n</html>\n"});
         file_.Write(buffer_);
         file_.Close();
@@ -101,7 +78,7 @@ class Page {
             Put({"<tr>"});
             for (const FindingColumnTexts& column : kFindingColumns) {
                 if (!IsShown(column.column)) continue;
-                Put({"<td>", Escaped(CellOf(findings_, finding, column.column)), "</td>"});
+                Put({"<td>", EscapeMarkup(CellOf(findings_, finding, column.column)), "</td>"});
             }
             Put({"</tr>\n"});
         }

@@ -5,6 +5,7 @@
 #include "drawing/cell_texts.h"
 #include "text/code_page.h"
 #include "text/edit.h"
+#include "text/markup.h"
 #include "text/numbers.h"
 
 namespace swiftroll::modDrawingFiles {
@@ -15,30 +16,8 @@ using modKinshipOutput::Long2Color;
 constexpr std::int64_t kTwipsPerPixel = 15;
 constexpr std::int64_t kMargin = 150;  // beyond the drawings, as before them
 
-/// A text as UTF-8 that the file may hold: characters of markup are escaped, and what no XML text can hold
-/// is a blank.
-std::string Escaped(TextView text) {
-    std::string escaped;
-    for (const char c : ToUtf8(text)) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                escaped += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
-        }
-    }
-    return escaped;
-}
+/// A text as UTF-8 that the file may hold.
+std::string Escaped(TextView text) { return EscapeMarkup(ToUtf8(text)); }
 
 Text Rounded(double number) { return Decimal(std::llround(number)); }
 

@@ -3,31 +3,14 @@
 #include <algorithm>
 
 #include "text/code_page.h"
+#include "text/markup.h"
 
 namespace swiftroll::modCalcOut {
 namespace {
 
 constexpr std::size_t kPieceSize = std::size_t{1} << 16;
 
-std::string Escaped(TextView text) {
-    std::string escaped;
-    for (const char c : ToUtf8(text)) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            default:
-                escaped += c;
-        }
-    }
-    return escaped;
-}
+std::string Escaped(TextView text) { return EscapeMarkup(ToUtf8(text)); }
 
 std::vector<const Column*> ShownColumns(const Table& table) {
     std::vector<const Column*> columns;
