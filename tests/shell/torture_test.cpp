@@ -181,11 +181,11 @@ BoxAnswer Monkey::Show(const MessageBox& box) {
         internalFailure = box.text;
     if (isCalm_ || onlyLooks) {
         if (box.topic == BoxTopic::Recalculation) return BoxAnswer::No;
-        return box.buttons == BoxButtons::Ok || box.buttons == BoxButtons::OkCancel ? BoxAnswer::Ok
-                                                                                    : BoxAnswer::Yes;
+        return box.buttons < BoxButtons::YesNo ? BoxAnswer::Ok : BoxAnswer::Yes;
     }
     const std::vector<BoxAnswer> answers[] = {{BoxAnswer::Ok},
                                               {BoxAnswer::Ok, BoxAnswer::Cancel},
+                                              {BoxAnswer::Ok, BoxAnswer::Cancel, BoxAnswer::OkToAll},
                                               {BoxAnswer::Yes, BoxAnswer::No},
                                               {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}};
     return dice_.Pick(answers[static_cast<std::size_t>(box.buttons)]);
