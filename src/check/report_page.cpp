@@ -37,10 +37,9 @@ class Page {
 
     void Write(const Product& product, const Moment& now) {
         const Text title = EscapeMarkup(TitleOf(report_));
-        Put(
-            {"<!DOCTYPE html>\n<html lang=\"fr\">\n<head>\n<meta charset=\"utf-8\">\n"
-             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>",
-             title, "</title>\n<style>\n", kStyle, "</style>\n</head>\n<body>\n<h1>", title, "</h1>\n<p>",
+        Put({"<!DOCTYPE html>\n<html lang=\"fr\">\n<head>\n<meta charset=\"utf-8\">\n",
+             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>", title,
+             "</title>\n<style>\n", kStyle, "</style>\n</head>\n<body>\n<h1>", title, "</h1>\n<p>",
              EscapeMarkup(SummaryOf(report_)), ".</p>\n"});
         WriteContents();
         for (const RuleFacts& facts : kRules) WriteRule(facts);

@@ -79,14 +79,13 @@ void SvgFile::EndDrawing(std::int64_t, TextView title) {
 
 void SvgFile::Close() {
     const Text width = Decimal(right_ + kMargin), height = Decimal(bottom_ + kMargin);
-    file_->Write(
-        Concat({"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"",
-                Decimal((right_ + kMargin) / kTwipsPerPixel), "\" height=\"",
-                Decimal((bottom_ + kMargin) / kTwipsPerPixel), "\" viewBox=\"0 0 ", width, " ", height,
-                "\" xml:space=\"preserve\">\n<title>", Escaped(title_), "</title>\n<rect width=\"", width,
-                "\" height=\"", height,
-                "\" fill=\"#FFFFFF\"/>\n<g stroke-width=\"15\" stroke-linecap=\"square\">\n"}));
+    file_->Write(Concat({"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n",
+                         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"",
+                         Decimal((right_ + kMargin) / kTwipsPerPixel), "\" height=\"",
+                         Decimal((bottom_ + kMargin) / kTwipsPerPixel), "\" viewBox=\"0 0 ", width, " ",
+                         height, "\" xml:space=\"preserve\">\n<title>", Escaped(title_),
+                         "</title>\n<rect width=\"", width, "\" height=\"", height,
+                         "\" fill=\"#FFFFFF\"/>\n<g stroke-width=\"15\" stroke-linecap=\"square\">\n"}));
     file_->Write(drawings_);
     file_->Write(Concat({drawing_, "</g>\n</svg>\n"}));
     file_->Close();
