@@ -123,7 +123,7 @@ bool FilePass::HasOwnIdentifier(bool needsOne) {
              Concat({"Une fiche a déjà cet identifiant à la ligne "_t, Decimal(first), "."}));
         return false;
     }
-    records_.NoteRecord(id_, number_);
+    records_.NoteRecord(id_, records_.ids.Intern(line_.sTag), number_);
     return true;
 }
 
@@ -187,8 +187,11 @@ void FilePass::TakeReference() {
     if (tag == TagCode("CONT") || tag == TagCode("CONC")) return;
     if (used == kVoid) return Tell(Rule::VoidReference, line_.sTag);
     const TextRef target = records_.ids.Intern(used);
-    if (records_.LineOf(target) != 0) return;
-    records_.openReferences.push_back({id_, target, records_.ids.Intern(line_.sTag), number_});
+    const bool needsItsKind =
+        std::ranges::find(modReadGedcom::kReferredTags, line_.sTag) != std::end(modReadGedcom::kReferredTags);
+    const TextRef needed = needsItsKind ? records_.ids.Intern(line_.sTag) : TextRef();
+    if (records_.Has(target, needed)) return;
+    records_.openReferences.push_back({id_, target, records_.ids.Intern(line_.sTag), needed, number_});
 }
 
 /// A read takes the first one that it meets, in whatever record.

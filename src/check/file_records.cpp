@@ -13,6 +13,12 @@ void FileRecords::Put(BySymbol& values, TextRef id, std::uint32_t value, std::ui
     values[id.Symbol()] = value;
 }
 
+void FileRecords::NoteRecord(TextRef id, TextRef tag, std::uint32_t line) {
+    Put(lines_, id, line, 0);
+    if (id.Symbol() >= tags_.size()) tags_.resize(id.Symbol() + std::size_t{1});
+    tags_[id.Symbol()] = tag;
+}
+
 void FileRecords::AddPerson(const PersonRecord& person) {
     if (PersonOf(person.id) == kNone)
         Put(persons_, person.id, static_cast<std::uint32_t>(persons.size()), kNone);

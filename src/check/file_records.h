@@ -41,6 +41,8 @@ struct Link {
 /// A line that names another record, of whatever kind.
 struct Reference {
     TextRef owner, target, tag;
+    /// The tag that the record must have, empty for any.
+    TextRef needed;
     std::uint32_t line;
 };
 
@@ -68,7 +70,7 @@ struct FileRecords {
     std::vector<PersonRecord> persons;
     std::vector<FamilyRecord> families;
     BlockVector<Link> personLinks, memberLinks;
-    /// Lines that name a record which had not come yet.
+    /// Lines that name a record which had not come yet, or which is of another kind.
     BlockVector<Reference> openReferences;
 
     /// Line of the record that has an identifier, 0 for none.
@@ -85,7 +87,13 @@ struct FileRecords {
         return first == kNone ? family : first;
     }
 
-    void NoteRecord(TextRef id, std::uint32_t line) { Put(lines_, id, line, 0); }
+    /// The tag of that record, empty for none; it is interned in `ids`.
+    TextRef TagOf(TextRef id) const {
+        return !id.IsEmpty() && id.Symbol() < tags_.size() ? tags_[id.Symbol()] : TextRef();
+    }
+    /// Whether there is a record of that identifier, and with a tag, unless `tag` is empty.
+    bool Has(TextRef id, TextRef tag) const { return LineOf(id) != 0 && (tag.IsEmpty() || TagOf(id) == tag); }
+    void NoteRecord(TextRef id, TextRef tag, std::uint32_t line);
     void AddPerson(const PersonRecord& person);
     void AddFamily(const FamilyRecord& family);
 
@@ -113,6 +121,7 @@ struct FileRecords {
     }
 
     BySymbol lines_, persons_, families_;
+    std::vector<TextRef> tags_;
 };
 
 }  // namespace swiftroll::modCheck

@@ -95,10 +95,13 @@ void CheckReferences(const FileRecords& records, Findings& findings) {
     CheckTargets(records, records.memberLinks, true, findings);
     for (std::size_t i = 0; i < records.openReferences.size(); ++i) {
         const Reference& reference = records.openReferences[i];
-        if (records.LineOf(reference.target) != 0) continue;
-        findings.Add(Rule::MissingRecord, reference.line, records.ids.Get(reference.owner),
-                     Concat({records.ids.Get(reference.tag), " ", records.ids.Get(reference.target),
-                             " : cette fiche n'existe pas."_t}));
+        if (records.Has(reference.target, reference.needed)) continue;
+        const TextView there = records.ids.Get(records.TagOf(reference.target));
+        const Text why =
+            there.empty() ? Text("cette fiche n'existe pas."_t) : Concat({"c'est une fiche "_t, there, "."});
+        findings.Add(
+            Rule::MissingRecord, reference.line, records.ids.Get(reference.owner),
+            Concat({records.ids.Get(reference.tag), " ", records.ids.Get(reference.target), " : ", why}));
     }
 }
 

@@ -1,9 +1,11 @@
 #include "extract/record_lines.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "gedcom/gedcom_line.h"
+#include "gedcom/tag.h"
 #include "text/edit.h"
 
 namespace swiftroll::modSaveGed {
@@ -18,22 +20,26 @@ constexpr TagCode CodeOf(TextView tag) {
     for (std::size_t i = 0; i < kTagLength; ++i) code = code << 8 | static_cast<unsigned char>(tag[i]);
     return code;
 }
-constexpr TagCode sRefTags[] = {CodeOf("OBJE"), CodeOf("NOTE"), CodeOf("REPO"),
-                                CodeOf("SOUR"), CodeOf("SUBM"), CodeOf("SUBN")};
-constexpr TagCode kMemberTags[] = {CodeOf("HUSB"), CodeOf("WIFE"), CodeOf("CHIL")};
+template <std::size_t kCount>
+constexpr std::array<TagCode, kCount> CodesOf(const TextView (&tags)[kCount]) {
+    std::array<TagCode, kCount> codes{};
+    for (std::size_t i = 0; i < kCount; ++i) codes[i] = CodeOf(tags[i]);
+    return codes;
+}
+constexpr auto sRefTags = CodesOf(modReadGedcom::kReferredTags);
+constexpr auto kMemberTags = std::to_array({CodeOf("HUSB"), CodeOf("WIFE"), CodeOf("CHIL")});
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 
 /// The place in `tags` of the tag before a value that begins at `at`, if it is one of them; what stands
 /// before the tag is not looked at.
 template <std::size_t kCount>
-const TagCode* TagBefore(TextView record, std::size_t at, const TagCode (&tags)[kCount]) {
+const TagCode* TagBefore(TextView record, std::size_t at, const std::array<TagCode, kCount>& tags) {
     std::size_t end = at;
     while (end > 0 && record[end - 1] == ' ') --end;
     if (end == at || end < kTagLength) return nullptr;
-    const auto* const tag =
-        std::find(std::begin(tags), std::end(tags), CodeOf(record.substr(end - kTagLength)));
-    return tag == std::end(tags) ? nullptr : tag;
+    const auto tag = std::find(tags.begin(), tags.end(), CodeOf(record.substr(end - kTagLength)));
+    return tag == tags.end() ? nullptr : &*tag;
 }
 
 /// The value of a line, if it is a reference and nothing else: "@", one character or more, "@".
@@ -68,7 +74,7 @@ bool BeginsPlainValue(TextView record, std::size_t at) {
 /// at least a tag and a blank, and behind one that begins a value a line end and a whole head, which the
 /// search leaps over. No line is split twice, so that long ones cost no more.
 template <std::size_t kCount, class Visitor>
-void VisitReferences(TextView record, const TagCode (&tags)[kCount], Visitor visit) {
+void VisitReferences(TextView record, const std::array<TagCode, kCount>& tags, Visitor visit) {
     constexpr std::size_t kLeap = 1 + kTagLength + 1, kLeapOfValue = 1 + 1 + kTagLength + 3;
     std::size_t at = record.find('@');
     while (at != TextView::npos) {
@@ -81,7 +87,7 @@ void VisitReferences(TextView record, const TagCode (&tags)[kCount], Visitor vis
             const bool isSplit = !line.Split();
             const bool hasTag = isSplit && line.sTag.size() == kTagLength && CodeOf(line.sTag) == *tag;
             if (hasTag && !ReferenceOf(line).empty())
-                visit(line, bounds.begin, static_cast<int>(tag - std::begin(tags)));
+                visit(line, bounds.begin, static_cast<int>(tag - tags.data()));
             next = bounds.end;
         }
         at = record.find('@', next);

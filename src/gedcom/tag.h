@@ -14,4 +14,8 @@ constexpr std::uint64_t TagCode(TextView tag) {
     return code;
 }
 
+/// The tags of the records that a line of the same tag refers to, in the order in which an extract follows
+/// them.
+inline constexpr TextView kReferredTags[] = {"OBJE", "NOTE", "REPO", "SOUR", "SUBM", "SUBN"};
+
 }  // namespace swiftroll::modReadGedcom

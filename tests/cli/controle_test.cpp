@@ -54,7 +54,7 @@ TEST_F(Controle, TellsLostReferencesAndLinksOfOneSide) {
                           .mother = "1 FAMC @F@\n",
                           .child = "1 FAMS\n",
                           .family = "1 CHIL @P@\n1 WIFE @X@\n1 HUSB @G@\n",
-                          .others = "0 @G@ FAM\n0 @F@ NOTE a\n0 INDI\n1 NAME A //\n1 SEX F\n"};
+                          .others = "0 @G@ FAM\n0 @F@ NOTE a\n0 INDI\n1 NAME A //\n1 SEX F\n1 SOUR @F@\n"};
     EXPECT_EQ(
         Findings(file.Text(), 1),
         "42\tinfo\t\t\t\tÎlot 0004 : 1 personne.\n"
@@ -73,7 +73,8 @@ TEST_F(Controle, TellsLostReferencesAndLinksOfOneSide) {
         "12\terreur\t27\t@F@\t\tHUSB @G@ : cette fiche n'est pas un individu.\n"
         "22\tavertissement\t28\t@G@\t\tLa famille n'a ni époux, ni épouse, ni enfant.\n"
         "10\terreur\t29\t@F@\t\tUne fiche a déjà cet identifiant à la ligne 21.\n"
-        "11\terreur\t30\t\t\tRien ne peut renvoyer à cette fiche INDI sans identifiant.\n");
+        "11\terreur\t30\t\t\tRien ne peut renvoyer à cette fiche INDI sans identifiant.\n"
+        "12\terreur\t33\t\t\tSOUR @F@ : c'est une fiche FAM.\n");
 }
 
 TEST_F(Controle, TellsYearsThatContradictEachOther) {
