@@ -3,6 +3,9 @@
 # Warnings and sanitizers of all our code.
 add_library(swiftroll_warnings INTERFACE)
 target_compile_options(swiftroll_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+# A release tells nothing of the folder that it was built in, so that two builds are the same.
+target_compile_options(swiftroll_warnings INTERFACE
+  $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
 if(SWIFTROLL_WERROR)
   target_compile_options(swiftroll_warnings INTERFACE -Werror)
 endif()

@@ -29,6 +29,17 @@ BUILD_PACKAGES=(g++ cmake ninja-build libboost1.81-dev libcli11-dev libsqlite3-d
   libcairo2-dev pkg-config
   qt6-base-dev qt6-svg-dev qt6-translations-l10n)
 TEST_PACKAGES=(libgtest-dev xsltproc python3)
+DEB_PACKAGES=(dpkg-dev fakeroot gzip)
+
+# make_packages PRESET: the packages of a build, in out/. Their times are that of the commit.
+make_packages() {
+  local log
+  log=$(mktemp)
+  rm -f out/swiftroll_*.deb out/swiftroll-*.tar.gz
+  SOURCE_DATE_EPOCH=$(git log -1 --format=%ct) \
+    cpack --config "build/$1/CPackConfig.cmake" -B out >"$log" 2>&1 || { cat "$log" >&2; fail "the packages were not made"; }
+  rm -rf "$log" out/_CPack_Packages
+}
 
 # build PRESET [TARGET...]: configures and builds; says nothing when there is nothing to do.
 build() {

@@ -94,8 +94,7 @@ Text UserFolders::Program() { return TextOf(ProgramFile().parent_path()); }
 Text UserFolders::Models() {
     const fs::path program = ProgramFile().parent_path();
     std::error_code ignored;
-    for (const fs::path& folder : {program, program / ".." / "share" / "swiftroll" / "models",
-                                   fs::path(SWIFTROLL_DATA_FOLDER) / "models"}) {
+    for (const fs::path& folder : {program, program / SWIFTROLL_DATA_FOLDER / "models"}) {
         if (fs::exists(folder / "SwiftRoll.Modele.html", ignored)) return TextOf(folder.lexically_normal());
     }
     return TextOf(program);
