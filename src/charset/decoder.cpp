@@ -47,6 +47,11 @@ Decoder::Decoder(std::unique_ptr<File> file)
     }
 }
 
+Decoder::Decoder(FoundCharset found)
+    : found_(std::move(found)),
+      isWindows1252_(found_.charset == Charset::Windows1252),
+      highHalf_(HighHalfOf(found_.charset == Charset::Ascii ? Charset::Windows1252 : found_.charset)) {}
+
 void Decoder::LookAtHead() {
     std::array<char, 256> head{};
     std::size_t size = 0;

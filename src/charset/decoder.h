@@ -18,6 +18,8 @@ class Decoder {
     /// pipe can be opened only once, the text is taken at its word. When `Found` tells UTF-16, values are to
     /// be those of its Utf16Text.
     explicit Decoder(std::unique_ptr<File> file);
+    /// Decodes more of a file of which this was found. What no value told so far is taken at its word.
+    explicit Decoder(FoundCharset found);
 
     /// Takes the value of a CHAR line; the first one counts. False when it cannot be told in which character
     /// set the text is.

@@ -64,7 +64,8 @@ class LinkGraph {
 
 }  // namespace
 
-void CalcIslands(Application& app, const XrefRanges& colXrefRange) {
+std::vector<std::int32_t> CalcIslands(Application& app, const XrefRanges& colXrefRange) {
+    std::vector<std::int32_t> sizes(1);
     app.trail.Guard(
         "CalcIslands",
         [&] {
@@ -82,14 +83,17 @@ void CalcIslands(Application& app, const XrefRanges& colXrefRange) {
                 std::int32_t& island = islandOf[static_cast<std::size_t>(i)];
                 if (island == 0) {
                     if (++lIslandNr % kStatusStep == 0) showCount();
+                    sizes.push_back(0);
                     texts.push_back(app.lvwIn.Store().Put(Decimal(lIslandNr, 4)));
                     graph.CalcIsland(lIslandNr, i, islandOf);
                 }
+                ++sizes[static_cast<std::size_t>(island)];
                 app.lvwIn.Item(i + 1).SetCell(In::IslandNr, texts[static_cast<std::size_t>(island)]);
             }
             showCount();
         },
         [] { return Text(); });
+    return sizes;
 }
 
 }  // namespace swiftroll::modReadGedcom

@@ -37,6 +37,7 @@ void Reader::Prepare(const char*& stage, std::int16_t& counter) {
         table->Clear();
     }
     app_.deaths.Clear();
+    islandSizes.clear();
     app_.lvwKinship.Tip = app_.lvwKinship.BaseTip();
     for (counter = 1; counter <= kMaxColumns; ++counter) app_.lMaxLenIn[ColumnId::OfIndex(counter)] = 0;
     stage = "ReadLines";
@@ -95,7 +96,7 @@ void Reader::Finish(Links& links) {
     app_.pnlIndividuals.Set(Concat({Decimal(lines.lNrNames), " Individu(s)"_t}));
     if (!app_.bAbort) {
         ReadFamily(links);
-        CalcIslands(app_, CalcXrefIds(app_, app_.lvwXref, Xref::IDIndi1));
+        islandSizes = CalcIslands(app_, CalcXrefIds(app_, app_.lvwXref, Xref::IDIndi1));
         app_.pnlMessage.Set("Lecture terminée"_t);
         SetInDates(app_);
     }

@@ -30,6 +30,8 @@ class Reader {
     LineReader lines;
     /// What the last read met beside what it read.
     ReadFindings findings;
+    /// Number of individuals of each island of the tables, by its number from 1.
+    std::vector<std::int32_t> islandSizes;
     /// Told when the families of the file were processed, so that the commands that need them can be enabled.
     Event OnFamiliesRead;
 };

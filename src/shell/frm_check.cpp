@@ -4,6 +4,7 @@
 
 #include "check/report_page.h"
 #include "shell/ask_file.h"
+#include "shell/file_as_read.h"
 #include "shell/file_names.h"
 #include "shell/jump.h"
 #include "text/edit.h"
@@ -66,14 +67,12 @@ void frmCheck::mnuCheckFile_Click() {
 }
 
 void frmCheck::Check() {
-    const modReadGedcom::FileRead& read = lines_.Origin();
-    if (!read.stamp) {
+    const FileAsRead state = StateOf(lines_.Origin(), app_.ports.files);
+    if (state == FileAsRead::NotReadableAgain) {
         return Refuse("Ce fichier GEDCOM ne peut pas être relu :"_t,
                       "Copiez-le dans un fichier du disque, puis lisez la copie."_t);
     }
-    // The opening tells of a file that is gone.
-    const auto present = app_.ports.files.Stamp(read.sFile);
-    if (present && *present != *read.stamp) {
+    if (state == FileAsRead::Changed) {
         return Refuse("Le fichier GEDCOM a changé depuis sa lecture :"_t,
                       "Relisez-le, puis recommencez le contrôle."_t);
     }

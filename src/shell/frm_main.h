@@ -19,6 +19,7 @@
 #include "shell/parameter_sets.h"
 #include "shell/path_choice.h"
 #include "shell/path_drawing.h"
+#include "shell/person_panel.h"
 #include "shell/problem_report.h"
 #include "shell/reading.h"
 #include "shell/saved_settings.h"
@@ -66,6 +67,7 @@ class frmMain : public Application, public MainCommands {
     frmFind findDialog;
     frmCheck checkDialog;
     frmRelatives relatives;
+    PersonPanel personPanel;
 
     SavedSettings savedSettings;
 

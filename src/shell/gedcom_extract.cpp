@@ -1,6 +1,7 @@
 #include "shell/gedcom_extract.h"
 
 #include "extract/extract_writer.h"
+#include "shell/file_as_read.h"
 #include "shell/file_names.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -91,13 +92,12 @@ Text GedcomExtract::Obstacle(TextView input, TextView output) {
         return tell("Ce fichier GEDCOM n'est pas celui qui a été lu :"_t, input,
                     Concat({"Lisez-le, ou remettez en entrée "_t, read.sFile, "."}));
     }
-    if (!read.stamp) {
+    const FileAsRead state = StateOf(read, files);
+    if (state == FileAsRead::NotReadableAgain) {
         return tell("Ce fichier GEDCOM ne peut pas être relu :"_t, input,
                     "Copiez-le dans un fichier du disque, puis lisez la copie."_t);
     }
-    // The opening tells of a file that is gone.
-    const auto present = files.Stamp(input);
-    if (present && *present != *read.stamp) {
+    if (state == FileAsRead::Changed) {
         return tell("Le fichier GEDCOM a changé depuis sa lecture :"_t, input,
                     "Relisez-le, puis recommencez l'extrait."_t);
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/person_label.h"
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/fold.h"
@@ -12,12 +13,7 @@ namespace {
 
 constexpr std::size_t kMostSuggestions = 20;
 
-Text LabelOf(const RowView& person) {
-    const TextView born = person.Cell(In::BirthMin), died = person.Cell(In::DeathMax);
-    Text label = Concat({person.Cell(In::LastName), ", ", person.Cell(In::FirstName), " "});
-    if (!born.empty() || !died.empty()) label += Concat({"(", born, "-", died, ") "});
-    return label + Text(person.Text());
-}
+Text LabelOf(const RowView& person) { return Concat({NameAndYears(person), " ", person.Text()}); }
 
 /// Whether each word begins a word of a text; both in their comparison forms.
 bool HoldsBeginnings(const Text& text, const std::vector<TextView>& words) {
