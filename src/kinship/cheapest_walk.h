@@ -25,12 +25,12 @@ class CheapestWalk {
     /// Goes on over a link.
     void Advance(std::int32_t link);
 
-    /// Looks one step ahead, but over none of these links: what the cheapest way costs at least, path
-    /// included; nothing where no way is left.
-    std::optional<PathCost> LookAhead(std::span<const std::int32_t> bannedLinks);
-    /// What the cheapest way costs, path included, after LookAhead; nothing where no way is left, or after
-    /// the end. `links` are those of the way then.
-    std::optional<PathCost> Find(std::vector<std::int32_t>& links);
+    /// What the cheapest way that begins with none of these links costs at least, path included, as one look
+    /// ahead tells; nothing where no way is left.
+    std::optional<PathCost> Bound(std::span<const std::int32_t> bannedLinks);
+    /// What that way costs, path included; nothing where there is none, or after the end. `links` are those
+    /// of the way then.
+    std::optional<PathCost> Find(std::span<const std::int32_t> bannedLinks, std::vector<std::int32_t>& links);
 
     /// Whether `goOn` has ended the search.
     bool HasEnded() const { return hasEnded_; }
@@ -62,11 +62,17 @@ class CheapestWalk {
         std::uint64_t run = 0;
         std::int32_t settled = kNobody;
     };
+    template <class Visitor>
+    void VisitFirstSteps(std::span<const std::int32_t> bannedLinks, Visitor visit);
     std::int32_t PreviousOf(const Step& step) const;
+    PathCost TotalOf(const Step& step, std::int32_t previous, PathCost cost) const;
     void Add(const Step& step, PathCost before, std::int32_t label);
+    void Push(const Open& open);
+    std::optional<Open> TakeFirst();
     bool IsSettled(std::int32_t node, std::int32_t previous, PathCost cost) const;
     void Settle(std::int32_t node, std::int32_t previous, PathCost cost);
     bool MayGoOn();
+    void TakeWay(std::int32_t label, std::vector<std::int32_t>& links) const;
 
     const StepGraph& steps_;
     PathLimits limits_;
@@ -82,7 +88,8 @@ class CheapestWalk {
     std::vector<Settled> settled_;
     std::uint64_t run_ = 0;
     std::vector<Label> labels_;
-    std::vector<Open> open_;  // a heap
+    std::vector<Open> open_;  // a heap, but for the first one of those that were added last
+    std::optional<Open> newest_;
     std::uint32_t looks_ = 0;
     bool hasEnded_ = false;
 };

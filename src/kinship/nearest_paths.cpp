@@ -15,7 +15,7 @@ void NearestPaths::Run(PathVisitor& visitor, std::int64_t count) {
     CheapestWalk search(steps_, limits_, [&] { return visitor.GoOn(); });
     std::vector<std::int32_t> way;
     search.StandAt(from_);
-    if (const auto bound = search.LookAhead({})) Keep({*bound, 0, kNobody, 0});
+    if (const auto bound = search.Bound({})) Keep({*bound, 0, kNobody, 0});
     while (!sets_.empty() && count > 0) {
         const Set set = TakeFirst();
         std::vector<std::int32_t> links;
@@ -25,8 +25,7 @@ void NearestPaths::Run(PathVisitor& visitor, std::int64_t count) {
         }
         search.StandAt(from_);
         for (const std::int32_t link : links) search.Advance(link);
-        search.LookAhead(BannedLinks(set.walk, set.place));
-        const auto cost = search.Find(way);
+        const auto cost = search.Find(BannedLinks(set.walk, set.place), way);
         if (search.HasEnded()) return;
         if (!cost) continue;
         if (*cost > set.bound) {
@@ -89,8 +88,7 @@ void NearestPaths::Divide(std::int32_t walk, CheapestWalk& search) {
     const auto length = static_cast<std::int32_t>(At(walks_, walk).links.size());
     for (std::int32_t i = 0; i < length; ++i) {
         if (i >= At(walks_, walk).place) {
-            if (const auto bound = search.LookAhead(BannedLinks(walk, i)))
-                Keep({*bound, ++setCount_, walk, i});
+            if (const auto bound = search.Bound(BannedLinks(walk, i))) Keep({*bound, ++setCount_, walk, i});
         }
         search.Advance(At(At(walks_, walk).links, i));
     }
