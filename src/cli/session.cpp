@@ -27,7 +27,8 @@ std::vector<Table*> Session::TablesToPrint(const std::vector<std::string>& names
     std::vector<Table*> tables;
     for (const std::string& name : names) {
         Table* table = main.Named(name);
-        if (table == nullptr) throw UsageError("table inconnue : " + name);
+        // The job "cousins" fills the table of relatives; nothing else does.
+        if (table == nullptr || table == &main.lvwRelatives) throw UsageError("table inconnue : " + name);
         if (table == &main.lvwOut) dialogs.recalculates = true;
         tables.push_back(table);
     }

@@ -21,6 +21,7 @@ TEST_F(Cousins, RefusesWhatIsNobody) {
     Cli({"cousins", "f.ged", "@I9@"}).Ends(1, "@I9@");
     Cli({"cousins", "f.ged", "@I1@", "--sans-familles"}).Ends(1, "--sans-familles");
     Cli({"cousins", "f.ged"}).Ends(2, "identifiant");
+    Cli({"tables", "f.ged", "-t", "lvwRelatives"}).Ends(2, "lvwRelatives");
     Cli({"cousins", "f.ged", "@I1@", "--degre", "0"}).Ends(2, "--degre");
 }
 

@@ -1,4 +1,6 @@
 // The job "parente".
+#include <cstdlib>
+
 #include "cli/run_cli.h"
 
 namespace swiftroll::test {
@@ -152,6 +154,17 @@ TEST_F(Parente, DrawsAsPdfAndSvgByTheExtension) {
     EXPECT_EQ(CountOf("/Type /Page ", Bytes("p.pdf")), 1u);
     EXPECT_EQ(Cli(two + Strings{"p.pdf", "--chemin-par-page"}).code, 0);
     EXPECT_EQ(CountOf("/Type /Page ", Bytes("p.pdf")), 2u);
+}
+
+TEST_F(Parente, FillsHalfOfADiskOnlyWhenToldTo) {
+    if (std::system("unshare -Urm mount -t tmpfs none /mnt 2>/dev/null") != 0) {
+        GTEST_SKIP() << "no disk can be mounted here";
+    }
+    std::filesystem::create_directory(folder_ / "small");
+    launcher = {"unshare", "-Urm", "sh", "-c", "mount -t tmpfs -o size=32k none small && exec \"$@\"", "sh"};
+    const Strings words{"parente", kExample, "@I70@", "@I60@", "-q", "-o", "small/k.tsv"};
+    Cli(words).Ends(1, "Le fichier prendrait environ");
+    EXPECT_EQ(Cli(words + Strings{"--grand"}).code, 0);
 }
 
 TEST_F(Parente, UsageErrorsNameTheirCause) {

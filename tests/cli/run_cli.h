@@ -125,8 +125,8 @@ class CliTest : public testing::Test {
     }
     bool Exists(const std::string& name) const { return std::filesystem::exists(folder_ / name); }
 
-    /// Further variables of the environment, "NAME=value".
-    Strings environment;
+    /// Further variables of the environment, "NAME=value", and the words of a command that runs the program.
+    Strings environment, launcher;
 
     std::filesystem::path folder_;
 
@@ -149,7 +149,8 @@ class CliTest : public testing::Test {
                               "export HOME=$PWD/home XDG_DATA_HOME=$PWD/data";
         for (const std::string& variable : environment) command += " '" + variable + "'";
         command += " && exec";
-        for (const std::string& word : Strings{SWIFTROLL_CLI} + arguments) command += " '" + word + "'";
+        for (const std::string& word : launcher + Strings{SWIFTROLL_CLI} + arguments)
+            command += " '" + word + "'";
         command += " </dev/null 2>.stderr >" + (stdoutFile.empty() ? ".stdout" : stdoutFile);
         std::filesystem::remove(folder_ / ".stdout");
         const pid_t pid = fork();
