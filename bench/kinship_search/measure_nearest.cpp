@@ -64,7 +64,7 @@ struct Prepared {
 NearestFigures MeasureNearest(swiftroll::frmMain& main, const std::string& from, const std::string& to,
                               std::int64_t count) {
     NearestFigures figures;
-    Stopwatch watch;
+    ProcessorWatch watch;
     const Prepared links(main, from, to);
     figures.preparation = watch.Lap();
     const StepGraph steps(links.core.graph, links.island.KindsOf(links.core.links), links.core.to);
@@ -78,13 +78,13 @@ NearestFigures MeasureNearest(swiftroll::frmMain& main, const std::string& from,
 }
 
 double MeasureNames(swiftroll::frmMain& main) {
-    const Stopwatch watch;
+    const ProcessorWatch watch;
     main.lvwPaths.NeedAll();
     return watch.Seconds();
 }
 
 double MeasureRelatives(swiftroll::frmMain& main, const std::string& id, std::int32_t& found) {
-    const Stopwatch watch;
+    const ProcessorWatch watch;
     ListRelatives(main, main.lvwIn.Item(id).Index(), kUsualDegree);
     found = main.lvwRelatives.Count();
     return watch.Seconds();

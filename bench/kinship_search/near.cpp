@@ -13,7 +13,7 @@ constexpr std::size_t kPairs = 50;
 /// Files of fewer people answer at once, and have all figures measured.
 constexpr std::int32_t kSmallFile = 10'000;
 constexpr std::int64_t kFew = 100, kMany = 10'000;
-constexpr double kNamed = 100'000;
+constexpr std::int64_t kNamed = 100'000;
 
 double Median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
@@ -44,6 +44,20 @@ void MeasureNearestOf(swiftroll::frmMain& main, const Pairs& pairs, std::int64_t
     Print("found and written after that", Median(search), target);
 }
 
+/// Names so many paths, the nearest of the first pair that has as many.
+void MeasureNames(swiftroll::frmMain& main, const Pairs& pairs) {
+    for (const auto& [from, to] : pairs) {
+        const std::int64_t paths = bench::MeasureNearest(main, from, to, kNamed).paths;
+        if (paths < kNamed) continue;
+        const std::int32_t lines = main.lvwKinship.Count() - main.lvwPaths.Count();
+        const double seconds = bench::MeasureNames(main);
+        std::printf("  %lld paths of %d lines from %s to %s: %.0f names a second\n",
+                    static_cast<long long>(paths), lines, from.c_str(), to.c_str(),
+                    static_cast<double>(paths) / seconds);
+        return Print("their names and degrees", seconds, 1);
+    }
+}
+
 void MeasureFile(const std::string& file) {
     bench::QuietMain app;
     app.Read(file);
@@ -54,9 +68,7 @@ void MeasureFile(const std::string& file) {
     const Pairs pairs = bench::FarPairs(app.main, kPairs);
     MeasureNearestOf(app.main, pairs, kFew, isSmall ? 0.01 : 0.1);
     if (isSmall) MeasureNearestOf(app.main, pairs, kMany, 2);
-    // Those of the last pair, so that the paths are as long as somebody may want to see them.
-    const double named = app.main.lvwPaths.Count();
-    Print("names of as many as 100 000 such paths", bench::MeasureNames(app.main) / named * kNamed, 1);
+    if (isSmall) MeasureNames(app.main, pairs);
     std::vector<double> relatives;
     std::int64_t found = 0;
     for (const auto& [id, other] : pairs) {
