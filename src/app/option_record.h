@@ -77,6 +77,10 @@ class OptionRecord : public Window {
         false};
 
     // Files
+    CheckBox chkOutputFiles{*this,
+                            {"chkOutputFiles", "Fichiers en sortie"_t,
+                             "Montre ou cache les noms des fichiers à écrire et du modèle."_t},
+                            false};
     ComboBox cboGedIn{*this, {"cboGedIn", "Entrée GED"_t}};
     ComboBox cboGedOut{*this, {"cboGedOut", "Sortie GED"_t}};
     ComboBox cboSwiftOut{*this, {"cboSwiftOut", "Sortie Relevé-vif + XSL"_t}};

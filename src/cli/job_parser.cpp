@@ -124,12 +124,13 @@ void JobParser::TakeInOrder() const {
 }
 
 std::string HelpOfEveryJob() {
+    const std::string columns = DefaultColumns();
     return R"(Options de tous les travaux, dans l'ordre de la ligne de commande :
   --set CHAMP=VALEUR        fixe une option par son nom : --set chkDelAccents=0, --set "txtPlaceFormat=%1"
   --sans-familles           lit sans les familles
   --ordre-lieux 2,1,3       ordre de choix du lieu : 1 naissance, 2 décès, 3 mariage
   --colonnes CLE[,CLE...]   colonnes du relevé devant le nombre ()" +
-           kDefaultColumns + R"( si rien n'est
+           columns + R"( si rien n'est
                             dit) ; la liste vide met le nombre en premier
   --marquer ID[,ID...]      marque ces individus après la lecture
   --ajouter MODE            marque aussi ceux auxquels mènent les individus marqués, --enlever MODE enlève

@@ -1,11 +1,11 @@
 #include "run_job.h"
 
+#include "list/group_columns.h"
 #include "mark_steps.h"
 #include "platform/interrupt.h"
 #include "session.h"
 #include "settings.h"
 #include "text/code_page.h"
-#include "words.h"
 
 namespace swiftroll::cli {
 namespace {
@@ -33,7 +33,7 @@ int RunJob(Job& job, const Arguments& arguments) {
     frmMain& main = session.main;
     main.Form_Load({});
     job.SetDefaults(main);
-    ArrangeColumns(main, Words(kDefaultColumns));
+    modCalcOut::PlaceDefaultGroups(main.lvwOut);
     ApplySettings(main, arguments.settings);
     job.Prepare(session);
     const MarkSteps marks(main, arguments.markSteps);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "list/group_columns.h"
 #include "text/failure.h"
 #include "words.h"
 
@@ -30,7 +31,29 @@ void SetPlacesOrder(frmMain& main, const std::string& order) {
     }
 }
 
+/// Puts these columns of `lvwOut` before `Number`. @throws UsageError for an unknown or repeated column
+void ArrangeColumns(frmMain& main, const std::vector<std::string>& keys) {
+    std::vector<Column*> order;
+    for (const std::string& key : keys) {
+        Column* column = main.lvwOut.FindColumn(TextOf(key));
+        if (column == nullptr || column->Key == "Number") throw UsageError("colonne inconnue : " + key);
+        if (std::find(order.begin(), order.end(), column) != order.end()) {
+            throw UsageError("colonne répétée : " + key);
+        }
+        order.push_back(column);
+    }
+    modCalcOut::PlaceBeforeNumber(main.lvwOut, std::move(order));
+}
+
 }  // namespace
+
+std::string DefaultColumns() {
+    std::string keys;
+    for (const TextView key : modCalcOut::kDefaultGroups) {
+        keys += (keys.empty() ? "" : ",") + std::string(key);
+    }
+    return keys;
+}
 
 void ApplySettings(frmMain& main, const std::vector<Setting>& settings) {
     for (const Setting& setting : settings) {
@@ -49,24 +72,6 @@ void ApplySettings(frmMain& main, const std::vector<Setting>& settings) {
                 break;
         }
     }
-}
-
-void ArrangeColumns(frmMain& main, const std::vector<std::string>& keys) {
-    std::vector<Column*> order;
-    const auto isPlaced = [&](const Column* column) {
-        return std::find(order.begin(), order.end(), column) != order.end();
-    };
-    for (const std::string& key : keys) {
-        Column* column = main.lvwOut.FindColumn(TextOf(key));
-        if (column == nullptr || column->Key == "Number") throw UsageError("colonne inconnue : " + key);
-        if (isPlaced(column)) throw UsageError("colonne répétée : " + key);
-        order.push_back(column);
-    }
-    order.push_back(main.lvwOut.FindColumn("Number"));
-    for (Column& column : main.lvwOut.Columns()) {
-        if (!isPlaced(&column)) order.push_back(&column);
-    }
-    for (std::size_t i = 0; i < order.size(); ++i) order[i]->Position = static_cast<std::int16_t>(i + 1);
 }
 
 }  // namespace swiftroll::cli

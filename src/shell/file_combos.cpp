@@ -42,7 +42,12 @@ FileCombos::FileCombos(Application& app, FileCommands& commands, DisplayCommands
     }
 }
 
+void FileCombos::Reveal(const ComboBox& combo) {
+    if (&combo != &app_.cboGedIn) app_.chkOutputFiles.SetChecked(true);
+}
+
 void FileCombos::SelectFile(ComboBox& combo, bool bSave, const FileRole& role) {
+    Reveal(combo);
     app_.SetFocus(combo);
     app_.bDialogCancelled = !app_.trail.Guard(
         "GetFile", [&] { return GetFile(combo, bSave, role); }, [&] { return combo.Get(); });
@@ -50,9 +55,9 @@ void FileCombos::SelectFile(ComboBox& combo, bool bSave, const FileRole& role) {
 
 bool FileCombos::GetFile(ComboBox& combo, bool bSave, const FileRole& role) {
     Text chosen;
+    const Text name = ProposedName(combo.Get(), app_.cboGedIn.Get());
     const bool goesOn = AskFile(
-        app_, FileRequestOf(bSave, role.title, combo.Get(), role.filterName, role.extension, role.others),
-        chosen);
+        app_, FileRequestOf(bSave, role.title, name, role.filterName, role.extension, role.others), chosen);
     if (!chosen.empty()) combo.SetText(chosen);
     return goesOn;
 }
@@ -83,6 +88,7 @@ bool FileCombos::CheckFileCbo(ComboBox& cbo) {
              Concat({"Vous allez écraser le fichier "_t, sRole, kLineEnd, "(Même nom de fichier)"_t}),
              BoxButtons::Ok, BoxIcon::Exclamation);
     cbo.SetText(sPrevFile_ == text ? Text() : sPrevFile_);
+    Reveal(cbo);
     app_.SetFocus(cbo);
     return false;
 }

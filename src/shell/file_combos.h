@@ -23,6 +23,8 @@ class FileCombos {
     /// Asks for a file and puts it in its combo; `bDialogCancelled` tells whether the user wants to go on. To
     /// save, he is asked about a file that exists.
     void SelectFile(ComboBox& combo, bool bSave, const FileRole& role);
+    /// Brings a combo to sight, which stands in a group that the user may have folded.
+    void Reveal(const ComboBox& combo);
     /// Settles the name that stands in a combo: no two of them name one file.
     void FileCombo_LostFocus(ComboBox& cbo);
 

@@ -11,6 +11,17 @@ Text ChangeExtension(TextView sFile, TextView sExt) {
     return Concat({sFile.substr(0, sFile.size() - name.size()), stem, ".", sExt});
 }
 
+bool HasBaseName(TextView sFile) {
+    const TextView name = FileNamePart(sFile);
+    return !name.empty() && !name.starts_with('.');
+}
+
+Text ProposedName(TextView sFile, TextView sInput) {
+    const TextView name = FileNamePart(sFile), input = FileNamePart(sInput);
+    if (!name.starts_with('.') || !HasBaseName(sInput)) return Text(sFile);
+    return Concat({sFile.substr(0, sFile.size() - name.size()), input.substr(0, input.rfind('.')), name});
+}
+
 namespace {
 
 template <class Fields>

@@ -8,6 +8,11 @@ namespace swiftroll::modCommon {
 /// behind it. Dots of the folders do not count.
 Text ChangeExtension(TextView sFile, TextView sExt);
 
+/// Whether the name of a file has more than an extension: that of a hidden file has not.
+bool HasBaseName(TextView sFile);
+/// The name that a dialog proposes: one without a base takes that of `sInput`, if that has one.
+Text ProposedName(TextView sFile, TextView sInput);
+
 /// The extensions that belong to the chosen format: of its files, and of its models.
 const Text& OutExtension(const OptionRecord& options);
 const Text& ModelExtension(const OptionRecord& options);

@@ -136,6 +136,12 @@ void frmMain::InitCombos() {
     }
 }
 
+void frmMain::TakeGedIn(TextView sFile) {
+    SetFocus(cboGedIn);
+    cboGedIn.SetText(sFile);
+    SetFocus(cmdLoad);  // the name enters the history
+}
+
 bool frmMain::LaunchHTMLHelp(int topic) {
     if (!ports.files.Exists(sHelpFile)) {
         pnlMessage.Set(Concat({"Le manuel n'a pas été trouvé : "_t, sHelpFile}));

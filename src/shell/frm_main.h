@@ -42,6 +42,10 @@ class frmMain : public Application, public MainCommands {
     /// The user, or the system, closes the window: asks whether to save the settings. False when the user
     /// wants to go on.
     bool Form_QueryUnload();
+    /// Takes a file to be read, as when the user types its name and goes on to `cmdLoad`.
+    void TakeGedIn(TextView sFile);
+    /// Lets the first read order the columns of the Relevé-vif for a user who never did.
+    void PlaceGroupsOfNewcomer() { reading_.PlaceGroupsOfNewcomer(); }
     /// Opens the help at a topic, 0 for its beginning; false, and the message line tells it, when there is
     /// none.
     bool LaunchHTMLHelp(int topic);

@@ -2,9 +2,13 @@
 
 #include "gedcom/places.h"
 #include "list/calc_output.h"
+#include "list/group_columns.h"
 #include "shell/read_notice.h"
+#include "shell/settings/column_settings.h"
+#include "shell/settings/settings_sections.h"
 #include "tables/column_icon.h"
 #include "text/edit.h"
+#include "text/ignoring_failures.h"
 #include "text/literal.h"
 
 namespace swiftroll {
@@ -56,6 +60,7 @@ void Reading::ReadFile() {
     reader_.lines.Close();
     app_.ShowTab(Tab::In);
     if (!app_.bAbort) {
+        if (std::exchange(placesGroups_, false)) PlaceGroups();
         const BoxAnswer answer = app_.Box(" - Recalcul"_t,
                                           Concat({"Voulez-vous recalculer la sortie ?"_t, kLineEnd, kLineEnd,
                                                   "(Nécessaire après une lecture, ou lorsque"_t, kLineEnd,
@@ -64,6 +69,17 @@ void Reading::ReadFile() {
         if (answer == BoxAnswer::Yes) cmdCalcOutput_Click();
     }
     SetAllColumnIcons(app_);
+}
+
+/// A newcomer's first list has one row for each name, place and time, and not one for each individual.
+void Reading::PlaceGroups() {
+    if (!modCalcOut::StandInSchemaOrder(app_.lvwOut)) return;
+    const Text section = modCommon::ControlSection(app_, app_.lvwOut.Name());
+    IgnoringFailures([&] {
+        if (!modCommon::HasColumnPlaces(app_.ports.settings, section)) {
+            modCalcOut::PlaceDefaultGroups(app_.lvwOut);
+        }
+    });
 }
 
 void Reading::TellFindings(const std::function<void(CheckBox& option)>& readAgain) {

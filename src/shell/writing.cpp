@@ -77,6 +77,16 @@ Text Writing::StylesheetOf(TextView sOutFile) const {
                                       app_.txtModelExtension[static_cast<std::size_t>(format)].Get());
 }
 
+Text Writing::ModelDoubt() const {
+    const OutputFormat& format = FormatOf(app_.cboSaveSwift.ListIndex());
+    const TextView name = FileNamePart(app_.cboFileModel.Get());
+    if (name.empty() || !format.NeedsModel(app_.chkGenerXSL.Checked())) return {};
+    const Text ending = "." + modCommon::ModelExtension(app_);
+    if (LowerCaseAscii(name).ends_with(LowerCaseAscii(ending))) return {};
+    return Concat({"Ce fichier n'a pas l'extension « "_t, ending, " » des modèles "_t, format.name,
+                   " : choisissez un autre modèle, ou un autre format."_t});
+}
+
 bool Writing::ModelIsMissing(TextView sFile) {
     if (app_.ports.files.Exists(sFile)) return false;
     app_.Box(" - NoModel"_t, Concat({"Le fichier modèle"_t, kLineEnd, sFile, kLineEnd, "n'existe pas."_t}));

@@ -18,6 +18,8 @@ class Writing {
     bool bWriteComplete = true;
     /// The stylesheet that is written beside an output under the present options; empty for none.
     Text StylesheetOf(TextView sOutFile) const;
+    /// Why the model cannot be one of the chosen format, by its extension; empty when it can, or is not used.
+    Text ModelDoubt() const;
 
   private:
     void cmdSaveSwift_Click();

@@ -72,6 +72,10 @@ bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection) 
         });
 }
 
+bool HasColumnPlaces(SettingsStore& store, TextView sSection) {
+    return !store.GetAllSettings(Concat({sSection, kPosition})).empty();
+}
+
 void GetColumsSettings(Application& app, Table& lvw, TextView sSection) {
     Text sSubSection;
     const auto pairsBelow = [&](TextView name) {

@@ -14,6 +14,9 @@ ColumnEntries EntriesOf(const Column& column, TextView sSection);
 /// which is reported.
 bool SaveColumnsSettings(Application& app, const Table& lvw, TextView sSection);
 
+/// Whether places of columns were ever written below a section. @throws Failure FileAccess
+bool HasColumnPlaces(SettingsStore& store, TextView sSection);
+
 /// Reads them back. A column that the section does not name stays as it is, as does one whose value means
 /// nothing, which is reported with its key. The name of a column that is gone is passed over.
 void GetColumsSettings(Application& app, Table& lvw, TextView sSection);
