@@ -107,7 +107,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     QApplication application(argc, argv);
-    swiftroll::ui::SetUpFrench();
+    swiftroll::ui::SetUpToolkit();
     swiftroll::ui::DesktopApplication program;
     double toFirstPaint = 0;
     FirstPaint firstPaint([&] {

@@ -70,7 +70,7 @@ void Binder::BindCommon(QWidget& widget, Control& control, const QString& descri
     presenter_.OnRefresh(refresh);
 }
 
-void Binder::Bind(QCheckBox& widget, CheckBox& control) {
+void Binder::Bind(QAbstractButton& widget, CheckBox& control) {
     BindCommon(widget, control);
     presenter_.OnRefresh([&widget, &control] {
         ShowCaption(widget, control.Caption);
@@ -78,7 +78,7 @@ void Binder::Bind(QCheckBox& widget, CheckBox& control) {
         widget.setChecked(control.Checked());
     });
     QObject::connect(
-        &widget, &QCheckBox::toggled, &presenter_,
+        &widget, &QAbstractButton::toggled, &presenter_,
         [this_ = &presenter_, &control](bool checked) { this_->Act([&] { control.SetChecked(checked); }); });
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,7 +18,8 @@ class Binder {
     /// Binds the controls of one window.
     Binder(Presenter& presenter, Window& window) : presenter_(presenter), window_(window) {}
 
-    void Bind(QCheckBox& widget, CheckBox& control);
+    /// A check box, or another button that stays pressed.
+    void Bind(QAbstractButton& widget, CheckBox& control);
     void Bind(QRadioButton& widget, OptionButton& control);
     /// One button for each caption of the group, in order.
     void Bind(const std::vector<QRadioButton*>& widgets, OptionGroup& control);

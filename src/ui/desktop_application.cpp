@@ -6,19 +6,27 @@
 #include <QTranslator>
 
 #include "dialogs.h"
+#include "look.h"
 #include "preview_dialog.h"
 #include "qt_text.h"
 #include "window_place.h"
 
 namespace swiftroll::ui {
+namespace {
 
-void SetUpFrench() {
+/// The size of the first start, where the screen has room for it.
+constexpr QSize kFirstSize(1200, 800);
+
+}  // namespace
+
+void SetUpToolkit() {
     QLocale::setDefault(QLocale(QLocale::French));
     auto* translator = new QTranslator(qApp);
     if (translator->load(QLocale(QLocale::French), QStringLiteral("qtbase"), QStringLiteral("_"),
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         qApp->installTranslator(translator);
     }
+    SetUpLook();
 }
 
 DesktopApplication::DesktopApplication()
@@ -51,9 +59,11 @@ bool DesktopApplication::Start(const QString& file) {
     QObject::connect(qApp, &QApplication::focusChanged, &presenter_, [this] { presenter_.FocusMoved(); });
     main_.OnShow = [this] {
         window_->TakeDesignSize();
+        if (!main_.Place.known) PlaceFirst(*window_, kFirstSize);
         RestorePlace(*window_, main_);
         window_->show();
     };
+    main_.PlaceGroupsOfNewcomer();
     presenter_.Act([&] { main_.Form_Load(FromQt(file)); });
     return !main_.bEnded;
 }

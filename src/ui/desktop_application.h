@@ -47,7 +47,8 @@ class DesktopApplication {
     std::unique_ptr<MainWindow> window_;
 };
 
-/// What every program with this window sets up once: the French texts and formats of the toolkit.
-void SetUpFrench();
+/// What every program with this window sets up once: the French texts and formats of the toolkit, and the
+/// look of the windows.
+void SetUpToolkit();
 
 }  // namespace swiftroll::ui

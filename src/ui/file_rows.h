@@ -6,7 +6,7 @@
 
 namespace swiftroll::ui {
 
-/// The five rows of the files, with their buttons at the right edge.
-QWidget* BuildFileRows(frmMain& main, Binder& binder);
+/// The rows of the five files: that of the file to read, and below it the group of the others, which folds.
+QWidget* BuildFileRows(frmMain& main, Binder& binder, Presenter& presenter);
 
 }  // namespace swiftroll::ui

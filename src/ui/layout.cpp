@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QScrollArea>
 #include <QTimer>
 
 #include "themed_icon.h"
@@ -104,6 +105,21 @@ QWidget* NewParameterSet(Binder& binder, ComboBox& names, Command& save, const Q
     row->addWidget(
         NewToolButton(binder, save, QStringLiteral("Sauver : ") + description, QStringLiteral("save")));
     return widget;
+}
+
+QWidget* NewOptionPage(QWidget* page) {
+    auto* middle = new QWidget;
+    auto* row = new QHBoxLayout(middle);
+    row->setContentsMargins(0, 0, 0, 0);
+    page->setMaximumWidth(kWidestPage);
+    row->addStretch();
+    row->addWidget(page, 1);
+    row->addStretch();
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(middle);
+    return area;
 }
 
 QLabel* NewLabel(const QString& caption, QWidget* buddy) {

@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
         std::fputs(kUsage, stderr);
         return 2;
     }
-    swiftroll::ui::SetUpFrench();
+    swiftroll::ui::SetUpToolkit();
     swiftroll::ui::DesktopApplication program;
     if (!program.Start(arguments.value(1))) return program.Main().trail.Reports() > 0 ? 1 : 0;
     return QApplication::exec();

@@ -3,93 +3,66 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QMimeData>
-#include <QScrollArea>
-#include <QSplitter>
-#include <QStatusBar>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "dropped_file.h"
 #include "file_rows.h"
+#include "grouped_tabs.h"
 #include "help_topics.h"
-#include "kinship_view.h"
 #include "layout.h"
+#include "look.h"
 #include "menus.h"
 #include "message_bar_widget.h"
 #include "option_tabs.h"
-#include "person_edit.h"
 #include "qt_text.h"
-#include "themed_icon.h"
-#include "turning_splitter.h"
+#include "start_view.h"
+#include "tool_bar.h"
+#include "window_place.h"
 
 namespace swiftroll::ui {
 namespace {
 
-constexpr int kTableMargin = 8;
-constexpr int kFavoritesWidth = 170;
-constexpr int kProgressSteps = 1000;
-constexpr QSize kDesignSize(960, 680);
-
-/// A page that stays whole in a small window.
-QWidget* Scrolled(QWidget* page) {
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(page);
-    return area;
-}
-
-/// A page with a line above it.
-QWidget* Below(QWidget* line, QWidget* page) {
-    auto* both = new QWidget;
-    auto* column = new QVBoxLayout(both);
-    column->setContentsMargins(0, kTableMargin, 0, 0);
-    column->setSpacing(0);
-    line->layout()->setContentsMargins(kTableMargin, 0, kTableMargin, 0);
-    column->addWidget(line);
-    column->addWidget(page, 1);
-    return both;
-}
-
-/// A local file of a drop, or an empty text.
-QString DroppedFile(const QMimeData& data) {
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile()) return url.toLocalFile();
-    }
-    return {};
-}
+/// The favourites give way to the tabs.
+constexpr int kNarrowFavorites = 70, kWideFavorites = 200;
+constexpr QSize kDesignSize(800, 520);
 
 }  // namespace
 
 MainWindow::MainWindow(Presenter& presenter)
-    : presenter_(presenter), main_(presenter.Main()), binder_(presenter, main_) {
+    : presenter_(presenter),
+      main_(presenter.Main()),
+      binder_(presenter, main_),
+      pages_(presenter),
+      status_(new StatusLine(presenter)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/swiftroll.svg")));
     setAcceptDrops(true);
     BuildMenuBar();
-    auto* centre = new QWidget;
-    auto* column = new QVBoxLayout(centre);
-    column->setContentsMargins(kMargin, kMargin, kMargin, 0);
-    column->setSpacing(kSpacing);
-    column->addWidget(BuildFileRows(main_, binder_));
-    column->addWidget(new MessageBarWidget(presenter_));
-    column->addWidget(BuildTabs(), 1);
-    progress_ = new QProgressBar;
-    progress_->setObjectName(QStringLiteral("ProgressBar1"));
-    progress_->setAccessibleName(QStringLiteral("Progression"));
-    progress_->setRange(0, kProgressSteps);
-    progress_->setTextVisible(false);
-    progress_->setFixedHeight(8);
-    column->addWidget(progress_);
-    setCentralWidget(centre);
-    BuildStatusBar();
+    BuildCentre();
+    setStatusBar(status_);
     presenter_.OnRefresh([this] { Refresh(); });
     main_.tabs.OnTabFocus = [this] { focusesTable_ = true; };
 }
 
+void MainWindow::BuildCentre() {
+    auto* centre = new QWidget;
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(kMargin, kSpacing, kMargin, 0);
+    column->setSpacing(kSpacing);
+    column->addWidget(BuildToolBar(main_, binder_));
+    column->addWidget(BuildFileRows(main_, binder_, presenter_));
+    column->addWidget(new MessageBarWidget(presenter_));
+    column->addWidget(BuildTabs(), 1);
+    setCentralWidget(centre);
+}
+
 void MainWindow::TakeDesignSize() {
     presenter_.Refresh();
-    resize(kDesignSize.expandedTo(minimumSizeHint()));
+    // All tabs are seen: where the letters are larger, the window is too.
+    const int tabs = tabs_->tabBar()->sizeHint().width() + tabs_->cornerWidget()->sizeHint().width();
+    resize(RoomOnScreen(*this).boundedTo(kDesignSize.expandedTo(QSize(tabs + 2 * kMargin, 0))));
     setMinimumSize(size());
 }
 
@@ -103,85 +76,27 @@ void MainWindow::BuildMenuBar() {
     }
 }
 
-QWidget* MainWindow::TablePage(std::initializer_list<Table*> tables, int mainTable) {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(kTableMargin, kTableMargin, kTableMargin, kTableMargin);
-    auto* splitter = new QSplitter(Qt::Vertical);
-    for (Table* table : tables) {
-        auto* view = new TableView(presenter_, *table);
-        views_[table] = view;
-        splitter->addWidget(view);
-    }
-    // The list that the tab is for has the room.
-    for (int i = 0; i < splitter->count(); ++i) splitter->setStretchFactor(i, i == mainTable ? 3 : 1);
-    splitter->setChildrenCollapsible(false);
-    column->addWidget(splitter);
-    return page;
-}
-
-/// The page of the paths, with the drawing of the current one.
-QWidget* MainWindow::WithPicture(QWidget* page) {
-    constexpr int kPageStretch = 3, kPictureStretch = 2;
-    auto* splitter = new TurningSplitter;
-    splitter->addWidget(page);
-    splitter->addWidget(new KinshipView(presenter_));
-    splitter->setStretchFactor(0, kPageStretch);
-    splitter->setStretchFactor(1, kPictureStretch);
-    splitter->setCollapsible(0, false);
-    return splitter;
-}
-
 QWidget* MainWindow::BuildTabs() {
-    tabs_ = new QTabWidget;
+    constexpr int kFirstOptions = static_cast<int>(Tab::FormatOptions);
+    tabs_ = new GroupedTabs(kFirstOptions);
     tabs_->setObjectName(QStringLiteral("SSTab1"));
     tabs_->setAccessibleName(QStringLiteral("Listes et options"));
-    QWidget* const pages[] = {
-        TablePage({&main_.lvwIn}),
-        TablePage({&main_.lvwOut}),
-        TablePage({&main_.lvwFamilyXref}),
-        TablePage({&main_.lvwXref, &main_.lvwXref1}),
-        TablePage({&main_.lvwFamily}),
-        Below(BuildKinshipSlots(presenter_), WithPicture(TablePage({&main_.lvwPaths, &main_.lvwKinship}, 1))),
-        Scrolled(BuildFormatTab(main_, binder_, presenter_)),
-        Scrolled(BuildLinksTab(main_, binder_, presenter_)),
-        Scrolled(BuildOptionsTab(main_, binder_))};
-    for (std::size_t i = 0; i < std::size(pages); ++i) {
-        tabs_->addTab(pages[i], ToQt(kTabCaptions[i]));
+    QWidget* const options[] = {BuildFormatTab(main_, binder_, presenter_),
+                                BuildLinksTab(main_, binder_, presenter_), BuildOptionsTab(main_, binder_)};
+    for (int i = 0; i < static_cast<int>(std::size(kTabCaptions)); ++i) {
+        QWidget* page = i < kFirstOptions ? pages_.Of(static_cast<Tab>(i)).widget
+                                          : NewOptionPage(options[i - kFirstOptions]);
+        tabs_->addTab(page, ToQt(kTabCaptions[i]));
     }
-    const std::pair<Table*, const char*> names[] = {{&main_.lvwIn, "Individus"},
-                                                    {&main_.lvwOut, "Relevé-vif"},
-                                                    {&main_.lvwFamilyXref, "Membres des familles"},
-                                                    {&main_.lvwXref, "Liens"},
-                                                    {&main_.lvwXref1, "Liens de la recherche de parenté"},
-                                                    {&main_.lvwFamily, "Familles"},
-                                                    {&main_.lvwPaths, "Résumé des liens de parenté"},
-                                                    {&main_.lvwKinship, "Liens de parenté"}};
-    for (const auto& [table, name] : names) ViewOf(*table).setAccessibleName(QString::fromUtf8(name));
-    ViewOf(main_.lvwIn)
-        .SetHint(
-            QStringLiteral("Choisissez un fichier GEDCOM avec le bouton « ... » de la ligne « Entrée GED »,\n"
-                           "ou déposez-le sur cette fenêtre,\npuis appuyez sur « Lire Tout »."));
-    ViewOf(main_.lvwOut)
-        .SetHint(
-            QStringLiteral("Lisez un fichier, placez devant la colonne « Nbre » les colonnes à regrouper,\n"
-                           "puis appuyez sur « Recalcul Sortie »."));
-    ViewOf(main_.lvwPaths)
-        .SetHint(QStringLiteral("Résumé : chaque lien trouvé aura ici une ligne,\n"
-                                "avec son nom et ses degrés. Choisissez-en une pour aller au lien."));
-    ViewOf(main_.lvwKinship)
-        .SetHint(QStringLiteral("Sélectionnez ou cochez deux individus dans l'onglet « Entrée »,\n"
-                                "puis appuyez sur « Rech. Parenté »."));
+    new StartView(presenter_, ViewOf(main_.lvwIn));  // owned by the list
     tabs_->setCornerWidget(BuildFavorites());
     // A person of any list can be dragged to the slots of the kinship.
     tabs_->tabBar()->setAcceptDrops(true);
     tabs_->tabBar()->setChangeCurrentOnDrag(true);
-    // All tabs are seen: where the letters are larger, the window is too.
-    tabs_->setUsesScrollButtons(false);
+    tabs_->tabBar()->installEventFilter(this);
     connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::OnTabChosen);
     connect(tabs_, &QTabWidget::tabBarDoubleClicked, this,
             [this](int) { presenter_.Act([this] { main_.lists.SSTab1_DblClick(); }); });
-    tabs_->tabBar()->installEventFilter(this);
     return tabs_;
 }
 
@@ -194,7 +109,7 @@ QWidget* MainWindow::BuildFavorites() {
     for (ComboBox& favorites : main_.cboFavorites) {
         auto* combo = new QComboBox;
         binder_.Bind(*combo, favorites, QStringLiteral("Favoris de la liste"));
-        combo->setFixedWidth(kFavoritesWidth);
+        combo->setFixedWidth(kNarrowFavorites);
         SelectAllOnFocus(*combo->lineEdit());
         row->addWidget(combo);
     }
@@ -202,30 +117,7 @@ QWidget* MainWindow::BuildFavorites() {
     return widget;
 }
 
-void MainWindow::BuildStatusBar() {
-    const char* const names[] = {"Lignes lues", "Individus", "Familles", "Message"};
-    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
-    statusBar()->setSizeGripEnabled(true);
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        panels_[i] = new QLabel;
-        panels_[i]->setAccessibleName(QString::fromUtf8(names[i]));
-        panels_[i]->setTextFormat(Qt::PlainText);
-        panels_[i]->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-        const bool isMessage = i + 1 == panels_.size();
-        // A long message is cut, it does not widen the window.
-        if (isMessage) panels_[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        statusBar()->addWidget(panels_[i], isMessage ? 1 : 0);
-        panels_[i]->setVisible(isMessage);
-    }
-    panels_.back()->setObjectName(QStringLiteral("pnlMessage"));
-    panels_.back()->installEventFilter(this);
-}
-
 bool MainWindow::eventFilter(QObject* object, QEvent* event) {
-    if (object == panels_.back() && event->type() == QEvent::MouseButtonDblClick) {
-        presenter_.Act([this] { main_.lists.StatusBar1_DblClick(); });
-        return true;
-    }
     if (object == tabs_->tabBar() && event->type() == QEvent::MouseButtonPress) {
         // No cell of the list that comes to the front was clicked.
         presenter_.Act([this] { main_.lists.HitTest(-1, -1); });
@@ -270,22 +162,7 @@ void MainWindow::RefreshTab() {
 }
 
 void MainWindow::ShowStatus() {
-    const Panel* const panels[] = {&main_.pnlLines, &main_.pnlIndividuals, &main_.pnlFamilies,
-                                   &main_.pnlMessage};
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        const QString text = ToQt(panels[i]->Get());
-        if (panels_[i]->text() == text) continue;
-        panels_[i]->setText(text);
-        panels_[i]->setToolTip(text);
-        panels_[i]->show();
-        // A count that grows may widen its panel; one that shrinks does not make its neighbours jump.
-        if (panels_[i] != panels_.back())
-            panels_[i]->setMinimumWidth(std::max(panels_[i]->minimumWidth(), panels_[i]->sizeHint().width()));
-    }
-    // A bar without a range moves by itself.
-    const int steps = main_.ProgressBar1.IsBusy() ? 0 : kProgressSteps;
-    if (progress_->maximum() != steps) progress_->setRange(0, steps);
-    progress_->setValue(static_cast<int>(main_.ProgressBar1.Value() * steps / 100));
+    status_->Refresh();
     if (hasWaitCursor_ == main_.bWaitCursor) return;
     hasWaitCursor_ = main_.bWaitCursor;
     if (hasWaitCursor_) {
@@ -317,9 +194,14 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// The end of a file's name, and not its folder, is what a user looks for.
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
+    constexpr int kFavoritesButton = 50;
+    const int room = width() - 2 * kMargin - tabs_->tabBar()->sizeHint().width() - kFavoritesButton;
+    for (const ComboBox& favorites : main_.cboFavorites) {
+        presenter_.WidgetOf(favorites)->setFixedWidth(std::clamp(room, kNarrowFavorites, kWideFavorites));
+    }
+    // The end of a file's name, and not its folder, is what a user looks for.
     for (const ComboBox* file :
          {&main_.cboGedIn, &main_.cboGedOut, &main_.cboSwiftOut, &main_.cboFileModel, &main_.cboKinship}) {
         auto* combo = static_cast<QComboBox*>(presenter_.WidgetOf(*file));
@@ -334,7 +216,9 @@ void MainWindow::showEvent(QShowEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) presenter_.ActLater([] {});
+    if (event->type() != QEvent::PaletteChange) return;
+    FollowTheme();
+    presenter_.ActLater([] {});
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -344,11 +228,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
     const QString file = DroppedFile(*event->mimeData());
     event->acceptProposedAction();
-    presenter_.ActLater([this, file] {
-        main_.SetFocus(main_.cboGedIn);
-        main_.cboGedIn.SetText(FromQt(file));
-        main_.SetFocus(main_.cmdLoad);  // the name enters the history, and Enter reads the file
-    });
+    presenter_.ActLater([this, file] { main_.TakeGedIn(FromQt(file)); });
 }
 
 }  // namespace swiftroll::ui

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QProgressBar>
 #include <QTabWidget>
-#include <array>
 
 #include "binder.h"
-#include "table_view.h"
+#include "list_pages.h"
+#include "status_line.h"
 
 namespace swiftroll::ui {
 
@@ -15,7 +14,7 @@ class MainWindow : public QMainWindow {
   public:
     explicit MainWindow(Presenter& presenter);
 
-    TableView& ViewOf(const Table& table) const { return *views_.at(&table); }
+    TableView& ViewOf(const Table& table) const { return pages_.ViewOf(table); }
     QTabWidget& Tabs() const { return *tabs_; }
     /// Gives the window the size below which it never falls: to be called once its controls have their texts.
     void TakeDesignSize();
@@ -34,12 +33,9 @@ class MainWindow : public QMainWindow {
 
   private:
     void BuildMenuBar();
+    void BuildCentre();
     QWidget* BuildTabs();
     QWidget* BuildFavorites();
-    QWidget* WithPicture(QWidget* page);
-    /// One table above the other; `mainTable` is the number of the one that the tab is for.
-    QWidget* TablePage(std::initializer_list<Table*> tables, int mainTable = 0);
-    void BuildStatusBar();
     void Refresh();
     void RefreshTab();
     void OnTabChosen(int index);
@@ -48,10 +44,9 @@ class MainWindow : public QMainWindow {
     Presenter& presenter_;
     frmMain& main_;
     Binder binder_;
+    ListPages pages_;
+    StatusLine* status_;
     QTabWidget* tabs_ = nullptr;
-    QProgressBar* progress_ = nullptr;
-    std::array<QLabel*, 4> panels_{};
-    std::unordered_map<const Table*, TableView*> views_;
     std::vector<std::pair<QAction*, Command*>> menuActions_;
     bool hasWaitCursor_ = false;
     bool focusesTable_ = false;  // the present tab was given the focus since the last refresh

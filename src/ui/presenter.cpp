@@ -59,7 +59,10 @@ void Presenter::RegisterFocus(QWidget& widget, Window& window, Control& control)
             const Focus* present = FocusOf(QApplication::focusWidget());
             if (present != nullptr && present->control == active) return;
             QWidget* target = WidgetOf(*active);
-            if (target != nullptr && target->isVisible()) target->setFocus();
+            if (target == nullptr) return;
+            // What the core has just brought to sight is shown only now.
+            if (!target->isVisible()) Refresh();
+            if (target->isVisible()) target->setFocus();
         };
     }
 }

@@ -40,8 +40,9 @@ class Engine : public QIconEngine {
 QIcon ThemedIcon(const QString& name) { return QIcon(new Engine(name)); }
 
 QPixmap ThemedPixmap(const QString& name, QSize size, const QColor& colour, qreal ratio) {
-    const QString key = QStringLiteral("%1/%2/%3/%4/%5")
-                            .arg(name, colour.name())
+    const QColor accent = QApplication::palette().color(QPalette::Link);
+    const QString key = QStringLiteral("%1/%2/%3/%4/%5/%6")
+                            .arg(name, colour.name(), accent.name())
                             .arg(size.width())
                             .arg(size.height())
                             .arg(ratio);
@@ -49,7 +50,9 @@ QPixmap ThemedPixmap(const QString& name, QSize size, const QColor& colour, qrea
     if (QPixmapCache::find(key, &picture)) return picture;
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly)) return {};
-    QSvgRenderer renderer(file.readAll().replace("currentColor", colour.name().toLatin1()));
+    QSvgRenderer renderer(file.readAll()
+                              .replace("currentColor", colour.name().toLatin1())
+                              .replace("accentColor", accent.name().toLatin1()));
     picture = QPixmap(size * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
+#include <algorithm>
 #include <optional>
 
 namespace swiftroll::ui {
@@ -65,9 +66,13 @@ class PlaceKeeper : public QObject {
     std::optional<Shown> last_;
 };
 
+int TitleHeight(const QWidget& widget) {
+    return widget.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &widget);
+}
+
 /// What fits on a screen of a window with its frame.
 QRect FittedTo(const QRect& screen, QRect place, const QWidget& widget) {
-    const int title = widget.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &widget);
+    const int title = TitleHeight(widget);
     if (place.width() > screen.width()) {
         place.setLeft(screen.left());
         place.setWidth(screen.width());
@@ -86,6 +91,18 @@ void KeepPlace(QWidget& widget, Window& window, bool resizable) {
     window.Place.height = widget.height();
     window.Place.resizable = resizable;
     new PlaceKeeper(widget, window);  // owned by the widget
+}
+
+QSize RoomOnScreen(const QWidget& widget) {
+    return widget.screen()->availableGeometry().size() - QSize(0, TitleHeight(widget));
+}
+
+void PlaceFirst(QWidget& widget, QSize size) {
+    const QRect screen = widget.screen()->availableGeometry();
+    const QSize room = RoomOnScreen(widget);
+    widget.resize(size.boundedTo(room));
+    const QSize rest = room - widget.size();
+    widget.move(screen.topLeft() + QPoint(std::max(rest.width(), 0), std::max(rest.height(), 0)) / 2);
 }
 
 void RestorePlace(QWidget& widget, const Window& window) {

@@ -112,7 +112,7 @@ TEST_F(FileCombos, DialogsAskForTheFileOfTheirCombo) {
               (Texts{"open C:\\*.ged Gedcom (*.ged)|*.ged|Tous (*.*)|*.*",
                      "open C:\\*.ged Gedcom (*.ged)|*.ged|Tous (*.*)|*.*",
                      "open /models/SwiftRoll.Modele.txt Fichiers Texte  (*.txt)|*.txt|Tous (*.*)|*.*",
-                     "save /docs/.xml XML (*.xml)|*.xml|Tous (*.*)|*.*"}));
+                     "save /docs/g.xml XML (*.xml)|*.xml|Tous (*.*)|*.*"}));
 }
 
 TEST_F(FileCombos, AnExistingFileIsAskedFor) {

@@ -10,6 +10,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    swiftroll::ui::SetUpFrench();
+    swiftroll::ui::SetUpToolkit();
     return RUN_ALL_TESTS();
 }

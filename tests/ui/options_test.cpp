@@ -111,6 +111,7 @@ TEST_F(Options, AClickIntoATextSelectsItAndItsOwnMenuDoesNot) {
 
 TEST_F(Options, TheManualOpensAtWhatHasTheFocus) {
     Start();
+    OpenOutputFiles();
     ShowTab(6);
     QTextBrowser reader;
     QDesktopServices::setUrlHandler(QStringLiteral("file"), &reader, "setSource");

@@ -98,7 +98,8 @@ TEST_F(Picture, IsWalkedZoomedAndDraggedAndLeadsToThePeople) {
 TEST_F(Picture, StandsBesideTheListOrBelowIt) {
     StartWithPath();
     auto* splitter = qobject_cast<QSplitter*>(Drawing().parentWidget());
-    EXPECT_EQ(splitter->orientation(), Qt::Horizontal);
+    Window().resize(1300, 560);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return splitter->orientation() == Qt::Horizontal; }));
     Window().resize(Window().width(), Window().height() + 900);
     EXPECT_TRUE(QTest::qWaitFor([&] { return splitter->orientation() == Qt::Vertical; }));
 }

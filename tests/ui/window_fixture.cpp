@@ -93,4 +93,8 @@ void WindowTest::ShowTab(int tab) {
                       Window().Tabs().tabBar()->tabRect(tab).center());
 }
 
+void WindowTest::OpenOutputFiles() {
+    if (!Find<QAbstractButton>("chkOutputFiles").isChecked()) Click("chkOutputFiles");
+}
+
 }  // namespace swiftroll::test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTemporaryDir>
@@ -62,6 +63,8 @@ class WindowTest : public testing::Test {
     /// The middle of a cell, in the viewport of its view; both from 0, the column by its index.
     QPoint CellAt(Table& table, int row, int column);
     void ShowTab(int tab);
+    /// Opens the group of the files that are written, as a user does who has not opened it yet.
+    void OpenOutputFiles();
 
     std::unique_ptr<ui::DesktopApplication> program_;
 
