@@ -64,6 +64,8 @@ QComboBox* AddRow(FileGrid& rows, const FileRow& file, Binder& binder) {
     int column = FileGrid::kFile;
     for (QWidget* widget : widgets) {
         SetHelpTopic(*widget, file.topic);
+        // The combo decides how high the row may be.
+        if (widget != combo) widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
         rows.grid->addWidget(widget, row, column++);
     }
     return combo;
