@@ -99,6 +99,30 @@ void MeasureScroll(swiftroll::ui::TableView& view) {
                 frames[frames.size() / 2], frames.back());
 }
 
+/// From the moment that another row becomes the current one until the panel beside the list shows it.
+void MeasurePanel(swiftroll::ui::DesktopApplication& program) {
+    constexpr int kSteps = 200;
+    constexpr QSize kWide(1366, 768);
+    swiftroll::frmMain& main = program.Main();
+    program.Window().resize(kWide);
+    program.ThePresenter().Act([&] { main.ShowTab(swiftroll::Tab::In); });
+    QApplication::processEvents();
+    std::vector<double> times;
+    for (int i = 0; i < kSteps; ++i) {
+        QElapsedTimer watch;
+        watch.start();
+        program.ThePresenter().Act([&] {
+            const auto row = 1 + (main.lvwIn.Count() - 1) * static_cast<std::int64_t>(i) / kSteps;
+            main.lvwIn.SetCurrent(main.lvwIn.Item(static_cast<std::int32_t>(row)));
+        });
+        QApplication::processEvents();
+        times.push_back(static_cast<double>(watch.nsecsElapsed()) / 1e6);
+    }
+    std::sort(times.begin(), times.end());
+    std::printf("%-44s %8.2f ms, at most %.2f\n", "the side panel after another row, median",
+                times[times.size() / 2], times.back());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -123,6 +147,7 @@ int main(int argc, char** argv) {
     MeasureRead(program);
     QApplication::processEvents();
     MeasureScroll(program.Window().ViewOf(program.Main().lvwIn));
+    MeasurePanel(program);
     std::fflush(stdout);
     std::_Exit(0);
 }

@@ -9,6 +9,7 @@
 #include "kinship/relations.h"
 #include "shell/person_label.h"
 #include "tables/columns.h"
+#include "tables/look_ahead.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -30,10 +31,16 @@ Text EventText(TextView from, TextView to, TextView place) {
     return Concat({years, years.empty() || place.empty() ? "" : ", ", place});
 }
 
-/// Calls `visit(row)` for all rows.
+using Cells = RowView;
+TextRef At(const Cells& cells, ColumnId column) { return cells.Ref(column); }
+
+/// Calls `visit(cells)` for all rows.
 template <class Visitor>
 void VisitRows(const Table& table, Visitor visit) {
-    for (std::int32_t i = 1; i <= table.Count(); ++i) visit(table.Item(i));
+    for (std::int32_t i = 1; i <= table.Count(); ++i) {
+        LookAhead(table, i);
+        visit(table.Item(i));
+    }
 }
 
 class CardMaker {
@@ -69,11 +76,15 @@ class CardMaker {
         OtherParent other;
     };
 
+    Relation RelationIn(const Cells& member) const {
+        return modKinship::RelationOf(tables_.lvwFamilyXref.Store().Get(At(member, FamilyXref::Type)));
+    }
+
     void FindFamilies() {
-        VisitRows(tables_.lvwFamilyXref, [this](const RowView& member) {
-            if (member.Ref(FamilyXref::IDIndi) != id_) return;
-            const Relation relation = modKinship::RelationOf(member.Cell(FamilyXref::Type));
-            const TextRef family = member.Ref(FamilyXref::IDFam);
+        VisitRows(tables_.lvwFamilyXref, [this](const Cells& member) {
+            if (At(member, FamilyXref::IDIndi) != id_) return;
+            const Relation relation = RelationIn(member);
+            const TextRef family = At(member, FamilyXref::IDFam);
             if (relation == Relation::Child) origins_.push_back({family, OtherParent::Same});
             if (relation == Relation::Spouse) unions_.push_back(family);
         });
@@ -124,14 +135,14 @@ class CardMaker {
     /// The other families of the parents.
     void FindHalfFamilies() {
         if (parents_.empty()) return;
-        VisitRows(tables_.lvwFamily, [this](const RowView& family) {
-            const TextRef husband = family.Ref(Family::IDHusb), wife = family.Ref(Family::IDWife);
+        VisitRows(tables_.lvwFamily, [this](const Cells& family) {
+            const TextRef husband = At(family, Family::IDHusb), wife = At(family, Family::IDWife);
             const Parent* const father = ParentOf(husband);
             const Parent* const parent = father != nullptr ? father : ParentOf(wife);
             if (parent == nullptr) return;
             const TextRef other = father != nullptr ? wife : husband;
             const bool areKnown = !parent->other.IsEmpty() && !other.IsEmpty();
-            origins_.push_back({family.Ref(Family::IDFam), !areKnown ? OtherParent::Unknown
+            origins_.push_back({At(family, Family::IDFam), !areKnown ? OtherParent::Unknown
                                                            : parent->other == other
                                                                ? OtherParent::Same
                                                                : OtherParent::Different});
@@ -146,13 +157,13 @@ class CardMaker {
         const auto bitOf = [](TextRef family) { return std::uint64_t{1} << (hash_value(family) & 63); };
         std::uint64_t bits = 0;
         for (const auto& [family, children] : children_) bits |= bitOf(family);
-        VisitRows(tables_.lvwFamilyXref, [&](const RowView& member) {
-            const TextRef family = member.Ref(FamilyXref::IDFam);
+        VisitRows(tables_.lvwFamilyXref, [&](const Cells& member) {
+            const TextRef family = At(member, FamilyXref::IDFam);
             if ((bits & bitOf(family)) == 0) return;
             const auto found = children_.find(family);
             if (found == children_.end()) return;
-            if (modKinship::RelationOf(member.Cell(FamilyXref::Type)) == Relation::Child)
-                found->second.push_back(member.Ref(FamilyXref::IDIndi));
+            if (RelationIn(member) == Relation::Child)
+                found->second.push_back(At(member, FamilyXref::IDIndi));
         });
     }
 

@@ -5,27 +5,31 @@
 
 #include "colours.h"
 #include "drop_down.h"
+#include "mnemonics.h"
 #include "ordered_list_widget.h"
 #include "qt_text.h"
 
 namespace swiftroll::ui {
 namespace {
 
-/// A caption as plain text: "&&" is an ampersand, "&" alone marks the key of the next letter.
-QString PlainCaption(QString caption) {
-    return caption.replace(QStringLiteral("&&"), QStringLiteral("\x01"))
-        .remove(QLatin1Char('&'))
-        .replace(QLatin1Char('\x01'), QLatin1Char('&'));
-}
-
 void ShowTip(QWidget& widget, TextView tip) {
     const QString text = ToQt(tip);
     if (!text.isEmpty() && widget.toolTip() != text) widget.setToolTip(text);
 }
 
+/// The letter that the view has marked stays, as long as the caption has it.
 void ShowCaption(QAbstractButton& button, TextView caption) {
     const QString text = ToQt(caption);
-    if (button.text() != text) button.setText(text);
+    if (PlainCaption(button.text()) != PlainCaption(text))
+        button.setText(WithSameMnemonic(text, button.text()));
+}
+
+/// The same; a label that leads to no field marks nothing.
+void ShowCaption(QLabel& label, TextView caption) {
+    const QString text = ToQt(caption), plain = PlainCaption(text);
+    const bool marks = label.buddy() != nullptr;
+    const QString shown = marks ? PlainCaption(label.text()) : label.text();
+    if (shown != plain) label.setText(marks ? WithSameMnemonic(text, label.text()) : plain);
 }
 
 /// A new value for a combo: the items and the text as the control has them.
@@ -184,10 +188,7 @@ void Binder::Bind(QAbstractButton& widget, ColourButton& control) {
 
 void Binder::Bind(QLabel& widget, Label& control) {
     BindCommon(widget, control);
-    presenter_.OnRefresh([&widget, &control] {
-        const QString text = PlainCaption(ToQt(control.Caption));
-        if (widget.text() != text) widget.setText(text);
-    });
+    presenter_.OnRefresh([&widget, &control] { ShowCaption(widget, control.Caption); });
 }
 
 void Binder::Bind(QAbstractButton& widget, Command& control, const QString& description) {

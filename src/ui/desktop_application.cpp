@@ -9,6 +9,8 @@
 #include "look.h"
 #include "preview_dialog.h"
 #include "qt_text.h"
+#include "table_view_access.h"
+#include "window_keys.h"
 #include "window_place.h"
 
 namespace swiftroll::ui {
@@ -38,6 +40,7 @@ DesktopApplication::DesktopApplication()
 DesktopApplication::~DesktopApplication() = default;
 
 bool DesktopApplication::Start(const QString& file) {
+    QAccessible::installFactory(TableViewAccess::Make);  // before assistive programs meet the first list
     window_ = std::make_unique<MainWindow>(presenter_);
     BuildKinshipDialog(presenter_, dialogs_, window_.get());
     BuildFindDialog(presenter_, window_.get());
@@ -59,6 +62,7 @@ bool DesktopApplication::Start(const QString& file) {
     QObject::connect(qApp, &QApplication::focusChanged, &presenter_, [this] { presenter_.FocusMoved(); });
     main_.OnShow = [this] {
         window_->TakeDesignSize();
+        GiveKeys(*window_);
         if (!main_.Place.known) PlaceFirst(*window_, kFirstSize);
         RestorePlace(*window_, main_);
         window_->show();

@@ -3,6 +3,7 @@
 #include "kinship_view.h"
 #include "layout.h"
 #include "person_edit.h"
+#include "row_teller.h"
 #include "turning_splitter.h"
 
 namespace swiftroll::ui {
@@ -29,6 +30,7 @@ ListPage ListPages::NewPage(std::initializer_list<Table*> tables, int mainTable,
     for (Table* table : tables) {
         auto* view = new TableView(presenter_, *table);
         views_[table] = view;
+        new RowTeller(presenter_, *view);  // owned by the view
         lists->addWidget(view);
     }
     // The list that the tab is for has the room.

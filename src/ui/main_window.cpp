@@ -16,6 +16,7 @@
 #include "menus.h"
 #include "message_bar_widget.h"
 #include "option_tabs.h"
+#include "person_pane.h"
 #include "qt_text.h"
 #include "start_view.h"
 #include "tool_bar.h"
@@ -89,6 +90,7 @@ QWidget* MainWindow::BuildTabs() {
         tabs_->addTab(page, ToQt(kTabCaptions[i]));
     }
     new StartView(presenter_, ViewOf(main_.lvwIn));  // owned by the list
+    new PersonPane(presenter_, *pages_.Of(Tab::In).sides);  // owned by the splitter
     tabs_->setCornerWidget(BuildFavorites());
     // A person of any list can be dragged to the slots of the kinship.
     tabs_->tabBar()->setAcceptDrops(true);

@@ -1,5 +1,6 @@
 #include "menus.h"
 
+#include "mnemonics.h"
 #include "qt_text.h"
 
 namespace swiftroll::ui {
@@ -36,6 +37,7 @@ void Fill(QMenu& target, const Menu& menu, const std::function<void(Command&)>& 
         action->setEnabled(command.Enabled);
         actions.emplace_back(action, &command);
     }
+    AssignMnemonics(target.actions());
 }
 
 }  // namespace

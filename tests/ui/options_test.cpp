@@ -2,6 +2,7 @@
 #include <QDesktopServices>
 #include <QTextBrowser>
 
+#include "mnemonics.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -57,7 +58,7 @@ TEST_F(Options, CaptionsAreGreyWhereTheirOptionsRest) {
     const auto areIndexLabelsOn = [&] {
         int on = 0;
         for (const QLabel* label : Window().findChildren<QLabel*>()) {
-            const bool isOfIndex = label->text() == QStringLiteral("Index HTML") ||
+            const bool isOfIndex = ui::PlainCaption(label->text()) == QStringLiteral("Index HTML") ||
                                    label->text() == QStringLiteral("caractère(s)");
             if (isOfIndex && label->isEnabled()) ++on;
         }

@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QToolButton>
 
+#include "mnemonics.h"
 #include "window_fixture.h"
 
 namespace swiftroll::test {
@@ -90,7 +91,9 @@ TEST_F(Texts, StandAsTheProductSaysThem) {
         {"cmdCopyGedIn2GedOut", "V"},
         {"cmdCopyTitle2kinship", ">"}};
     for (const auto& [name, text] : quoted) {
-        EXPECT_EQ(Find<QAbstractButton>(name).text().toStdString(), text) << name;
+        EXPECT_EQ(ui::PlainCaption(Find<QAbstractButton>(name).text()),
+                  ui::PlainCaption(QString::fromUtf8(text)))
+            << name;
     }
     QStringList frames, tabs;
     for (const QGroupBox* box : Window().findChildren<QGroupBox*>()) frames << box->title();

@@ -1,0 +1,67 @@
+#include "window_keys.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QLayout>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTabBar>
+
+#include "kinship_view.h"
+#include "mnemonics.h"
+#include "panes.h"
+#include "person_view.h"
+#include "tab_order.h"
+
+namespace swiftroll::ui {
+namespace {
+
+/// The parts of a page: its lists and what stands beside them, or all of a page of options.
+void AddParts(Panes& panes, QWidget& page) {
+    panes.Add(page);
+    for (QWidget* widget : page.findChildren<QWidget*>()) {
+        const bool isPart = dynamic_cast<TableView*>(widget) != nullptr ||
+                            dynamic_cast<PersonView*>(widget) != nullptr ||
+                            dynamic_cast<KinshipView*>(widget) != nullptr;
+        if (isPart) panes.Add(*widget);
+    }
+}
+
+/// The message can be read, and copied, by keys.
+void MakeReadable(QStatusBar& bar) {
+    auto* message = bar.findChild<QLabel*>(QStringLiteral("pnlMessage"));
+    if (message == nullptr) return;
+    message->setTextInteractionFlags(Qt::TextSelectableByKeyboard);
+    message->setFocusPolicy(Qt::TabFocus);
+}
+
+}  // namespace
+
+void GiveKeys(MainWindow& window) {
+    QTabWidget& tabs = window.Tabs();
+    QWidget& centre = *window.centralWidget();
+    MakeReadable(*window.statusBar());
+    OrderTabsByRows(centre);
+
+    const QString ofFrame = AssignMnemonics(centre, AssignMnemonics(window.menuBar()->actions()), {&tabs});
+    for (int i = 0; i < tabs.count(); ++i) AssignMnemonics(*tabs.widget(i), ofFrame);
+    for (QDialog* dialog : window.findChildren<QDialog*>()) {
+        OrderTabsByRows(*dialog);
+        AssignMnemonics(*dialog);
+    }
+
+    auto* panes = new Panes(window);
+    for (int i = 0; i < centre.layout()->count(); ++i) {
+        QWidget* const part = centre.layout()->itemAt(i)->widget();
+        if (part == nullptr) continue;
+        if (part != &tabs) {
+            panes->Add(*part);
+            continue;
+        }
+        panes->Add(*tabs.tabBar());
+        for (int page = 0; page < tabs.count(); ++page) AddParts(*panes, *tabs.widget(page));
+    }
+    panes->Add(*window.statusBar());
+}
+
+}  // namespace swiftroll::ui
