@@ -1,8 +1,11 @@
 // How the window feels: from the start of the process to the first paint, the longest stall of the event loop
-// while a file is read, and the time that a screen of rows takes while a long table is scrolled.
+// while a file is read, the time that a screen of rows takes while a long table is scrolled, and the time of
+// a key of its filter.
 //   windowbench START FILE.ged      START: when the process was started, in nanoseconds since the epoch
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QTimer>
@@ -99,6 +102,30 @@ void MeasureScroll(swiftroll::ui::TableView& view) {
                 frames[frames.size() / 2], frames.back());
 }
 
+/// Types a filter key by key, as a user does, and takes it back: the time until the shorter list is painted.
+void MeasureFilter(swiftroll::ui::MainWindow& window, swiftroll::Table& table) {
+    auto& filter = *window.findChild<QLineEdit*>(QStringLiteral("filter.lvwIn"));
+    swiftroll::ui::TableView& view = window.ViewOf(table);
+    std::vector<double> keys;
+    const auto press = [&](Qt::Key key, const QString& text) {
+        QElapsedTimer watch;
+        watch.start();
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QApplication::sendEvent(&filter, &event);
+        view.viewport()->repaint();
+        keys.push_back(static_cast<double>(watch.nsecsElapsed()) / 1e6);
+    };
+    const QString texts[] = {QStringLiteral("martin 1850"), QStringLiteral("zq"), QStringLiteral("e"),
+                             QStringLiteral("paris m")};
+    for (const QString& text : texts) {
+        for (const QChar letter : text) press(static_cast<Qt::Key>(letter.toUpper().unicode()), letter);
+        for (qsizetype i = 0; i < text.size(); ++i) press(Qt::Key_Backspace, {});
+    }
+    std::sort(keys.begin(), keys.end());
+    std::printf("%-44s %8.2f ms, at most %.2f\n", "a key of the filter, median", keys[keys.size() / 2],
+                keys.back());
+}
+
 /// From the moment that another row becomes the current one until the panel beside the list shows it.
 void MeasurePanel(swiftroll::ui::DesktopApplication& program) {
     constexpr int kSteps = 200;
@@ -147,6 +174,7 @@ int main(int argc, char** argv) {
     MeasureRead(program);
     QApplication::processEvents();
     MeasureScroll(program.Window().ViewOf(program.Main().lvwIn));
+    MeasureFilter(program.Window(), program.Main().lvwIn);
     MeasurePanel(program);
     std::fflush(stdout);
     std::_Exit(0);

@@ -12,12 +12,18 @@ constexpr TextView kValueModes[] = {"V<=", "V=", "V>="};
 }  // namespace
 
 ContextMenu::ContextMenu(Application& app, MainCommands& commands, modSelectionIn::Engine& selection,
-                         Lists& lists)
-    : mnuContext(commands.TableMenu()), app_(app), commands_(commands), selection_(selection), lists_(lists) {
+                         Lists& lists, ListColumns& columns, MarkHistory& marks)
+    : mnuContext(commands.TableMenu()),
+      app_(app),
+      commands_(commands),
+      selection_(selection),
+      lists_(lists),
+      columns_(columns),
+      marks_(marks) {
     const auto bind = [this](Command& command, bool bSelect, TextView sMode,
                              std::int32_t lGenerations = modSelectionIn::kAllGenerations) {
         command.Operation = [this, bSelect, sMode, lGenerations] {
-            selection_.Add_Remove_Selection(bSelect, sMode, lGenerations);
+            marks_.Run(app_.lvwIn, [&] { selection_.Add_Remove_Selection(bSelect, sMode, lGenerations); });
         };
     };
     const struct {
@@ -56,6 +62,7 @@ void ContextMenu::lvw_MouseUp(MouseButton button) {
         commands_.mnuDrawKinship.Enabled = &table == &app_.lvwKinship;
         const ColumnId iCol = lists_.lHitCol;
         ModifyContextMenu();
+        const MarkHistory::Start start(marks_, table);
         MarkSubItems(iCol, true);
         selection_.context.bRestoreClickedRow = true;
         // While a command of the menu runs for long, another menu may open and close.
@@ -85,6 +92,8 @@ void ContextMenu::ModifyContextMenu() {
     commands_.mnuDeselectCurrent.Enabled = static_cast<bool>(lists_.lHitCol);
     commands_.mnuAddFavorite.Enabled = lists_.lHitRow >= 0 && !app_.IsSummary(&table);
     commands_.mnuFind.Enabled = commands_.mnuFindNext.Enabled = true;
+    columns_.FitCommands();
+    marks_.Follow();
     const bool isIndividual = context.sIdKind == "I";
     commands_.mnuAllKin.Enabled = isIndividual && lists_.lHitRow >= 0 && app_.bFamiliesRead;
     commands_.mnuKinFrom.Enabled = commands_.mnuKinTo.Enabled =
@@ -138,10 +147,10 @@ void ContextMenu::lvw_KeyDown(const ListKey& key) {
     using Code = ListKey::Code;
     if (key.OpensMenu()) lvw_MouseUp(MouseButton::Right);
     if (!key.ctrl || key.code != Code::Letter) return;
-    for (Command* command :
-         {&commands_.mnuAddFavorite, &commands_.mnuSelectAll, &commands_.mnuDeselectAll,
-          &commands_.mnuNextSelected, &commands_.mnuInvertSelection, &commands_.mnuDeselectCurrent,
-          &commands_.mnuCopy, &commands_.mnuDeselectIn, &commands_.mnuFind, &commands_.mnuFindNext}) {
+    for (Command* command : {&commands_.mnuAddFavorite, &commands_.mnuSelectAll, &commands_.mnuDeselectAll,
+                             &commands_.mnuNextSelected, &commands_.mnuInvertSelection,
+                             &commands_.mnuDeselectCurrent, &commands_.mnuCopy, &commands_.mnuDeselectIn,
+                             &commands_.mnuFind, &commands_.mnuFindNext, &commands_.mnuUndoMarks}) {
         if (command->Key == Concat({"Ctrl+", TextView(&key.letter, 1)})) return command->Click();
     }
 }

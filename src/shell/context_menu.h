@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/lists.h"
+#include "shell/list_columns.h"
+#include "shell/main_commands.h"
 
 namespace swiftroll {
 
@@ -19,7 +20,8 @@ struct ListKey {
 /// The context menu of the tables: which entries it offers for a cell, and what opens it.
 class ContextMenu {
   public:
-    ContextMenu(Application& app, MainCommands& commands, modSelectionIn::Engine& selection, Lists& lists);
+    ContextMenu(Application& app, MainCommands& commands, modSelectionIn::Engine& selection, Lists& lists,
+                ListColumns& columns, MarkHistory& marks);
 
     /// Its entries.
     const Menu mnuContext;
@@ -49,6 +51,8 @@ class ContextMenu {
     MainCommands& commands_;
     modSelectionIn::Engine& selection_;
     Lists& lists_;
+    ListColumns& columns_;
+    MarkHistory& marks_;
     ClickedRow clicked_;
 };
 

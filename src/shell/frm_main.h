@@ -24,6 +24,7 @@
 #include "shell/reading.h"
 #include "shell/saved_settings.h"
 #include "shell/tabs.h"
+#include "shell/type_ahead.h"
 #include "shell/writing.h"
 #include "update/frm_updates.h"
 
@@ -80,7 +81,11 @@ class frmMain : public Application, public MainCommands {
     PathDrawing drawing;
     Favorites favorites;
     Tabs tabs;
+    ListFilters filters;
+    MarkHistory marks;
     Lists lists;
+    ListColumns columns;
+    TypeAhead typeAhead;
     ContextMenu contextMenu;
     KinshipRequest kinshipRequest;
     PathChoice pathChoice;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "app/controls.h"
+#include "app/positions.h"
 #include "selection/lineage.h"
 
 namespace swiftroll {
@@ -31,10 +32,19 @@ struct ListCommands {
     Command mnuAddFavorite;
     Command mnuCol;
     Command mnuColSelect, mnuColUnselect, mnuResetCol;
+    // The column of the last hit test, here and in the menu of its header
+    Command mnuHeader;
+    Command mnuColSort, mnuColExport, mnuColFit, mnuColHide;
+    Command mnuColShow;
+    std::array<Command, kMaxColumns> mnuColShown;  // one for each column that is hidden
 
     // Marks of the active table
     Command mnuSpe2;
     Command mnuNextSelected, mnuDeselectCurrent, mnuDeselectAll, mnuSelectAll, mnuInvertSelection;
+    Command cmdCheckShown, mnuCheckShown;
+    Command cmdGather, mnuGather;
+    Command cmdUndoMarks, mnuUndoMarks;
+    Command mnuFilter;
     Command mnuCopy;
     Command mnuFind, mnuFindNext;
 

@@ -19,8 +19,13 @@ void SetMarks(Row row, bool on) {
 }  // namespace
 
 Lists::Lists(Application& app, ListCommands& commands, modSelectionIn::Engine& selection, frmFind& findDialog,
-             Tabs& tabs)
-    : app_(app), selection_(selection), findDialog_(findDialog), tabs_(tabs) {
+             Tabs& tabs, ListFilters& filters, MarkHistory& marks)
+    : app_(app),
+      selection_(selection),
+      findDialog_(findDialog),
+      tabs_(tabs),
+      filters_(filters),
+      marks_(marks) {
     commands.mnuNextSelected.Operation = [this] { mnuNextSelected_Click(); };
     commands.mnuDeselectCurrent.Operation = [this] { mnuDeselectCurrent_Click(); };
     commands.mnuDeselectAll.Operation =
@@ -28,9 +33,8 @@ Lists::Lists(Application& app, ListCommands& commands, modSelectionIn::Engine& s
     commands.mnuSelectAll.Operation = [this] { mnuSelectAll_Click(); };
     commands.mnuInvertSelection.Operation = [this] { mnuInvertSelection_Click(); };
     commands.mnuDeselectIn.Operation = [this] { DeselectAll(app_.lvwIn); };
-    commands.mnuColSelect.Operation = [this] { mnuColSelUnsel("On"); };
-    commands.mnuColUnselect.Operation = [this] { mnuColSelUnsel("Of"); };
-    commands.mnuResetCol.Operation = [this] { mnuResetCol_Click(); };
+    commands.cmdCheckShown.Operation = commands.mnuCheckShown.Operation = [this] { mnuCheckShown_Click(); };
+    commands.cmdGather.Operation = commands.mnuGather.Operation = [this] { Gather(); };
     commands.mnuCopy.Operation = [this] { mnuCopy_Click(); };
     commands.mnuFind.Operation = [this] { mnuFind_Click(); };
     commands.mnuFindNext.Operation = [this] { findDialog_.FindNext(); };
@@ -54,6 +58,10 @@ void Lists::OnActiveTable(const char* sProc, const std::function<void(Table&)>& 
 
 void Lists::SSTab1_DblClick() {
     tabs_.SSTab1_GotFocus();
+    Gather();
+}
+
+void Lists::Gather() {
     PlaceSelected();
     StatusBar1_DblClick();
 }
@@ -61,10 +69,8 @@ void Lists::SSTab1_DblClick() {
 void Lists::StatusBar1_DblClick() {
     if (!TabHasTable(app_.SSTab1)) return;
     OnActiveTable("StatusBar1_DblClick", [this](Table& table) {
-        std::int32_t count = 0;
-        for (std::int32_t i = 1; i <= table.Count(); ++i) count += table.Item(i).Marked() ? 1 : 0;
         app_.pnlMessage.Set(
-            Concat({Decimal(count), " \"", kTabCaptions[static_cast<std::size_t>(app_.SSTab1)],
+            Concat({Decimal(table.MarkedCount()), " \"", kTabCaptions[static_cast<std::size_t>(app_.SSTab1)],
                     "(s)\" sélectionnée(s) sur "_t, Decimal(table.Count())}));
     });
 }
@@ -85,7 +91,8 @@ void Lists::lvw_DblClick(Table& table) {
     if (&table == &app_.lvwOut) {
         if (lHitRow < 0 || !lHitCol) return;
         return app_.trail.Guard(
-            "lvwOut_DblClick", [this] { selection_.SelectGroups(); }, [] { return Text(); });
+            "lvwOut_DblClick", [this] { marks_.Run(app_.lvwIn, [this] { selection_.SelectGroups(); }); },
+            [] { return Text(); });
     }
     if (!app_.bFamiliesRead || lHitRow < 0 || lHitRow >= table.Count()) return;
     if (!lHitCol || lHitCol.Index() > table.ColumnCount()) return;
@@ -116,9 +123,14 @@ void Lists::mnuNextSelected_Click() {
     });
 }
 
-void Lists::mnuDeselectCurrent_Click() {
+/// Runs a command that marks rows of the active table.
+void Lists::MarkActiveTable(const char* sProc, const std::function<void(Table&)>& command) {
     selection_.context.bRestoreClickedRow = false;
-    OnActiveTable("mnuDeselectCurrent_Click", [this](Table& table) {
+    OnActiveTable(sProc, [&](Table& table) { marks_.Run(table, [&] { command(table); }); });
+}
+
+void Lists::mnuDeselectCurrent_Click() {
+    MarkActiveTable("mnuDeselectCurrent_Click", [this](Table& table) {
         if (lHitRow >= 0) SetMarks(table.Item(lHitRow + 1), false);
     });
 }
@@ -132,21 +144,21 @@ void Lists::DeselectAll(Table& table) {
     app_.trail.Guard(
         "mnuDeselectAll_Click",
         [&] {
-            for (std::int32_t i = 1; i <= table.Count(); ++i) SetMarks(table.Item(i), false);
+            marks_.Run(table, [&] {
+                for (std::int32_t i = 1; i <= table.Count(); ++i) SetMarks(table.Item(i), false);
+            });
         },
         [&] { return table.Name(); });
 }
 
 void Lists::mnuSelectAll_Click() {
-    selection_.context.bRestoreClickedRow = false;
-    OnActiveTable("mnuSelectAll_Click", [](Table& table) {
+    MarkActiveTable("mnuSelectAll_Click", [](Table& table) {
         for (std::int32_t i = 1; i <= table.Count(); ++i) SetMarks(table.Item(i), true);
     });
 }
 
 void Lists::mnuInvertSelection_Click() {
-    selection_.context.bRestoreClickedRow = false;
-    OnActiveTable("mnuInvertSelection_Click", [](Table& table) {
+    MarkActiveTable("mnuInvertSelection_Click", [](Table& table) {
         for (std::int32_t i = 1; i <= table.Count(); ++i) {
             const Row row = table.Item(i);
             SetMarks(row, !row.Marked());
@@ -154,20 +166,13 @@ void Lists::mnuInvertSelection_Click() {
     });
 }
 
-void Lists::mnuColSelUnsel(TextView sPrefix) {
-    OnActiveTable(
-        "mnuColSelUnsel",
-        [&](Table& table) {
-            if (&table == &app_.lvwOut) return;
-            for (Column& column : table.Columns()) column.Icon.replace(0, 2, sPrefix);
-            modCalcOut::WarnWithoutColumns(app_, table);
-        },
-        sPrefix);
-}
-
-void Lists::mnuResetCol_Click() {
-    OnActiveTable("mnuResetCol_Click", [](Table& table) {
-        for (Column& column : table.Columns()) column.Width = kColumnWidth;
+void Lists::mnuCheckShown_Click() {
+    MarkActiveTable("mnuCheckShown_Click", [this](Table& table) {
+        RowFilter& filter = filters_.Of(table);
+        filter.Sync();
+        for (std::int32_t place = 0; place < filter.Count(); ++place) {
+            SetMarks(table.Item(filter.RowAt(place)), true);
+        }
     });
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "shell/frm_find.h"
+#include "shell/list_filters.h"
+#include "shell/mark_history.h"
 #include "shell/tabs.h"
 
 namespace swiftroll {
@@ -9,7 +11,7 @@ namespace swiftroll {
 class Lists {
   public:
     Lists(Application& app, ListCommands& commands, modSelectionIn::Engine& selection, frmFind& findDialog,
-          Tabs& tabs);
+          Tabs& tabs, ListFilters& filters, MarkHistory& marks);
 
     /// Tells the row and the column that a button of the mouse, or a key of the menu, was pressed on, from 0;
     /// -1 for none.
@@ -39,16 +41,18 @@ class Lists {
     void StatusBar1_DblClick();
     /// Puts the marked rows of the active table before the others.
     void PlaceSelected();
+    /// The same, and tells how many there are.
+    void Gather();
 
   private:
     void DeselectAll(Table& table);
+    void MarkActiveTable(const char* sProc, const std::function<void(Table&)>& command);
+    void mnuCheckShown_Click();
     void mnuNextSelected_Click();
     void mnuDeselectCurrent_Click();
     void mnuDeselectAll_Click();
     void mnuSelectAll_Click();
     void mnuInvertSelection_Click();
-    void mnuColSelUnsel(TextView sPrefix);
-    void mnuResetCol_Click();
     void mnuFind_Click();
     void mnuCopy_Click();
     std::optional<Text> MarkedLines();
@@ -57,6 +61,8 @@ class Lists {
     modSelectionIn::Engine& selection_;
     frmFind& findDialog_;
     Tabs& tabs_;
+    ListFilters& filters_;
+    MarkHistory& marks_;
 };
 
 }  // namespace swiftroll

@@ -142,20 +142,38 @@ std::vector<Menu> MainCommands::MenuBar() {
             {mnuHelp, {{mnuDoc}, {mnuCheckUpdate}, {mnuSaveParams}, {mnuAbout}}}};
 }
 
+Menu MainCommands::HeaderMenu() {
+    Menu menu{mnuHeader, {{mnuColSort}, {mnuColExport}, {mnuColFit}, {mnuColHide}, {mnuColShow}}};
+    for (Command& column : mnuColShown) menu.entries.back().entries.push_back({column});
+    menu.entries.push_back({mnuResetCol});
+    return menu;
+}
+
+/// What the table menu offers for all columns, and for the one that was clicked.
+std::vector<Menu> MainCommands::ColumnEntries() {
+    std::vector<Menu> entries = {{mnuColSelect}, {mnuColUnselect}};
+    for (const Menu& entry : HeaderMenu().entries) entries.push_back(entry);
+    return entries;
+}
+
 Menu MainCommands::TableMenu() {
     return {
         mnuContextTitle,
         {{mnuAddFavorite},
-         {mnuCol, {{mnuColSelect}, {mnuColUnselect}, {mnuResetCol}}},
+         {mnuCol, ColumnEntries()},
          {mnuSpe2},
          {mnuNextSelected},
          {mnuDeselectCurrent},
          {mnuDeselectAll},
          {mnuSelectAll},
          {mnuInvertSelection},
+         {mnuCheckShown},
+         {mnuGather},
+         {mnuUndoMarks},
          {mnuCopy},
          {mnuFind},
          {mnuFindNext},
+         {mnuFilter},
          {mnuSelect},
          {mnuDeselectIn},
          {mnuAdd, Entries({&mnuAddIndi, &mnuAddParents, &mnuAddSpouses, &mnuAddChildren}, mnuAddValue,

@@ -115,8 +115,12 @@ struct MainCommands : ListCommands,
 
     /// The menu bar of the main window.
     std::vector<Menu> MenuBar();
-    /// The context menu of the tables.
+    /// The context menu of the tables, and the one of the header of a column.
     Menu TableMenu();
+    Menu HeaderMenu();
+
+  private:
+    std::vector<Menu> ColumnEntries();
 };
 
 }  // namespace swiftroll

@@ -9,6 +9,11 @@ void Tabs::TableGotFocus(Table& table) {
     drawing_.OfferPrinting();
 }
 
+void Tabs::GiveFocus(Table& table) {
+    TableGotFocus(table);
+    if (OnTabFocus) OnTabFocus();
+}
+
 void Tabs::ShowTab(Tab tab) {
     app_.SSTab1 = tab;
     SSTab1_GotFocus();
@@ -16,11 +21,7 @@ void Tabs::ShowTab(Tab tab) {
 
 void Tabs::SSTab1_GotFocus() {
     favorites_.ShowFavorites(app_.SSTab1);
-    if (Table* const table = app_.TableOf(app_.SSTab1)) {
-        TableGotFocus(*table);
-        if (OnTabFocus) OnTabFocus();
-        return;
-    }
+    if (Table* const table = app_.TableOf(app_.SSTab1)) return GiveFocus(*table);
     mnuCopy_.Enabled = false;
     if (app_.SSTab1 == Tab::FormatOptions) app_.SetFocus(app_.lbOuputPlacesOrder);
     if (app_.SSTab1 == Tab::LinkOptions) app_.SetFocus(app_.txtKinHeight);

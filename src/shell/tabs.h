@@ -26,6 +26,8 @@ class Tabs {
     void SSTab1_GotFocus();
     /// For the presentation, which moves its own focus after.
     std::function<void()> OnTabFocus;
+    /// Gives the focus to a table of the present tab.
+    void GiveFocus(Table& table);
     /// A table has taken the focus: the list commands work on it from now on.
     void TableGotFocus(Table& table);
 

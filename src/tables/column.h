@@ -16,7 +16,7 @@ struct Column {
     Text Caption;
     /// 1-based place on the screen.
     std::int16_t Position = 0;
-    /// In hundredths of a millimetre.
+    /// In hundredths of a millimetre; a column without width is hidden.
     std::int32_t Width = kColumnWidth;
     /// Four letters: "On"/"Of" (selected for export or not), then "No"/"Up"/"Dw" (no sort column, descending,
     /// ascending).
@@ -24,6 +24,7 @@ struct Column {
 
     /// Whether the column is switched on for export.
     bool IsOn() const { return Icon.starts_with("On"); }
+    bool IsShown() const { return Width > 0; }
 };
 
 /// The columns of a table as they first stand.

@@ -68,6 +68,7 @@ Table::Slot Table::NewSlot() {
     if (!freeSlots_.empty()) {
         const Slot slot = freeSlots_.back();
         freeSlots_.pop_back();
+        ++cellChanges_;  // of a row that is stored where another one was
         return slot;
     }
     const Slot slot = index_.SlotCount();
@@ -105,7 +106,7 @@ Row Table::Add(std::optional<std::int32_t> index, std::optional<RowKey> key, Tex
     const Row row = Append(key, text);
     if (index && *index < Count()) {
         std::rotate(order_.begin() + (*index - 1), order_.end() - 1, order_.end());
-        inSlotOrder_ = placesAreFresh_ = false;
+        OrderChanged();
     }
     return row;
 }
@@ -144,13 +145,14 @@ void Table::Remove(std::int32_t index) {
         looks_.erase(row.LookPlace(ColumnId::OfSection(section)));
     }
     index_.Erase(slot);
-    if (slot < marks_.size()) marks_[slot] = 0;
+    if (slot < marks_.size()) WriteMarks(slot, 0);
     std::fill_n(cells_.Row(slot), columns_.size(), TextRef());
     if (slot < tags_.size()) tags_[slot] = TextRef();
     freeSlots_.push_back(slot);
     order_.erase(order_.begin() + (index - 1));
     // Taking the last row away moves no other.
     if (index <= Count()) inSlotOrder_ = placesAreFresh_ = false;
+    ++orderChanges_;
     ++generation_;
 }
 
@@ -172,6 +174,9 @@ void Table::Clear() {
     freeSlots_ = {};
     placesAreFresh_ = false;
     inSlotOrder_ = true;
+    markedCount_ = 0;
+    ++markChanges_;
+    ++orderChanges_;
     ++generation_;
     ++clearings_;
     store_.reset();
@@ -263,13 +268,18 @@ void Table::Reorder(const std::vector<std::uint32_t>& permutation) {
         PauseAt(i, OnPause);
     }
     order_ = std::move(sorted);
+    OrderChanged();
+}
+
+void Table::OrderChanged() {
     inSlotOrder_ = placesAreFresh_ = false;
+    ++orderChanges_;
 }
 
 std::int32_t Table::GatherMarked() {
     const auto isMarked = [&](Slot slot) { return slot < marks_.size() && marks_[slot] != 0; };
     const auto others = std::stable_partition(order_.begin(), order_.end(), isMarked);
-    inSlotOrder_ = placesAreFresh_ = false;
+    OrderChanged();
     return static_cast<std::int32_t>(others - order_.begin());
 }
 
@@ -288,6 +298,7 @@ std::int32_t RowView::Index() const {
 
 void Row::EnsureVisible() const {
     CheckAlive();
+    if (table_->OnReveal) table_->OnReveal(*this);
     if (table_->OnEnsureVisible) table_->OnEnsureVisible(*this);
 }
 
@@ -315,9 +326,8 @@ bool RowView::HasMark(std::uint8_t mark) const {
 
 void Row::SetMark(std::uint8_t mark, bool on) {
     CheckAlive();
-    Owner().marks_.Grow(slot_ + std::size_t{1});
-    std::uint8_t& marks = Owner().marks_[slot_];
-    marks = static_cast<std::uint8_t>(on ? marks | mark : marks & ~mark);
+    const std::uint8_t old = slot_ < table_->marks_.size() ? table_->marks_[slot_] : std::uint8_t{0};
+    Owner().WriteMarks(slot_, static_cast<std::uint8_t>(on ? old | mark : old & ~mark));
 }
 
 std::uint64_t RowView::LookPlace(ColumnId column) const {

@@ -4,12 +4,14 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "tables/block_vector.h"
 #include "tables/cell_blocks.h"
 #include "tables/column.h"
 #include "tables/key_index.h"
+#include "tables/mark_snapshot.h"
 #include "tables/pause.h"
 #include "tables/prefetch.h"
 #include "tables/text_store.h"
@@ -110,6 +112,8 @@ class Table {
     std::function<void(const Row& row)> OnCurrent;
     /// Called now and then while many rows are sorted.
     Pause OnPause;
+    /// Called before a row is scrolled into view: whoever hides rows shows them then.
+    std::function<void(const Row& row)> OnReveal;
     /// For the presentation, which scrolls a row into view.
     std::function<void(const Row& row)> OnEnsureVisible;
 
@@ -137,6 +141,38 @@ class Table {
     /// Puts the marked rows before the others; on both sides the rows keep their order. Gives the number of
     /// marked rows.
     std::int32_t GatherMarked();
+    /// Number of marked rows, without a walk.
+    std::int32_t MarkedCount() const { return markedCount_; }
+    /// The marks of all rows, and giving them back. Rows that came since keep theirs; when rows have gone
+    /// since, nothing is given back and the answer is false.
+    MarkSnapshot Marks() const;
+    bool CanRestore(const MarkSnapshot& snapshot) const { return snapshot.generation_ == generation_; }
+    bool RestoreMarks(const MarkSnapshot& snapshot);
+    /// How the marks differ from those of a snapshot; nothing when rows have gone since.
+    std::optional<MarkSnapshot::Difference> MarksSince(const MarkSnapshot& snapshot) const;
+
+    /// They grow with every change: of the marks; of the texts of cells; of what rows there are and how they
+    /// stand, where rows that are added at the end do not count.
+    std::uint64_t MarkChanges() const { return markChanges_; }
+    std::uint64_t CellChanges() const { return cellChanges_; }
+    std::uint64_t OrderChanges() const { return orderChanges_; }
+
+    /// The rows as they are stored, from 0, for walks to which the order of the rows does not matter. Rows
+    /// that were removed leave gaps of empty cells.
+    std::size_t StoredCount() const { return index_.SlotCount(); }
+    std::span<const TextRef> StoredCells(std::size_t stored) const {
+        return {cells_.Row(static_cast<Slot>(stored)), columns_.size()};
+    }
+    /// The 1-based places of those rows that have a `hit` as they are stored, ascending.
+    std::vector<std::int32_t> PlacesOf(const std::vector<std::uint8_t>& hits) const;
+    /// Calls `visit(place)` for every marked row, ascending.
+    template <class Visitor>
+    void VisitMarked(Visitor visit) const {
+        if (markedCount_ == 0) return;
+        for (std::size_t i = 0; i < order_.size(); ++i) {
+            if (order_[i] < marks_.size() && marks_[order_[i]] != 0) visit(static_cast<std::int32_t>(i + 1));
+        }
+    }
 
     /// Shows the cells of one column in red and bold in the rows that are marked, as far as they are not
     /// empty; no column shows the rows themselves so. Nothing ends it.
@@ -154,6 +190,8 @@ class Table {
     static constexpr std::uint8_t kSelected = 1, kChecked = 2;
 
     void PrefetchSlot(Slot slot) const { PrefetchMemory(cells_.Row(slot)); }
+    void WriteMarks(Slot slot, std::uint8_t marks);
+    void OrderChanged();
     Slot NewSlot();
     Row Append(const std::optional<RowKey>& key, TextRef text);
     void Resort();
@@ -169,8 +207,10 @@ class Table {
     std::shared_ptr<TextStore> store_;
 
     CellBlocks cells_;
-    BlockVector<TextRef> tags_;                                 // by slot, grown when a tag is written
-    BlockVector<std::uint8_t> marks_;                           // by slot, grown when a row is marked
+    BlockVector<TextRef> tags_;        // by slot, grown when a tag is written
+    BlockVector<std::uint8_t> marks_;  // by slot, grown when a row is marked
+    std::int32_t markedCount_ = 0;
+    std::uint64_t markChanges_ = 0, cellChanges_ = 0, orderChanges_ = 0;
     boost::unordered_flat_map<std::uint64_t, CellLook> looks_;  // by LookPlace
     KeyIndex index_;                                            // keys by slot, and slots by key
     std::vector<Slot> order_;                                   // slots in the order of the rows
@@ -256,7 +296,10 @@ class RowView {
 class Row : public RowView {
   public:
     // The cells are those of a table that was given to be written.
-    void SetCell(ColumnId column, TextRef ref) { *const_cast<TextRef*>(CellAt(column)) = ref; }
+    void SetCell(ColumnId column, TextRef ref) {
+        *const_cast<TextRef*>(CellAt(column)) = ref;
+        ++Owner().cellChanges_;
+    }
     void SetCell(ColumnId column, TextView text) { SetCell(column, Owner().Store().Put(text)); }
     /// Writes a cell and gives the length of its text.
     std::size_t Write(ColumnId column, TextRef ref) {

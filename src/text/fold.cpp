@@ -58,6 +58,8 @@ void AppendFolded(Text& out, TextView text, const std::array<char, 256>& table) 
     }
 }
 
+char Capital(char c) { return kAlphaNumCapitals[static_cast<unsigned char>(c)]; }
+
 }  // namespace
 
 Text FoldAccents(TextView text) {
@@ -72,6 +74,26 @@ Text ComparisonForm(TextView text) {
     Text out;
     AppendComparisonForm(out, text);
     return out;
+}
+
+bool FoldedContains(TextView text, TextView word) {
+    for (std::size_t i = 0; i + word.size() <= text.size(); ++i) {
+        std::size_t same = 0;
+        while (same < word.size() && Capital(text[i + same]) == word[same]) ++same;
+        if (same == word.size()) return true;
+    }
+    return false;
+}
+
+bool FoldedStartsWith(TextView text, TextView word) {
+    std::size_t same = 0;
+    for (const char c : text) {
+        const char folded = Capital(c);
+        if (folded == ' ') continue;
+        if (folded != word[same]) return false;
+        if (++same == word.size()) return true;
+    }
+    return false;
 }
 
 }  // namespace swiftroll

@@ -12,5 +12,9 @@ Text FoldAccents(TextView text);
 /// genealogist. Appends it to `out`.
 void AppendComparisonForm(Text& out, TextView text);
 Text ComparisonForm(TextView text);
+/// Whether the comparison form of `text` contains a word: a comparison form without blanks. No form is made.
+bool FoldedContains(TextView text, TextView word);
+/// Whether it begins with the word, blanks apart.
+bool FoldedStartsWith(TextView text, TextView word);
 
 }  // namespace swiftroll

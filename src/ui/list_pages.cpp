@@ -1,20 +1,44 @@
 #include "list_pages.h"
 
+#include <QLabel>
+#include <algorithm>
+
 #include "kinship_view.h"
 #include "layout.h"
+#include "list_strip.h"
 #include "person_edit.h"
+#include "qt_text.h"
 #include "row_teller.h"
+#include "shell/list_names.h"
 #include "turning_splitter.h"
 
 namespace swiftroll::ui {
+namespace {
 
-ListPages::ListPages(Presenter& presenter)
-    : presenter_(presenter), main_(presenter.Main()), pages_{NewPage({&main_.lvwIn}),
-                                                             NewPage({&main_.lvwOut}),
-                                                             NewPage({&main_.lvwFamilyXref}),
-                                                             NewPage({&main_.lvwXref, &main_.lvwXref1}),
-                                                             NewPage({&main_.lvwFamily}),
-                                                             NewKinshipPage()} {
+/// A list with a title above it.
+QWidget* Titled(const QString& title, QWidget& list) {
+    auto* both = new QWidget;
+    auto* column = new QVBoxLayout(both);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    auto* label = new QLabel(title);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    column->addWidget(label);
+    column->addWidget(&list, 1);
+    return both;
+}
+
+}  // namespace
+
+ListPages::ListPages(Presenter& presenter, Binder& binder)
+    : presenter_(presenter),
+      main_(presenter.Main()),
+      binder_(binder),
+      pages_{NewPage({&main_.lvwIn}),         NewPage({&main_.lvwOut}),
+             NewPage({&main_.lvwFamilyXref}), NewPage({&main_.lvwXref, &main_.lvwXref1}),
+             NewPage({&main_.lvwFamily}),     NewKinshipPage()} {
     NameViews();
     SetHints();
 }
@@ -26,12 +50,16 @@ ListPage ListPages::NewPage(std::initializer_list<Table*> tables, int mainTable,
     column->setSpacing(kTableMargin);
     page.strips->setContentsMargins(0, 0, 0, 0);
     page.strips->setSpacing(kSpacing);
+    const bool hasSeveral = tables.size() > 1;
+    std::vector<Table*> mainFirst(tables);
+    std::rotate(mainFirst.begin(), mainFirst.begin() + mainTable, mainFirst.begin() + mainTable + 1);
+    page.strips->addWidget(new ListStrip(presenter_, binder_, mainFirst));
     auto* lists = new QSplitter(Qt::Vertical);
     for (Table* table : tables) {
         auto* view = new TableView(presenter_, *table);
         views_[table] = view;
         new RowTeller(presenter_, *view);  // owned by the view
-        lists->addWidget(view);
+        lists->addWidget(hasSeveral ? Titled(ToQt(ListTitle(main_, *table)), *view) : view);
     }
     // The list that the tab is for has the room.
     for (int i = 0; i < lists->count(); ++i) lists->setStretchFactor(i, i == mainTable ? 3 : 1);

@@ -5,6 +5,7 @@
 #include <array>
 #include <unordered_map>
 
+#include "binder.h"
 #include "table_view.h"
 
 namespace swiftroll::ui {
@@ -20,7 +21,7 @@ struct ListPage {
 /// The pages of the six tabs of lists, with the views of all tables.
 class ListPages {
   public:
-    explicit ListPages(Presenter& presenter);
+    ListPages(Presenter& presenter, Binder& binder);
 
     TableView& ViewOf(const Table& table) const { return *views_.at(&table); }
     const ListPage& Of(Tab tab) const { return pages_.at(static_cast<std::size_t>(tab)); }
@@ -35,6 +36,7 @@ class ListPages {
 
     Presenter& presenter_;
     frmMain& main_;
+    Binder& binder_;
     std::unordered_map<const Table*, TableView*> views_;
     std::array<ListPage, 6> pages_;
 };

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "column_widths.h"
 #include "dropped_file.h"
 #include "file_rows.h"
 #include "grouped_tabs.h"
@@ -35,7 +36,7 @@ MainWindow::MainWindow(Presenter& presenter)
     : presenter_(presenter),
       main_(presenter.Main()),
       binder_(presenter, main_),
-      pages_(presenter),
+      pages_(presenter, binder_),
       status_(new StatusLine(presenter)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/swiftroll.svg")));
@@ -44,6 +45,7 @@ MainWindow::MainWindow(Presenter& presenter)
     BuildCentre();
     setStatusBar(status_);
     presenter_.OnRefresh([this] { Refresh(); });
+    main_.columns.Measure = MeasureLike(*this);
     main_.tabs.OnTabFocus = [this] { focusesTable_ = true; };
 }
 

@@ -24,6 +24,9 @@ class Presenter : public QObject {
     /// The same as soon as the present event is handled: for events in the middle of which no box may open.
     void ActLater(std::function<void()> action);
 
+    /// Whether an action runs: what the user does now, he does in the middle of it.
+    bool IsWorking() const { return depth_ > 0; }
+
     /// Lets the window paint itself in the middle of work that takes no command: what the user does meanwhile
     /// waits.
     void Breathe();

@@ -4,7 +4,6 @@
 #include "qt_text.h"
 
 namespace swiftroll::ui {
-namespace {
 
 Qt::Alignment AlignmentOf(Alignment alignment) {
     switch (alignment) {
@@ -17,13 +16,13 @@ Qt::Alignment AlignmentOf(Alignment alignment) {
     }
 }
 
-}  // namespace
-
 bool TableModel::Sync() {
-    const int rows = table_.Count();
+    filter_.Sync();
+    const int rows = filter_.Count();
     const bool cleared = std::exchange(clearings_, table_.Clearings()) != table_.Clearings();
-    if (rows == shownRows_ && !cleared) return false;
-    if (rows > shownRows_ && shownRows_ > 0 && !cleared) {
+    const bool others = std::exchange(filterChanges_, filter_.Changes()) != filter_.Changes();
+    if (rows == shownRows_ && !cleared && !others) return false;
+    if (rows > shownRows_ && shownRows_ > 0 && !cleared && !others) {
         beginInsertRows({}, shownRows_, rows - 1);
         shownRows_ = rows;
         endInsertRows();
@@ -41,9 +40,11 @@ int TableModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : table_.ColumnCount();
 }
 
-std::optional<Row> TableModel::RowAt(int row) const {
-    if (row < 0 || row >= table_.Count()) return std::nullopt;
-    return table_.Item(static_cast<std::int32_t>(row + 1));
+std::optional<Row> TableModel::RowAt(int place) const {
+    if (place < 0 || place >= filter_.Count()) return std::nullopt;
+    const std::int32_t row = filter_.RowAt(place);
+    if (row > table_.Count()) return std::nullopt;
+    return table_.Item(row);
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
@@ -72,7 +73,10 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
         case Qt::DecorationRole:
             return ColumnMarks(column.Icon);
         case Qt::TextAlignmentRole:
-            return QVariant(AlignmentOf(column.Facts->align));
+            // The marks stand at the left of the caption, and the caption beside them.
+            return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        case Qt::ToolTipRole:
+            return HeaderTip ? ToQt(HeaderTip(column)) : QVariant();
         default:
             return {};
     }

@@ -1,15 +1,21 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QElapsedTimer>
 #include <QHeaderView>
+#include <QHelpEvent>
 
+#include "mark_strip.h"
 #include "presenter.h"
+#include "row_painter.h"
 #include "table_model.h"
 
 namespace swiftroll::ui {
 
-/// Shows a table: rows of one height with a tick, highlighted when they are selected. Both marks stand in the
-/// table itself, so a million rows cost no memory here and any number of them may be marked.
+/// Shows the rows of a table that its filter lets through: rows of one height with a tick, highlighted when
+/// they are selected. Both marks stand in the table itself, so a million rows cost no memory here and any
+/// number of them may be marked. Rows of the view are places on the screen, from 0; `RowFilter` tells which
+/// rows of the table they are.
 class TableView : public QAbstractItemView {
   public:
     TableView(Presenter& presenter, Table& table, QWidget* parent = nullptr);
@@ -49,15 +55,23 @@ class TableView : public QAbstractItemView {
     void keyPressEvent(QKeyEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     void BindHeader();
     void Refresh();
     void PlaceHeader();
-    void PaintRow(QPainter& painter, const Row& row, int y, bool isAlternate, bool isCurrent) const;
+    void BindColumns();
+    void ShowColumns();
+    void ShowOtherRows();
+    void CentreOn(int row);
+    void ShowHeaderMenu(const QPoint& point);
     void PaintHint(QPainter& painter) const;
-    QRect TickRect(int row) const;
+    QRect LineOf(int row) const;
+    RowState StateOf(const Row& row, int place) const;
+    bool IsOnTick(int row, const QPoint& point) const;
     int LastRowInView() const;
+    void ShowTip(const QHelpEvent& event);
 
     void SetCurrent(int row);
     int CurrentRow() const;
@@ -67,12 +81,16 @@ class TableView : public QAbstractItemView {
     void MoveTo(int row, Qt::KeyboardModifiers modifiers);
     bool OnListKey(const QKeyEvent& event);
     void HitTestOfKeyboard();
+    bool TypeAhead(const QKeyEvent& event);
     void StartDrag();
 
     Presenter& presenter_;
     TableModel model_;
     QHeaderView* header_;
+    RowPainter painter_;
+    MarkStrip* markStrip_;
     QString hint_;
+    QElapsedTimer sinceLetter_;
     QPoint pressedAt_;
     int pressedRow_ = -1;  // of a left press that may become a drag
     bool selectsOnRelease_ = false;

@@ -9,6 +9,7 @@
 
 #include "support/test_ports.h"
 #include "text/edit.h"
+#include "text/fold.h"
 #include "text/literal.h"
 #include "text/numbers.h"
 
@@ -19,6 +20,8 @@ constexpr int kDefaultSeeds = 100;
 constexpr int kActs = 60;          // of a run
 constexpr int kDeepest = 4;        // nesting of acts
 constexpr int kMostYields = 4000;  // of a run, after which everything is asked to stop
+
+constexpr TextView kFilters[] = {"", "d", "du", "dup", "\xC9lise m", "1 paris", "@", "fils", "zz"};
 
 class Dice {
   public:
@@ -316,7 +319,7 @@ void Monkey::WorkWithATable() {
     }
     const ColumnId column = ColumnId::OfSection(dice_.Below(table.ColumnCount()));
     ListKey key;
-    switch (dice_.Below(7)) {
+    switch (dice_.Below(9)) {
         case 0:
             ports_.desktop.shiftIsDown = dice_.OneIn(3);
             return main.lists.lvw_ColumnClick(table, table.ColumnAt(column));
@@ -334,6 +337,14 @@ void Monkey::WorkWithATable() {
             key.alt = dice_.OneIn(8);
             story += key.letter;
             return main.contextMenu.lvw_KeyDown(key);
+        case 5:
+            story += "filter ";
+            return main.filters.Of(table).SetWanted(dice_.Pick(kFilters));
+        case 6:
+            if (const auto found = main.typeAhead.Type(table, dice_.Pick(kFilters), dice_.OneIn(2))) {
+                table.SetCurrent(*found);
+            }
+            return main.columns.Header_RightClick();
         default:
             return main.contextMenu.lvw_MouseUp(MouseButton::Right);
     }
@@ -393,8 +404,34 @@ std::vector<Text> Monkey::Findings() {
     return findings;
 }
 
+/// Whether a filter must show a row: each word stands in a column that is shown.
+bool IsWanted(const Table& table, const Row& row, TextView wanted) {
+    const Text form = Concat({ComparisonForm(wanted), " "});
+    for (std::size_t start = 0, end = 0; (end = form.find(' ', start)) != Text::npos; start = end + 1) {
+        const Text word = form.substr(start, end - start);
+        const bool isThere = std::ranges::any_of(table.Columns(), [&](const Column& column) {
+            return column.IsShown() && ComparisonForm(row.Cell(column.Index)).find(word) != Text::npos;
+        });
+        if (!isThere && !word.empty()) return false;
+    }
+    return true;
+}
+
 void Monkey::CheckTables() {
     for (Table* table : main.All()) {
+        RowFilter& filter = main.filters.Of(*table);
+        filter.Sync();
+        std::int32_t marked = 0, shown = 0;
+        for (std::int32_t i = 1; i <= table->Count(); ++i) {
+            const Row row = table->Item(i);
+            marked += row.Marked() ? 1 : 0;
+            const std::int32_t place = filter.PlaceOf(i);
+            ASSERT_EQ(place, IsWanted(*table, row, filter.Wanted()) ? shown : -1)
+                << table->Name() << " " << filter.Wanted();
+            if (place >= 0) ASSERT_EQ(filter.RowAt(shown++), i);
+        }
+        ASSERT_EQ(table->MarkedCount(), marked) << table->Name();
+        ASSERT_EQ(filter.Count(), shown) << table->Name();
         for (std::int32_t i = 1; i <= table->Count(); ++i) {
             const Row row = table->Item(i);
             const Text key = row.Key();
