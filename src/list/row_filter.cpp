@@ -18,6 +18,18 @@ std::vector<Text> WordsOf(TextView text) {
     return words;
 }
 
+/// Those of the columns that can hold a word: years have no letters.
+std::vector<std::int16_t> SectionsFor(const Table& table, const std::vector<std::int16_t>& sections,
+                                      TextView word) {
+    std::vector<std::int16_t> possible = sections;
+    if (word.find_first_not_of("0123456789") != TextView::npos) {
+        std::erase_if(possible, [&](std::int16_t section) {
+            return table.Columns()[static_cast<std::size_t>(section)].Facts->IsYear();
+        });
+    }
+    return possible;
+}
+
 }  // namespace
 
 void RowFilter::SetWanted(TextView text) {
@@ -65,8 +77,9 @@ void RowFilter::Search(bool narrows) {
             } else {
                 continue;  // they contain it still
             }
+            const auto sections = SectionsFor(table_, sections_, words_[i]);
             for (std::size_t stored = 0; stored < hits_.size(); ++stored) {
-                if (hits_[stored] != 0 && !finders_[i].IsIn(table_.StoredCells(stored), sections_))
+                if (hits_[stored] != 0 && !finders_[i].IsIn(table_.StoredCells(stored), sections))
                     hits_[stored] = 0;
             }
         }

@@ -77,9 +77,13 @@ Text ComparisonForm(TextView text) {
 }
 
 bool FoldedContains(TextView text, TextView word) {
-    for (std::size_t i = 0; i + word.size() <= text.size(); ++i) {
-        std::size_t same = 0;
-        while (same < word.size() && Capital(text[i + same]) == word[same]) ++same;
+    if (word.empty()) return true;
+    if (word.size() > text.size()) return false;
+    const char* const last = text.data() + (text.size() - word.size());
+    for (const char* at = text.data(); at <= last; ++at) {
+        if (Capital(*at) != word.front()) continue;
+        std::size_t same = 1;
+        while (same < word.size() && Capital(at[same]) == word[same]) ++same;
         if (same == word.size()) return true;
     }
     return false;
