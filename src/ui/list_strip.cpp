@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <algorithm>
 
 #include "app/french_count.h"
@@ -72,7 +71,9 @@ void ListStrip::BuildFilter() {
     filter_->setFixedWidth(kFilterWidth);
     filter_->installEventFilter(this);
     connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        presenter_.Act([&] { presenter_.Main().filters.Of(*table_).SetWanted(FromQt(text)); });
+        RowFilter& filter = presenter_.Main().filters.Of(*table_);
+        const Text wanted = FromQt(text);
+        if (wanted != filter.Wanted()) presenter_.Act([&] { filter.SetWanted(wanted); });
     });
 }
 
@@ -108,10 +109,7 @@ void ListStrip::Refresh() {
     RowFilter& filter = main.filters.Of(*table_);
     filter.Sync();
     const QString wanted = ToQt(filter.Wanted());
-    if (filter_->text() != wanted) {
-        const QSignalBlocker blocker(filter_);
-        filter_->setText(wanted);
-    }
+    if (filter_->text() != wanted) filter_->setText(wanted);
     const QString count = CountText(filter);
     if (count_->text() != count) {
         count_->setText(count);

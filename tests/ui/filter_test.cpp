@@ -46,6 +46,8 @@ class FilterTest : public WindowTest {
 
 TEST_F(FilterTest, AUserFiltersMarksWhatIsSeenAndGoesOn) {
     StartWithFamily();
+    Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     Table& table = Main().lvwIn;
     QTest::mouseClick(View(table).viewport(), Qt::LeftButton, {}, CellAt(table, 3, In::FirstName - 1));
     EXPECT_EQ(Counted(), QStringLiteral("5 lignes, 1 marquée"));
