@@ -52,8 +52,9 @@ void RowFilter::Sync() {
     const bool isSame = seenClearings_ == table_.Clearings() && sections_ == ShownSections();
     const bool sameOrder = seenOrder_ == table_.OrderChanges();
     if (!isSame) return Search(false);
-    if (hits_.size() < table_.StoredCount()) return SearchAdded();
+    // Of rows that came, cells of others may have been written meanwhile.
     if (seenCells_ != table_.CellChanges()) return Search(false);
+    if (hits_.size() < table_.StoredCount()) return SearchAdded();
     if (!sameOrder) TakePlaces();
 }
 
