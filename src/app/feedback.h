@@ -35,6 +35,8 @@ class Feedback : public StatusBar {
     MessageBar messageBar;
     /// The abort request: long loops leave at their next test.
     bool bAbort = false;
+    /// Whether the work that runs lets events in and looks at `bAbort`: the user can stop it.
+    bool bCanStop = false;
     /// Whether the wait cursor is on, and whether the tables are not repainted.
     bool bWaitCursor = false;
     bool bTablesLocked = false;

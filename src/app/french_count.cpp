@@ -1,5 +1,6 @@
 #include "app/french_count.h"
 
+#include "text/edit.h"
 #include "text/numbers.h"
 
 namespace swiftroll {
@@ -11,5 +12,7 @@ Text FrenchCount(std::int64_t count) {
     for (std::size_t i = text.size(); i > first + kGroup; i -= kGroup) text.insert(i - kGroup, 1, ' ');
     return text;
 }
+
+Text FrenchTenths(std::int64_t tenths) { return Concat({Decimal(tenths / 10), ",", Decimal(tenths % 10)}); }
 
 }  // namespace swiftroll

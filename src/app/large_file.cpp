@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/french_count.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -14,8 +15,7 @@ constexpr std::uint64_t kMegabyte = 1'000'000, kGigabyte = 1000 * kMegabyte;
 /// "1,8 Go", "12 Mo".
 Text FrenchSize(std::uint64_t bytes) {
     if (bytes < kGigabyte) return Concat({Decimal(static_cast<std::int64_t>(bytes / kMegabyte)), " Mo"});
-    const auto tenths = static_cast<std::int64_t>(bytes / (kGigabyte / 10));
-    return Concat({Decimal(tenths / 10), ",", Decimal(tenths % 10), " Go"});
+    return Concat({FrenchTenths(static_cast<std::int64_t>(bytes / (kGigabyte / 10))), " Go"});
 }
 
 }  // namespace

@@ -22,8 +22,11 @@ bool MessageBar::Has(Owner owner) const {
     return std::ranges::find(entries_, owner, &Entry::owner) != entries_.end();
 }
 
-void MessageBar::Press(std::size_t button) {
-    const Notice* notice = Seen();
+void MessageBar::Press(std::size_t button) { PressIn(Seen(), button); }
+
+void MessageBar::PressTold(std::size_t button) { PressIn(Told(), button); }
+
+void MessageBar::PressIn(const Notice* notice, std::size_t button) {
     if (notice == nullptr || button >= notice->buttons.size()) return;
     // The operation may remove the notice that holds it.
     const auto operation = notice->buttons[button].operation;
@@ -33,6 +36,18 @@ void MessageBar::Press(std::size_t button) {
 void MessageBar::Close() {
     if (entries_.empty()) return;
     entries_.pop_back();
+    ++changes_;
+}
+
+void MessageBar::Tell(Notice notice, Stay stay) {
+    told_ = std::move(notice);
+    stay_ = stay;
+    ++changes_;
+}
+
+void MessageBar::ForgetTold() {
+    if (!told_) return;
+    told_.reset();
     ++changes_;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "text/text.h"
@@ -18,9 +19,12 @@ struct Notice {
     std::vector<Button> buttons = {};
 };
 
+/// How long a notice of what was done stays: until its time is over, or until the user does something else.
+enum class Stay { AWhile, UntilNext };
+
 /// The message bar above the lists: one notice at a time, which stays until its owner removes it or the user
-/// closes it. A notice of another owner covers it and gives it back when it goes. The window shows the bar,
-/// the headless program does not.
+/// closes it. A notice of another owner covers it and gives it back when it goes. What the last work has made
+/// is told beside it, and covers none. The window shows the bar, the headless program does not.
 class MessageBar {
   public:
     /// Tells the owners apart: the address of the object that shows the notice.
@@ -42,12 +46,25 @@ class MessageBar {
     void Press(std::size_t button);
     void Close();
 
+    /// Tells what a work has made, or that it did not come to its end, in place of what was told before.
+    void Tell(Notice notice, Stay stay = Stay::AWhile);
+    /// What is told, or nullptr; valid until the next change. A presentation ends it when it was long enough
+    /// there, if it stays a while.
+    const Notice* Told() const { return told_ ? &*told_ : nullptr; }
+    Stay StayOfTold() const { return stay_; }
+    void PressTold(std::size_t button);
+    void ForgetTold();
+
   private:
     struct Entry {
         Owner owner;
         Notice notice;
     };
+    static void PressIn(const Notice* notice, std::size_t button);
+
     std::vector<Entry> entries_;  // the last one is seen
+    std::optional<Notice> told_;
+    Stay stay_ = Stay::AWhile;
     std::uint64_t changes_ = 0;
 };
 

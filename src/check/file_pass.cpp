@@ -42,6 +42,7 @@ OpenEnds OpenEndsOf(TextView date) {
 bool FilePass::Run(std::unique_ptr<File> file) {
     const auto length = static_cast<double>(file->Length());
     modReadGedcom::LineScanner scanner(std::move(file));
+    const ScopedFlag canStop(app_.bCanStop);
     while (scanner.Next()) {
         if (scanner.LineNumber() / kStatusStep != number_ / kStatusStep)
             app_.ProgressBar1.Show(static_cast<double>(scanner.ReadPosition()), length);

@@ -64,6 +64,7 @@ void SetInDates(Application& app) {
     app.trail.Guard(
         "SetInDates",
         [&] {
+            ++app.lInDatesMade;
             const PlaceFormatter formatter(app);
             TextStore& store = app.lvwIn.Store();
             // Places come again and again; each is formatted once.

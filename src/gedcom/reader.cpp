@@ -49,7 +49,15 @@ void Reader::ReadLines() {
     app_.bCalendarsRead = app_.chkCalendars.Checked();
     RecordReader records(app_, lines, links, findings);
     std::int32_t result = lines.Read1Line();
-    // What follows a record is the current line already; every other line is passed over one by one.
+    result = ReadRecords(records, result);
+    constexpr std::int32_t kEndedByLevel = 1;
+    if (result == kEndedByLevel) findings.endingLine = static_cast<std::int32_t>(lines.LineNumber());
+    Finish(links);
+}
+
+/// What follows a record is the current line already; every other line is passed over one by one.
+std::int32_t Reader::ReadRecords(RecordReader& records, std::int32_t result) {
+    const ScopedFlag canStop(app_.bCanStop);
     while (result == 0 && !app_.bAbort) {
         app_.ports.events.Yield();
         if (lines.iLevel > lines.iBaseLevel + 1) {
@@ -66,9 +74,7 @@ void Reader::ReadLines() {
             result = lines.Read1Line();
         }
     }
-    constexpr std::int32_t kEndedByLevel = 1;
-    if (result == kEndedByLevel) findings.endingLine = static_cast<std::int32_t>(lines.LineNumber());
-    Finish(links);
+    return result;
 }
 
 std::int32_t Reader::SkipDeeperLines() {

@@ -6,6 +6,8 @@
 
 namespace swiftroll::modReadGedcom {
 
+class RecordReader;
+
 /// Reads a GEDCOM file into the tables: the module's state that lives from one read to the next.
 class Reader {
   public:
@@ -18,6 +20,7 @@ class Reader {
   private:
     void Prepare(const char*& stage, std::int16_t& counter);
     void ReadLines();
+    std::int32_t ReadRecords(RecordReader& records, std::int32_t result);
     std::int32_t SkipDeeperLines();
     /// False when the user refuses a character set that the program does not know.
     bool AcceptCharset();

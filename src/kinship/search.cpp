@@ -162,6 +162,7 @@ Text Search::TitleOf(TextView sPair) { return Concat({"Liens de Parenté entre "
 void Search::FindKinship(TextView sIslandNr, std::int32_t lFrom, std::int32_t lTo, std::int32_t nearest) {
     const char* step = "";
     CopyProgress copy;
+    const ScopedFlag canStop(app_.bCanStop);
     isRunning_ = true;
     rowLimitReached_ = 0;
     app_.trail.Guard(

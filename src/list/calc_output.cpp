@@ -1,5 +1,7 @@
 #include "list/calc_output.h"
 
+#include <algorithm>
+
 #include "list/sort_keys.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -107,7 +109,7 @@ void ComputeList(ArrangedTables& tables, Feedback& feedback, const modPrivacy::L
     tables.lMaxLenOut[Out::Number] = static_cast<std::int32_t>(lvwOut.ColumnAt(Out::Number).Caption.size());
     SortTable(tables.positions, feedback, SortMode::GroupKey, lvwIn, lvwIn.ColumnAt(In::ID));
     lvwOut.Clear();
-    tables.lListedBornAfter = living.BornAfter();
+    tables.listedFrom = BasisOf(tables, living.BornAfter());
     lvwOut.SetSorted(false);
     GroupWriter groups(tables);
     const std::int32_t count = lvwIn.Count();
@@ -123,17 +125,35 @@ void ComputeList(ArrangedTables& tables, Feedback& feedback, const modPrivacy::L
 
 }  // namespace
 
-void CalcOuptut(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living) {
-    if (tables.lvwIn.Count() == 0) return;
+bool CalcOuptut(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living) {
+    if (tables.lvwIn.Count() == 0) return false;
     const ScopedFlag wait(feedback.bWaitCursor);
-    feedback.trail.Guard(
-        "CalcOuptut", [&] { ComputeList(tables, feedback, living); }, [] { return Text(); });
+    return feedback.trail.Guard(
+        "CalcOuptut",
+        [&] {
+            ComputeList(tables, feedback, living);
+            return true;
+        },
+        [] { return Text(); });
+}
+
+ListBasis BasisOf(const ArrangedTables& tables, std::int32_t lBornAfter) {
+    ListBasis basis{tables.lvwIn.Clearings(), tables.lInDatesMade, tables.lvwIn.Count(), {}, {}, lBornAfter};
+    const std::int16_t number = tables.lvwOut.ColumnAt(Out::Number).Position;
+    std::vector<const Column*> before;
+    for (const Column& column : tables.lvwOut.Columns()) {
+        if (column.Position >= number) continue;
+        if (column.Facts->IsYear()) basis.years.push_back(column.Index);
+        if (column.Facts->formsGroups) before.push_back(&column);
+    }
+    std::ranges::sort(before, {}, &Column::Position);
+    for (const Column* column : before) basis.groups.push_back(column->Index);
+    return basis;
 }
 
 void HideInList(ArrangedTables& tables, Feedback& feedback, const modPrivacy::Living& living) {
     Table& lvwOut = tables.lvwOut;
-    const bool isComputed = lvwOut.Count() > 0 || tables.lListedBornAfter != kNobodyBornAfter;
-    if (!isComputed || tables.lListedBornAfter == living.BornAfter()) return;
+    if (!tables.listedFrom || tables.listedFrom->lBornAfter == living.BornAfter()) return;
     struct MarkedGroup {
         Text key;
         bool isSelected, isChecked;

@@ -6,9 +6,8 @@
 #include "text/numbers.h"
 
 namespace swiftroll::modPrivacy {
-namespace {
 
-std::int32_t BornAfterOf(const OptionRecord& options, Clock& clock) {
+std::int32_t BornAfter(const OptionRecord& options, Clock& clock) {
     if (!options.chkPrivate.Checked()) return kNobodyBornAfter;
     constexpr std::int64_t kLongest = 10000;
     const std::int64_t years = ParseDecimal(options.txtPrivateYears.Get())
@@ -16,10 +15,8 @@ std::int32_t BornAfterOf(const OptionRecord& options, Clock& clock) {
     return clock.Now().year - static_cast<std::int32_t>(std::clamp<std::int64_t>(years, 0, kLongest));
 }
 
-}  // namespace
-
 Living::Living(const TableSet& tables, const OptionRecord& options, Clock& clock)
-    : tables_(tables), bornAfter_(BornAfterOf(options, clock)) {
+    : tables_(tables), bornAfter_(modPrivacy::BornAfter(options, clock)) {
     if (bornAfter_ == kNobodyBornAfter || tables_.lvwIn.Count() == 0) return;
     states_.resize(tables_.lvwIn.Store().InternedCount());
     JudgeByDates();

@@ -13,6 +13,10 @@ namespace swiftroll::modPrivacy {
 /// What an output writes in place of the name of somebody who lives.
 inline constexpr TextView kLivingName = "Vivant";
 
+/// The year after which those are born who live, as the options tell it at this time; the greatest number
+/// while nobody is hidden.
+std::int32_t BornAfter(const OptionRecord& options, Clock& clock);
+
 /// Who is hidden from outputs as living, while `chkPrivate` is checked: who has no death and no burial and
 /// was born less than `txtPrivateYears` years ago, or has no year of birth, and a parent, child, sibling or
 /// spouse who is living by the years alone. A relative of such a relative is not hidden for that.

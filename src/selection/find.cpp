@@ -21,6 +21,7 @@ void FindState::FindNext(Application& app, Table& table, ColumnId iFirstCol) {
     const auto formOf = [&](TextView text) { return modCalcOut::KeepAlphaNum(app, text, false); };
     const FindCondition wanted1{formOf(first.text), first.match}, wanted2{formOf(second.text), second.match};
     if (lFindNext == 0) lFindNext = 1;
+    bFound = false;
     for (std::int32_t i = lFindNext; i <= table.Count(); ++i) {
         Row row = table.Item(i);
         table.Need(row);
@@ -33,10 +34,11 @@ void FindState::FindNext(Application& app, Table& table, ColumnId iFirstCol) {
         row.SetSelected(true);
         table.SetCurrent(row);
         lFindNext = i + 1;
+        bFound = true;
         app.pnlMessage.Set("");
         return;
     }
-    app.pnlMessage.Set("Non trouvé !"_t);
+    app.pnlMessage.Set(kNotFound);
 }
 
 }  // namespace swiftroll::modSelectionIn

@@ -1,8 +1,12 @@
 #pragma once
 
 #include "app/application.h"
+#include "text/literal.h"
 
 namespace swiftroll::modSelectionIn {
+
+/// What is told when no row is found.
+inline constexpr TextView kNotFound = "Non trouvé !"_t;
 
 /// What a cell must hold: a text, as a whole, at its beginning or anywhere. An empty text begins every cell,
 /// and stands anywhere in those that are not empty.
@@ -22,6 +26,8 @@ struct FindState {
     ColumnId iSecondCol = ColumnId::OfSection(0);
     /// Index of the row at which the next search begins; 0 before the first.
     std::int32_t lFindNext = 0;
+    /// Whether the last search found a row; true before the first.
+    bool bFound = true;
 
     /// Goes to the next row of the table in which the column `iFirstCol` holds the text of the first
     /// condition, and the second column that of the second unless it is empty. The row gets `Selected`, is

@@ -27,11 +27,12 @@ class FileCombos {
     void Reveal(const ComboBox& combo);
     /// Settles the name that stands in a combo: no two of them name one file.
     void FileCombo_LostFocus(ComboBox& cbo);
+    /// Opens a file with the program that belongs to it; what hinders that is told in a box.
+    void OpenFile(TextView sFile);
 
   private:
     bool GetFile(ComboBox& combo, bool bSave, const FileRole& role);
     bool CheckFileCbo(ComboBox& cbo);
-    void OpenFile(TextView sFile);
 
     Application& app_;
     /// The name that the combo with the focus began with.

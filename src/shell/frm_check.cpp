@@ -7,6 +7,7 @@
 #include "shell/file_as_read.h"
 #include "shell/file_names.h"
 #include "shell/jump.h"
+#include "shell/work_notice.h"
 #include "text/edit.h"
 #include "text/literal.h"
 
@@ -77,6 +78,7 @@ void frmCheck::Check() {
                       "Relisez-le, puis recommencez le contrôle."_t);
     }
     ShowReport(modCheck::CheckFile(app_, lines_));
+    if (!findings.Report().isComplete) TellEnd(app_, "Contrôle interrompu"_t, {}, false);
     Show();
 }
 

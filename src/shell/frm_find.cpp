@@ -47,6 +47,7 @@ frmFind::frmFind(Application& app, modSelectionIn::Engine& engine)
       cmdFindNext(*this, {"cmdFindNext", "Suivant"}),
       cmdDeselectAll(*this, {"cmdDeselectAll", "Désélectionner Tout"_t}),
       lblFind(*this, {"lblFind"}),
+      lblNotFound(*this, {"lblNotFound"}),
       app_(app),
       engine_(engine) {
     Caption = "Rechercher...";
@@ -78,6 +79,7 @@ void frmFind::Refill() {
         "Form_Activate",
         [this] {
             lblFind.Caption.clear();
+            lblNotFound.Caption.clear();
             if (app_.chkIgnoreCase.Checked())
                 lblFind.Caption = Concat({app_.chkIgnoreCase.Caption, kLineEnd});
             if (app_.chkDelAccents.Checked()) lblFind.Caption += app_.chkDelAccents.Caption;
@@ -110,6 +112,7 @@ void frmFind::Search(TextView sMode) {
     engine_.find.second = ConditionOf(cboTextToFind[1], optSearch[3], optSearch[4]);
     engine_.find.iSecondCol = ChosenIn(cboColumns[1]);
     engine_.Add_Remove_Selection(true, sMode);
+    lblNotFound.Caption = engine_.find.bFound ? TextView() : modSelectionIn::kNotFound;
 }
 
 }  // namespace swiftroll

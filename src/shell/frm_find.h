@@ -19,6 +19,8 @@ class frmFind : public Window {
     Command cmdFind, cmdFindNext, cmdDeselectAll;
     /// Tells the options that are in force.
     Label lblFind;
+    /// Says when the last search found nothing; empty otherwise.
+    Label lblNotFound;
 
     /// Shows the dialog with a text to look for.
     void Open(TextView sText);

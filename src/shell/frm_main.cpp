@@ -47,12 +47,14 @@ frmMain::frmMain(const Ports& applicationPorts)
       pathChoice(*this, kinshipSearch),
       kinshipPair(*this, *this, selection, lists, kinshipRequest),
       writing(*this, *this, cmdSelectDirSwiftOut, reader.lines, fileCombos),
+      grouping(*this),
       reading_(*this, *this, reader, drawing),
       extract_(*this, *this, reader.lines, fileCombos),
       report_(*this, *this, updates, savedSettings),
       parameterSets_(*this, *this) {
     BindOptionRules(*this);
     cmdHelp.Operation = mnuDoc.Operation = [this] { LaunchHTMLHelp(0); };
+    cmdStop.Operation = [this] { RequestAbort(); };
     cmdExit.Operation = mnuExit.Operation = [this] { cmdExit_Click(); };
     mnuAbout.Operation = [this] { about.Show(); };
     mnuAllKin.Operation = [this] {

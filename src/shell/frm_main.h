@@ -13,6 +13,7 @@
 #include "shell/frm_relatives.h"
 #include "shell/frm_splash.h"
 #include "shell/gedcom_extract.h"
+#include "shell/grouping.h"
 #include "shell/kinship_pair.h"
 #include "shell/kinship_request.h"
 #include "shell/lists.h"
@@ -91,6 +92,7 @@ class frmMain : public Application, public MainCommands {
     PathChoice pathChoice;
     KinshipPair kinshipPair;
     Writing writing;
+    Grouping grouping;
 
   private:
     void InitPaths();

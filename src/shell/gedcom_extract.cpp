@@ -3,6 +3,7 @@
 #include "extract/extract_writer.h"
 #include "shell/file_as_read.h"
 #include "shell/file_names.h"
+#include "shell/work_notice.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -25,11 +26,11 @@ void TellMissing(const modSaveGed::ExtractWriter::MissingRecords& missing) {
 
 GedcomExtract::GedcomExtract(Application& app, ExtractCommands& commands,
                              const modReadGedcom::LineReader& lines, FileCombos& fileCombos)
-    : app_(app), commands_(commands), lines_(lines) {
+    : app_(app), commands_(commands), lines_(lines), fileCombos_(fileCombos) {
     commands_.cmdSaveGed.Operation = commands_.mnuSaveGed.Operation = [this] { cmdSaveGed_Click(); };
-    commands_.cmdSelectDirGedOut.Operation = [this, &fileCombos] {
-        fileCombos.SelectFile(app_.cboGedOut, true,
-                              {"Choisissez le fichier GEDCOM à sauver"_t, "Gedcom", "ged"});
+    commands_.cmdSelectDirGedOut.Operation = [this] {
+        fileCombos_.SelectFile(app_.cboGedOut, true,
+                               {"Choisissez le fichier GEDCOM à sauver"_t, "Gedcom", "ged"});
     };
     commands_.cmdCopyGedIn2GedOut.Operation =
         commands_.mnuCopyGedIn2GedOut.Operation = [this] { cmdCopyGedIn2GedOut_Click(); };
@@ -63,6 +64,10 @@ void GedcomExtract::cmdSaveGed_Click() {
             out->Close();
             app_.pnlMessage.Set(Concat({"Extrait écrit : "_t, Decimal(writer->Individuals()),
                                         " individu(s), ", Decimal(writer->Families()), " famille(s)"}));
+            TellWritten(app_, fileCombos_, "Extrait écrit"_t,
+                        {Counted(writer->Individuals(), "individu", "individus"),
+                         Counted(writer->Families(), "famille", "familles")},
+                        output);
             step = "References";
             TellMissing(writer->Missing());
         },

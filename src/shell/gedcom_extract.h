@@ -21,6 +21,7 @@ class GedcomExtract {
     Application& app_;
     ExtractCommands& commands_;
     const modReadGedcom::LineReader& lines_;
+    FileCombos& fileCombos_;
 };
 
 }  // namespace swiftroll

@@ -3,6 +3,7 @@
 #include "app/french_count.h"
 #include "kinship/path_options.h"
 #include "shell/nearest_offer.h"
+#include "shell/work_notice.h"
 #include "tables/column_icon.h"
 #include "tables/columns.h"
 #include "text/edit.h"
@@ -105,10 +106,12 @@ void KinshipRequest::FindPath(std::int32_t lFrom, std::int32_t lTo, Progress& pr
     progress.step = kSearching;
     app_.pnlMessage.Set(kSearching);
     drawing_.DisableKinshipCommands();
+    const std::uint32_t clearings = app_.lvwKinship.Clearings();
     Search(lFrom, lTo);
     drawing_.EnableKinshipCommands();
     drawing_.OfferPrinting();
     TellTotal();
+    TellEnd(clearings);
 }
 
 /// Searches as the options say. A search for all paths gives way to one for the nearest when the user wants
@@ -138,6 +141,15 @@ void KinshipRequest::TellNearest() {
     if (count < 1) return;
     app_.messageBar.Show(&search_, {count == 1 ? Text("Le plus proche"_t)
                                                : Concat({"Les ", FrenchCount(count), " plus proches"})});
+}
+
+/// A search that was stopped before its walk leaves the paths of the one before.
+void KinshipRequest::TellEnd(std::uint32_t clearingsBefore) {
+    std::vector<Text> made;
+    if (app_.lvwKinship.Clearings() != clearingsBefore)
+        made.push_back(Counted(search_.lNrLinks, "lien trouvé"_t, "liens trouvés"_t));
+    swiftroll::TellEnd(app_, app_.bAbort ? "Recherche interrompue"_t : "Recherche terminée"_t, made,
+                       !app_.bAbort);
 }
 
 void KinshipRequest::TellTotal() {

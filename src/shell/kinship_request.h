@@ -31,6 +31,7 @@ class KinshipRequest {
     void FindPath(std::int32_t lFrom, std::int32_t lTo, Progress& progress);
     void Search(std::int32_t lFrom, std::int32_t lTo);
     void TellTotal();
+    void TellEnd(std::uint32_t clearingsBefore);
     void TellNearest();
 
     Application& app_;

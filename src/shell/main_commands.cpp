@@ -97,6 +97,9 @@ WindowCommands::WindowCommands(Window& window)
       cmdExit(window, {"cmdExit", "Quitter"}),
       mnuExit(window, {"mnuExit", "&Quitter"}) {}
 
+WorkCommands::WorkCommands(Window& window)
+    : cmdStop(window, {"cmdStop", "Arrêter"_t, "Arrête le travail en cours (Échap)."_t}) {}
+
 ReportCommands::ReportCommands(Window& window)
     : mnuCheckUpdate(window, {"mnuCheckUpdate", "Vérifier si c'est la dernière version"_t}),
       PicturepicKeepUpdated(window, {"PicturepicKeepUpdated", {}, "Vérifier si c'est la dernière version"_t}),
@@ -124,6 +127,7 @@ MainCommands::MainCommands(Window& window)
       DrawingCommands(window),
       DisplayCommands(window),
       WindowCommands(window),
+      WorkCommands(window),
       ReportCommands(window),
       SetCommands(window),
       FavoriteCommands(window) {}

@@ -77,6 +77,14 @@ struct WindowCommands {
     Command cmdHelp, mnuDoc, mnuAbout, cmdExit, mnuExit;
 };
 
+/// The work that runs.
+struct WorkCommands {
+    explicit WorkCommands(Window& window);
+
+    /// Does what the Escape key does.
+    Command cmdStop;
+};
+
 /// Updates and the problem report.
 struct ReportCommands {
     explicit ReportCommands(Window& window);
@@ -108,6 +116,7 @@ struct MainCommands : ListCommands,
                       DrawingCommands,
                       DisplayCommands,
                       WindowCommands,
+                      WorkCommands,
                       ReportCommands,
                       SetCommands,
                       FavoriteCommands {

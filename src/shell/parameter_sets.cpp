@@ -2,6 +2,7 @@
 
 #include "shell/settings/column_settings.h"
 #include "shell/settings/stored_controls.h"
+#include "shell/work_notice.h"
 #include "text/edit.h"
 #include "text/ignoring_failures.h"
 #include "text/literal.h"
@@ -26,6 +27,7 @@ void DeleteFormerOrder(SettingsStore& store, TextView section) {
 }  // namespace
 
 ParameterSets::ParameterSets(Application& app, SetCommands& commands) : app_(app) {
+    const auto tellSaved = [this](const Text& name) { TellSetSaved(app_, name); };
     constexpr auto kAsItIs = ParameterSet::Form::AsItIs, kNumber = ParameterSet::Form::Number;
     sets_.emplace_back(app_, app_.cboCells, commands.cmdSaveCells,
                        ParameterSet::Parts{.loadName = "cboCells_LostFocus",
@@ -50,7 +52,8 @@ ParameterSets::ParameterSets(Application& app, SetCommands& commands) : app_(app
                                                       {"chkMarrDate", app_.chkMarrDate},
                                                       {"chkMarrPlace", app_.chkMarrPlace},
                                                       {"lblFont", app_.lblFont},
-                                                      {"txtFont", app_.txtFont}}});
+                                                      {"txtFont", app_.txtFont}},
+                                           .saved = tellSaved});
 
     const auto withTables = [this](const auto& step) {
         return [this, step](const Text& section) {
@@ -69,7 +72,8 @@ ParameterSets::ParameterSets(Application& app, SetCommands& commands) : app_(app
                                            }),
                                            .saveMore = withTables([this](Table& table, TextView section) {
                                                SaveColumnsSettings(app_, table, section);
-                                           })});
+                                           }),
+                                           .saved = tellSaved});
 
     sets_.emplace_back(
         app_, app_.cboOutPlace, commands.cmdSavePlace,
@@ -92,7 +96,8 @@ ParameterSets::ParameterSets(Application& app, SetCommands& commands) : app_(app
                         app_.ports.settings.SaveSetting(entry.section, entry.key, entry.value);
                     }
                 },
-            .tidy = [this](const Text& section) { DeleteFormerOrder(app_.ports.settings, section); }});
+            .tidy = [this](const Text& section) { DeleteFormerOrder(app_.ports.settings, section); },
+            .saved = tellSaved});
 }
 
 }  // namespace swiftroll

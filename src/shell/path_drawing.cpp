@@ -1,11 +1,13 @@
 #include "shell/path_drawing.h"
 
+#include "app/french_count.h"
 #include "app/large_file.h"
 #include "drawing/kinship_page.h"
 #include "drawing/kinship_print.h"
 #include "kinship/out_link.h"
 #include "shell/drawing_size.h"
 #include "shell/file_names.h"
+#include "shell/work_notice.h"
 #include "tables/columns.h"
 #include "text/edit.h"
 #include "text/literal.h"
@@ -120,6 +122,11 @@ void PathDrawing::DrawPaths(bool bSpouses, bool bHtml, bool bAll) {
         document = NewDrawingFile(source, app_.ports.files);
     }
     if (document && !DrawRows(app_.trail, rows, bSpouses, *document)) return;
+    if (document && bHtml) {
+        document.reset();  // now the file is whole
+        TellWritten(app_, fileCombos_, ForCount(std::ssize(rows), "Dessin écrit"_t, "Dessins écrits"_t),
+                    {Counted(std::ssize(rows), "chemin", "chemins")}, app_.cboKinship.Get());
+    }
     app_.lvwKinship.SetSortKey(previousSortKey);
 }
 

@@ -3,6 +3,7 @@
 #include "app/french_date.h"
 #include "shell/settings/registry_text.h"
 #include "shell/system_name.h"
+#include "shell/work_notice.h"
 #include "text/edit.h"
 #include "text/literal.h"
 
@@ -21,9 +22,11 @@ ProblemReport::ProblemReport(Application& app, ReportCommands& commands, frmUpda
     commands.mnuSaveParams.Operation = [this] { mnuSaveParams_Click(); };
     commands.mnuCheckUpdate.Operation =
         commands.PicturepicKeepUpdated.Operation = [this] { mnuCheckUpdate_Click(); };
+    updates_.OnFailed = [this] { OfferAnotherCheck(app_, this, [this] { mnuCheckUpdate_Click(); }); };
 }
 
 void ProblemReport::mnuCheckUpdate_Click() {
+    app_.messageBar.Remove(this);
     app_.trail.Guard(
         "mnuCheckUpdate_Click",
         [this] {

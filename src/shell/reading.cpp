@@ -6,6 +6,7 @@
 #include "shell/read_notice.h"
 #include "shell/settings/column_settings.h"
 #include "shell/settings/settings_sections.h"
+#include "shell/work_notice.h"
 #include "tables/column_icon.h"
 #include "text/edit.h"
 #include "text/ignoring_failures.h"
@@ -55,6 +56,7 @@ void Reading::ReadFile() {
         };
         reader_.ProcessGedcom();
         if (!app_.bAbort) TellFindings(readAgain);
+        TellRead();
         commands_.mnuCheckFile.Enabled = !app_.bAbort;
     }
     reader_.lines.Close();
@@ -82,6 +84,12 @@ void Reading::PlaceGroups() {
     });
 }
 
+void Reading::TellRead() {
+    std::vector<Text> made = {Counted(app_.lvwIn.Count(), "individu", "individus")};
+    if (app_.bFamiliesRead) made.push_back(Counted(app_.lvwFamily.Count(), "famille", "familles"));
+    TellEnd(app_, app_.bAbort ? "Lecture interrompue"_t : "Fichier lu"_t, made, !app_.bAbort);
+}
+
 void Reading::TellFindings(const std::function<void(CheckBox& option)>& readAgain) {
     Notice notice = ReadNotice(reader_.findings, {[this, readAgain] { readAgain(app_.chkCalendars); },
                                                   [this, readAgain] { readAgain(app_.chkFallbackEvents); }});
@@ -102,7 +110,8 @@ void Reading::EnableFamilyCommands(bool enabled) {
 }
 
 void Reading::cmdCalcOutput_Click() {
-    modCalcOut::CalcOuptut(app_, app_, modPrivacy::Living(app_, app_, app_.ports.clock));
+    const bool isMade = modCalcOut::CalcOuptut(app_, app_, modPrivacy::Living(app_, app_, app_.ports.clock));
+    if (isMade) TellEnd(app_, "Liste calculée"_t, {Counted(app_.lvwOut.Count(), "ligne", "lignes")});
     app_.ShowTab(Tab::Out);
     SetAllColumnIcons(app_);
 }

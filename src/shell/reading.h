@@ -19,6 +19,8 @@ class Reading {
     void cmdLoad_Click();
     void PlaceGroups();
     void ReadFile();
+    /// Tells in the message bar how far the read came, and what it gave.
+    void TellRead();
     /// Tells in the message bar what the options kept the read from; `readAgain` repeats it with one of them.
     void TellFindings(const std::function<void(CheckBox& option)>& readAgain);
     void cboLoad_Click();

@@ -3,6 +3,7 @@
 #include "list/calc_output.h"
 #include "shell/file_names.h"
 #include "shell/settings/history.h"
+#include "shell/work_notice.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "writers/output_format.h"
@@ -14,6 +15,12 @@ using modGenFileFromModel::OutputFormats;
 using modGenFileFromModel::StylesheetFormat;
 
 namespace {
+
+std::int64_t MarkedRows(const Table& table) {
+    std::int64_t count = 0;
+    for (std::int32_t i = 1; i <= table.Count(); ++i) count += table.Item(i).Marked() ? 1 : 0;
+    return count;
+}
 
 const OutputFormat& FormatOf(int iFormat) { return OutputFormats()[static_cast<std::size_t>(iFormat)]; }
 
@@ -66,8 +73,14 @@ void Writing::WriteSwiftFile(bool bSelectedOnly) {
     if (format.NeedsModel(!sXslFile.empty()) && ModelIsMissing(model)) return;
     modCalcOut::HideInList(app_, app_, modPrivacy::Living(app_, app_, app_.ports.clock));
     const modGenFileFromModel::ListOrigin origin{app_.cboGedIn.Get(), lines_.lNrNames, lines_.lNrLines};
-    bWriteComplete = format.write({app_, app_, app_, origin, app_.ports.files, app_.ports.clock, app_},
-                                  format, {out, model, sXslFile, bSelectedOnly});
+    const std::int64_t rows = bSelectedOnly ? MarkedRows(app_.lvwOut) : app_.lvwOut.Count();
+    using modGenFileFromModel::Written;
+    const Written written = format.write({app_, app_, app_, origin, app_.ports.files, app_.ports.clock, app_},
+                                         format, {out, model, sXslFile, bSelectedOnly});
+    bWriteComplete = written != Written::FailureUntold;
+    if (written == Written::Whole) {
+        TellWritten(app_, fileCombos_, "Relevé écrit"_t, {Counted(rows, "ligne", "lignes")}, out);
+    }
 }
 
 Text Writing::StylesheetOf(TextView sOutFile) const {

@@ -58,6 +58,7 @@ void frmUpdates::GetUpdates(bool bSilent) {
             CheckVersions(bSilent);
         } catch (const std::exception&) {
             ShowImpossible({CurrentFailure().What()});
+            Fire(OnFailed);
             throw;
         }
     };
@@ -71,6 +72,7 @@ void frmUpdates::CheckVersions(bool bSilent) {
     const auto warn = [&](TextView first) {
         constexpr TextView kSecond = "ou pas de connection Internet...";
         ShowImpossible({first, kSecond});
+        Fire(OnFailed);
         app_.Box(kTitle, Concat({first, kLineEnd, kSecond}), BoxButtons::Ok, BoxIcon::Exclamation);
     };
     Caption = app_.MainCaption();
@@ -119,7 +121,7 @@ bool frmUpdates::DownloadFile(TextView sUrl, TextView sLocal) {
     app_.trail.GuardElse(
         "DownloadFile",
         [&] {
-            const ScopedFlag wait(bWaitCursor);
+            const ScopedFlag wait(bWaitCursor), canStop(app_.bCanStop);
             app_.ports.network.Download(sUrl, sLocal);  // an old copy serves when nothing comes
             isDone = true;
         },

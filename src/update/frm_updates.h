@@ -27,6 +27,9 @@ class frmUpdates : public Window {
     /// For the presentation, which draws the title of the window in the other state.
     std::function<void(bool inverted)> OnInvertCaption;
 
+    /// Told when a check could not be made, though there is a site to ask.
+    Event OnFailed;
+
     /// Looks whether there is a newer version. With `bSilent` nothing is shown unless there is one, and a
     /// failure is an entry of the log and a line in the message.
     /// @throws Failure unless silent, for a list with a version that is none, or with a section named twice

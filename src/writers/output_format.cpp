@@ -11,19 +11,25 @@
 namespace swiftroll::modGenFileFromModel {
 namespace {
 
-bool WriteThroughModel(const ListSource& source, const OutputFormat& format, const WriteRequest& request) {
-    WriteFileFromModel(source, format, request.sOutFile, request.sModelFile, request.bSelectedOnly);
-    return true;
+Written WriteThroughModel(const ListSource& source, const OutputFormat& format, const WriteRequest& request) {
+    const bool isWhole =
+        WriteFileFromModel(source, format, request.sOutFile, request.sModelFile, request.bSelectedOnly);
+    return isWhole ? Written::Whole : Written::FailureTold;
 }
 
-bool WriteWithStylesheet(const ListSource& source, const OutputFormat& format, const WriteRequest& request) {
+Written WriteWithStylesheet(const ListSource& source, const OutputFormat& format,
+                            const WriteRequest& request) {
+    bool hasStylesheet = true;
     if (!request.sXslFile.empty()) {
         ListSource described = source;
         if (source.options.chkStrictXml.Checked())
             described.origin.sGedcom = AllowedInXml(source.origin.sGedcom);
-        WriteFileFromModel(described, format, request.sXslFile, request.sModelFile, request.bSelectedOnly);
+        hasStylesheet = WriteFileFromModel(described, format, request.sXslFile, request.sModelFile,
+                                           request.bSelectedOnly);
     }
-    return WriteXML(source, request.sOutFile, FileNamePart(request.sXslFile), request.bSelectedOnly);
+    if (!WriteXML(source, request.sOutFile, FileNamePart(request.sXslFile), request.bSelectedOnly))
+        return Written::FailureUntold;
+    return hasStylesheet ? Written::Whole : Written::FailureTold;
 }
 
 constexpr OutputFormat kFormats[] = {

@@ -18,8 +18,11 @@ struct WriteRequest {
     bool bSelectedOnly = false;
 };
 
-/// Writes `lvwOut` in a format. False when the file is not complete and nobody was told.
-using Writer = bool (*)(const ListSource& source, const OutputFormat& format, const WriteRequest& request);
+/// What became of the files of a command; a failure that was told stands in a box.
+enum class Written { Whole, FailureTold, FailureUntold };
+
+/// Writes `lvwOut` in a format.
+using Writer = Written (*)(const ListSource& source, const OutputFormat& format, const WriteRequest& request);
 
 /// A format in which the Relevé-vif is written.
 struct OutputFormat {

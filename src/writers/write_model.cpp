@@ -150,19 +150,20 @@ class Document {
 
 }  // namespace
 
-void WriteFileFromModel(const ListSource& source, const OutputFormat& format, TextView sOutFile,
+bool WriteFileFromModel(const ListSource& source, const OutputFormat& format, TextView sOutFile,
                         TextView sModelFile, bool bSelectedOnly) {
     const ScopedFlag wait(source.feedback.bWaitCursor);
     bool opened = false;
-    source.feedback.trail.GuardElse(
+    return source.feedback.trail.GuardElse(
         "WriteFileFromModel",
         [&] {
             auto pieces = SplitModel(source.files, source.feedback, sModelFile, *format.model);
-            if (!pieces) return;
+            if (!pieces) return false;
             Document document(source, std::move(*pieces), format, bSelectedOnly);
             document.Open(sOutFile);
             opened = true;
             document.WriteRest();
+            return true;
         },
         [&] {
             if (opened) {

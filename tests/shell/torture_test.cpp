@@ -123,6 +123,7 @@ class Monkey : public Dialogs, public EventPump {
     void CheckAtRest() {
         EXPECT_FALSE(main.bWaitCursor);
         EXPECT_FALSE(main.bTablesLocked);
+        EXPECT_FALSE(main.bCanStop);
         EXPECT_FALSE(main.kinshipSearch.IsRunning());
         EXPECT_TRUE(main.cmdLoad.Enabled && main.mnuReadGedCom.Enabled && main.cboLoad.Enabled);
         EXPECT_TRUE(internalFailure.empty()) << internalFailure;
@@ -324,7 +325,9 @@ void Monkey::WorkWithATable() {
             ports_.desktop.shiftIsDown = dice_.OneIn(3);
             return main.lists.lvw_ColumnClick(table, table.ColumnAt(column));
         case 1:
-            return table.MoveColumn(column, 1);
+            if (&table != &main.lvwOut) return table.MoveColumn(column, 1);
+            if (dice_.OneIn(3)) return main.grouping.TakeOut(column);
+            return main.grouping.Place(column, static_cast<std::size_t>(dice_.Below(4)));
         case 2:
             return main.lists.lvw_DblClick(table);
         case 3:

@@ -79,12 +79,16 @@ void ParameterSet::Save() {
     app_.trail.Guard(
         parts_.saveName,
         [&] {
+            bool isSaved = false;
             app_.ports.settings.Together([&] {
                 for (const Text& item : combo_.Items()) {
                     if (parts_.tidy) parts_.tidy(SectionOf(item));
-                    if (item == combo_.Get()) SaveFields(item);
+                    if (item != combo_.Get()) continue;
+                    SaveFields(item);
+                    isSaved = true;
                 }
             });
+            if (isSaved && parts_.saved) parts_.saved(combo_.Get());
         },
         [&] { return combo_.Get(); });
 }

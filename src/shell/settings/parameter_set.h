@@ -30,6 +30,8 @@ class ParameterSet {
         WithSection loadMore = {}, saveMore = {};
         /// For every name in the combo, when one of them is saved.
         WithSection tidy = {};
+        /// Told the name of a set that was saved.
+        std::function<void(const Text& name)> saved = {};
     };
     /// Binds the events of the combo and of the button.
     ParameterSet(Application& app, ComboBox& combo, Command& save, Parts parts);
