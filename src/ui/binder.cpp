@@ -195,7 +195,7 @@ void Binder::Bind(QAbstractButton& widget, Command& control, const QString& desc
     BindCommon(widget, control, description);
     presenter_.OnRefresh([&widget, &control] { ShowCaption(widget, control.Caption); });
     QObject::connect(&widget, &QAbstractButton::clicked, &presenter_,
-                     [this_ = &presenter_, &control] { this_->Act([&] { control.Click(); }); });
+                     [this_ = &presenter_, &control] { this_->Click(control); });
 }
 
 }  // namespace swiftroll::ui

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QHBoxLayout>
 
@@ -44,6 +45,23 @@ QWidget* ConditionFrame(Binder& binder, frmFind& form, std::size_t condition) {
     return frame.box;
 }
 
+/// What the search answers: its line is kept free, so that the window keeps its size, and a screen reader,
+/// which follows the focus, is told.
+QLabel* NewAnswerLabel(Presenter& presenter, Binder& binder, Label& answer) {
+    auto* label = new QLabel;
+    binder.Bind(*label, answer);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    label->setMinimumHeight(label->fontMetrics().lineSpacing());
+    presenter.OnRefresh([label, shown = QString()]() mutable {
+        if (std::exchange(shown, label->text()) == label->text() || shown.isEmpty()) return;
+        QAccessibleEvent alert(label, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    });
+    return label;
+}
+
 }  // namespace
 
 SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
@@ -62,6 +80,7 @@ SecondaryDialog* BuildFindDialog(Presenter& presenter, QWidget* owner) {
     constexpr int kMostOptions = 2;
     options->setMinimumHeight(kMostOptions * options->fontMetrics().lineSpacing());
     column->addWidget(options);
+    column->addWidget(NewAnswerLabel(presenter, binder, form.lblNotFound));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(NewButton(binder, form.cmdDeselectAll));
     buttons->addStretch(1);

@@ -10,7 +10,9 @@
 #include "column_widths.h"
 #include "dropped_file.h"
 #include "file_rows.h"
+#include "group_border.h"
 #include "grouped_tabs.h"
+#include "grouping_strip.h"
 #include "help_topics.h"
 #include "layout.h"
 #include "look.h"
@@ -56,8 +58,10 @@ void MainWindow::BuildCentre() {
     column->setSpacing(kSpacing);
     column->addWidget(BuildToolBar(main_, binder_));
     column->addWidget(BuildFileRows(main_, binder_, presenter_));
-    column->addWidget(new MessageBarWidget(presenter_));
+    column->addWidget(NewNoticeBar(presenter_));
     column->addWidget(BuildTabs(), 1);
+    // It comes and goes by itself: what the user points at must not move.
+    column->addWidget(NewWorkNoticeBar(presenter_));
     setCentralWidget(centre);
 }
 
@@ -73,8 +77,7 @@ void MainWindow::BuildMenuBar() {
     for (const Menu& menu : main_.MenuBar()) {
         QMenu* target = menuBar()->addMenu(ToQt(menu.head.Caption));
         target->setObjectName(ToQt(menu.head.Name()));
-        const auto actions =
-            FillMenu(*target, menu, [this](Command& command) { presenter_.Act([&] { command.Click(); }); });
+        const auto actions = FillMenu(*target, menu, [this](Command& command) { presenter_.Click(command); });
         menuActions_.insert(menuActions_.end(), actions.begin(), actions.end());
     }
 }
@@ -91,7 +94,9 @@ QWidget* MainWindow::BuildTabs() {
                                           : NewOptionPage(options[i - kFirstOptions]);
         tabs_->addTab(page, ToQt(kTabCaptions[i]));
     }
-    new StartView(presenter_, ViewOf(main_.lvwIn));  // owned by the list
+    new GroupBorder(presenter_, ViewOf(main_.lvwOut));  // owned by the list
+    pages_.Of(Tab::Out).strips->insertWidget(0, BuildGrouping(presenter_));
+    new StartView(presenter_, ViewOf(main_.lvwIn));         // owned by the list
     new PersonPane(presenter_, *pages_.Of(Tab::In).sides);  // owned by the splitter
     tabs_->setCornerWidget(BuildFavorites());
     // A person of any list can be dragged to the slots of the kinship.

@@ -1,8 +1,8 @@
 #include "message_bar_widget.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QToolButton>
 
 #include "layout.h"
@@ -12,61 +12,87 @@
 namespace swiftroll::ui {
 namespace {
 
-constexpr int kStripWidth = 4;
-constexpr int kPadding = 4;
-/// How much of the accent colour the ground of the bar has, of 1.
-constexpr qreal kTint = 0.15;
-
-QColor Mixed(const QColor& ground, const QColor& accent) {
-    const auto mix = [](int a, int b) { return static_cast<int>(a + (b - a) * kTint); };
-    return {mix(ground.red(), accent.red()), mix(ground.green(), accent.green()),
-            mix(ground.blue(), accent.blue())};
-}
+/// How long what a work has made is told.
+constexpr int kPassingMilliseconds = 10000;
 
 }  // namespace
 
-MessageBarWidget::MessageBarWidget(Presenter& presenter)
-    : presenter_(presenter), text_(new QLabel), buttonRow_(new QWidget) {
-    setObjectName(QStringLiteral("messageBar"));
+MessageBarWidget::MessageBarWidget(Presenter& presenter, Source source)
+    : presenter_(presenter), source_(std::move(source)), text_(new QLabel), buttonRow_(new QWidget) {
+    setObjectName(source_.name);
     setAccessibleName(QStringLiteral("Avis"));
-    text_->setObjectName(QStringLiteral("messageBarText"));
+    text_->setObjectName(source_.name + QStringLiteral("Text"));
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
     text_->setMinimumWidth(1);  // a long word is cut, it does not widen the window
     auto* close = new QToolButton;
-    close->setObjectName(QStringLiteral("messageBarClose"));
+    close->setObjectName(source_.name + QStringLiteral("Close"));
     close->setAutoRaise(true);
     close->setIcon(ThemedIcon(QStringLiteral("close")));
     close->setAccessibleName(QStringLiteral("Fermer"));
     close->setToolTip(QStringLiteral("Fermer"));
     close->setFocusPolicy(Qt::TabFocus);
-    connect(close, &QToolButton::clicked, this,
-            [this] { presenter_.Act([this] { presenter_.Main().messageBar.Close(); }); });
+    connect(close, &QToolButton::clicked, this, [this] { Close(); });
     auto* buttonLayout = new QHBoxLayout(buttonRow_);
     buttonLayout->setContentsMargins(0, 0, 0, 0);
     buttonLayout->setSpacing(kSpacing);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(kStripWidth + kMargin, kPadding, kPadding, kPadding);
+    row->setContentsMargins(Room());
     row->setSpacing(kSpacing);
     row->addWidget(text_, 1);
     row->addWidget(buttonRow_);
     row->addWidget(close);
     hide();
+    time_.setParent(this);
+    time_.setSingleShot(true);
+    time_.setInterval(kPassingMilliseconds);
+    connect(&time_, &QTimer::timeout, this, [this] { OnTimeOver(); });
     presenter_.OnRefresh([this] { Refresh(); });
+}
+
+MessageBarWidget* NewNoticeBar(Presenter& presenter) {
+    return new MessageBarWidget(
+        presenter, {QStringLiteral("messageBar"), [](const MessageBar& bar) { return bar.Seen(); },
+                    [](MessageBar& bar, std::size_t button) { bar.Press(button); },
+                    [](MessageBar& bar) { bar.Close(); }, [](const MessageBar&) { return false; }});
+}
+
+MessageBarWidget* NewWorkNoticeBar(Presenter& presenter) {
+    return new MessageBarWidget(
+        presenter, {QStringLiteral("workNotice"), [](const MessageBar& bar) { return bar.Told(); },
+                    [](MessageBar& bar, std::size_t button) { bar.PressTold(button); },
+                    [](MessageBar& bar) { bar.ForgetTold(); },
+                    [](const MessageBar& bar) { return bar.StayOfTold() == Stay::AWhile; }});
+}
+
+void MessageBarWidget::Close() {
+    presenter_.Act([this] { source_.close(presenter_.Main().messageBar); });
+}
+
+/// Who reads the notice, or stands on a button of it, keeps it.
+void MessageBarWidget::OnTimeOver() {
+    const QWidget* focus = QApplication::focusWidget();
+    const bool isUsed = underMouse() || (focus != nullptr && isAncestorOf(focus));
+    if (isUsed || QApplication::activeModalWidget() != nullptr) return time_.start();
+    Close();
 }
 
 void MessageBarWidget::Refresh() {
     const MessageBar& bar = presenter_.Main().messageBar;
     if (bar.Changes() == changes_) return;
     changes_ = bar.Changes();
-    const Notice* notice = bar.Seen();
+    const Notice* notice = source_.notice(bar);
     if (notice != nullptr) ShowNotice(*notice);
     setVisible(notice != nullptr);
 }
 
 void MessageBarWidget::ShowNotice(const Notice& notice) {
-    text_->setText(ToQt(notice.text));
-    bool isNew = isHidden();
+    const QString text = ToQt(notice.text);
+    const bool isPassing = source_.isPassing(presenter_.Main().messageBar);
+    if (!isPassing) time_.stop();
+    bool isNew = isHidden() || (isPassing && text_->text() != text);
+    if (isNew && isPassing) time_.start();
+    text_->setText(text);
     // A notice that only counts on keeps its buttons, and the focus that one of them may have.
     while (buttons_.size() < notice.buttons.size()) buttons_.push_back(NewNoticeButton());
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
@@ -85,20 +111,14 @@ void MessageBarWidget::ShowNotice(const Notice& notice) {
 QPushButton* MessageBarWidget::NewNoticeButton() {
     const std::size_t index = buttons_.size();
     auto* button = new QPushButton;
-    button->setObjectName(QStringLiteral("messageBarButton(%1)").arg(index));
+    button->setObjectName(source_.name + QStringLiteral("Button(%1)").arg(index));
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::TabFocus);
-    connect(button, &QPushButton::clicked, this,
-            [this, index] { presenter_.Act([this, index] { presenter_.Main().messageBar.Press(index); }); });
+    connect(button, &QPushButton::clicked, this, [this, index] {
+        presenter_.Act([this, index] { source_.press(presenter_.Main().messageBar, index); });
+    });
     buttonRow_->layout()->addWidget(button);
     return button;
-}
-
-void MessageBarWidget::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const QColor accent = palette().color(QPalette::Highlight);
-    painter.fillRect(rect(), Mixed(palette().color(QPalette::Window), accent));
-    painter.fillRect(0, 0, kStripWidth, height(), accent);
 }
 
 }  // namespace swiftroll::ui

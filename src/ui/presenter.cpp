@@ -34,6 +34,13 @@ void Presenter::ActLater(std::function<void()> action) {
     QTimer::singleShot(delay, this, [this, action = std::move(action)] { Act(action); });
 }
 
+void Presenter::Click(const Command& command) {
+    Act([&] {
+        main_.messageBar.ForgetTold();
+        command.Click();
+    });
+}
+
 void Presenter::Breathe() {
     if (isBreathing_ || depth_ == 0) return;
     isBreathing_ = true;

@@ -23,6 +23,8 @@ class Presenter : public QObject {
     void Act(const std::function<void()>& action);
     /// The same as soon as the present event is handled: for events in the middle of which no box may open.
     void ActLater(std::function<void()> action);
+    /// Runs a command that the user chose: what was told of the last work goes.
+    void Click(const Command& command);
 
     /// Whether an action runs: what the user does now, he does in the middle of it.
     bool IsWorking() const { return depth_ > 0; }

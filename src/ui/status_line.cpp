@@ -6,14 +6,8 @@
 #include "qt_text.h"
 
 namespace swiftroll::ui {
-namespace {
 
-constexpr int kProgressSteps = 1000;
-constexpr int kProgressWidth = 160, kProgressHeight = 12;
-
-}  // namespace
-
-StatusLine::StatusLine(Presenter& presenter) : presenter_(presenter), progress_(new QProgressBar) {
+StatusLine::StatusLine(Presenter& presenter) : presenter_(presenter), work_(new WorkStatus(presenter)) {
     const char* const names[] = {"Lignes lues", "Individus", "Familles", "Message"};
     setObjectName(QStringLiteral("StatusBar1"));
     for (std::size_t i = 0; i < panels_.size(); ++i) {
@@ -28,12 +22,7 @@ StatusLine::StatusLine(Presenter& presenter) : presenter_(presenter), progress_(
     }
     Message().setObjectName(QStringLiteral("pnlMessage"));
     Message().installEventFilter(this);
-    progress_->setObjectName(QStringLiteral("ProgressBar1"));
-    progress_->setAccessibleName(QStringLiteral("Progression"));
-    progress_->setRange(0, kProgressSteps);
-    progress_->setTextVisible(false);
-    progress_->setFixedSize(kProgressWidth, kProgressHeight);
-    addPermanentWidget(progress_);
+    addPermanentWidget(work_);
 }
 
 bool StatusLine::eventFilter(QObject* object, QEvent* event) {
@@ -57,10 +46,7 @@ void StatusLine::Refresh() {
         if (panels_[i] != panels_.back())
             panels_[i]->setMinimumWidth(std::max(panels_[i]->minimumWidth(), panels_[i]->sizeHint().width()));
     }
-    // A bar without a range moves by itself.
-    const int steps = main.ProgressBar1.IsBusy() ? 0 : kProgressSteps;
-    if (progress_->maximum() != steps) progress_->setRange(0, steps);
-    progress_->setValue(static_cast<int>(main.ProgressBar1.Value() * steps / 100));
+    work_->ShowWork();
 }
 
 }  // namespace swiftroll::ui

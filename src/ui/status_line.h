@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QLabel>
-#include <QProgressBar>
 #include <QStatusBar>
 #include <array>
 
-#include "presenter.h"
+#include "work_status.h"
 
 namespace swiftroll::ui {
 
@@ -25,7 +24,7 @@ class StatusLine : public QStatusBar {
 
     Presenter& presenter_;
     std::array<QLabel*, 4> panels_{};
-    QProgressBar* progress_;
+    WorkStatus* work_;
 };
 
 }  // namespace swiftroll::ui

@@ -1,5 +1,9 @@
 #include "table_model.h"
 
+#include <QApplication>
+#include <QBrush>
+#include <QPalette>
+
 #include "column_marks.h"
 #include "qt_text.h"
 
@@ -15,6 +19,16 @@ Qt::Alignment AlignmentOf(Alignment alignment) {
             return Qt::AlignLeft | Qt::AlignVCenter;
     }
 }
+
+namespace {
+
+QBrush FaintInk() {
+    QColor ink = QApplication::palette().color(QPalette::ButtonText);
+    ink.setAlphaF(0.5F);
+    return ink;
+}
+
+}  // namespace
 
 bool TableModel::Sync() {
     filter_.Sync();
@@ -77,6 +91,8 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
             return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
         case Qt::ToolTipRole:
             return HeaderTip ? ToQt(HeaderTip(column)) : QVariant();
+        case Qt::ForegroundRole:
+            return isFaint && isFaint(column.Index) ? QVariant(FaintInk()) : QVariant();
         default:
             return {};
     }

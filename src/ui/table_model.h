@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
 
 #include "list/row_filter.h"
 
@@ -33,6 +34,8 @@ class TableModel : public QAbstractTableModel {
 
     /// What the tip of a header says.
     std::function<Text(const Column& column)> HeaderTip;
+    /// Whether the header of a column is faint; none is without it.
+    std::function<bool(ColumnId column)> isFaint;
 
   private:
     Table& table_;

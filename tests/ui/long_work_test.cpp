@@ -119,6 +119,35 @@ TEST_F(LongWork, EscapeEndsARead) {
     EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QStringLiteral("Interrompu par l'utilisateur !"));
 }
 
+TEST_F(LongWork, ProgressAndStopAreSeenWhileWorkRunsAndStopEndsIt) {
+    Start();
+    auto& work = Find<QWidget>("workStatus");
+    EXPECT_FALSE(work.isVisible());
+    int height = 0;
+    Meanwhile([this] { return Main().lvwIn.Count() > 0; },
+              [&] {
+                  EXPECT_TRUE(Find<QWidget>("ProgressBar1").isVisible());
+                  height = Window().Tabs().height();
+                  Click("cmdStop");
+              });
+    const QString file = Write(QStringLiteral("long.ged"), ManyCousins(30000));
+    program_->ThePresenter().Act([&] { Main().cboGedIn.SetText(ui::FromQt(file)); });
+    const int heightBefore = Window().Tabs().height();
+    Click("cmdLoad");
+    EXPECT_EQ(height, heightBefore) << "nothing jumps when work begins";
+    EXPECT_LT(Main().lvwIn.Count(), 120000);
+    EXPECT_FALSE(work.isVisible());
+    EXPECT_TRUE(Find<QLabel>("workNoticeText").text().startsWith(QStringLiteral("Lecture interrompue: ")));
+    EXPECT_EQ(Find<QLabel>("pnlMessage").text(), QStringLiteral("Interrompu par l'utilisateur !"));
+
+    ReadCousins();
+    Meanwhile([this] { return Main().lvwKinship.Count() > 0 && Find<QWidget>("cmdStop").isVisible(); },
+              [this] { Click("cmdStop"); });
+    StartSearch();
+    EXPECT_TRUE(Find<QLabel>("workNoticeText").text().startsWith(QStringLiteral("Recherche interrompue: ")));
+    EXPECT_FALSE(Find<QWidget>("cmdStop").isVisible());
+}
+
 TEST_F(LongWork, ManyLineErrorsCanBeAnsweredAtOnce) {
     Start();
     const auto press = [this](Qt::Key key, int times) {

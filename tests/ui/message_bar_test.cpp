@@ -53,5 +53,45 @@ TEST_F(Bar, ALongNoticeWrapsAndKeepsTheWindow) {
     EXPECT_LE(Whole().width(), Window().width());
 }
 
+TEST_F(Bar, WhatWasMadeIsToldBesideAQuestionAndGoesByItself) {
+    Start();
+    Read("0 @I1@ INDI\n1 BIRT\n2 DATE @#DFRENCH R@ 3 NIVO 9\n0 TRLR\n");
+    auto& told = Find<QWidget>("workNotice");
+    EXPECT_TRUE(told.isVisible());
+    EXPECT_TRUE(Whole().isVisible()) << "the question is not covered";
+    EXPECT_EQ(Find<QLabel>("workNoticeText").text(), QStringLiteral("Fichier lu: 1 individu, 0 famille"));
+    ShowTab(6);
+    Click("cmdRecalcIn");
+    EXPECT_FALSE(told.isVisible()) << "the next action";
+    EXPECT_TRUE(Whole().isVisible());
+    Click("cmdCalcOutput");
+    ASSERT_TRUE(told.isVisible());
+    auto* time = told.findChild<QTimer*>();
+    ASSERT_NE(time, nullptr);
+    EXPECT_TRUE(time->isActive());
+    time->start(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !told.isVisible(); }, 1000));
+    EXPECT_TRUE(Whole().isVisible());
+}
+
+TEST_F(Bar, ASearchWithoutResultIsToldInItsDialogToo) {
+    StartWithFamily();
+    QTest::keyClick(&View(Main().lvwIn), Qt::Key_F, Qt::ControlModifier);
+    QTest::qWait(20);
+    auto& answer = Find<QLabel>("lblNotFound");
+    const QSize size = answer.window()->size();
+    const std::pair<const char*, const char*> searches[] = {{"Absent", "Non trouvé !"}, {"Dupont", ""}};
+    for (const auto& search : searches) {
+        program_->ThePresenter().Act([&] {
+            Main().findDialog.cboTextToFind[0].SetText(search.first);
+            Main().findDialog.cboColumns[0].SetListIndex(In::LastName - 1);
+        });
+        Click("cmdFind");
+        EXPECT_EQ(answer.text(), QString::fromUtf8(search.second));
+        EXPECT_EQ(Find<QLabel>("pnlMessage").text(), answer.text());
+        EXPECT_EQ(answer.window()->size(), size);
+    }
+}
+
 }  // namespace
 }  // namespace swiftroll::test
