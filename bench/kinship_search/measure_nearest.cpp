@@ -85,7 +85,7 @@ double MeasureNames(swiftroll::frmMain& main) {
 
 double MeasureRelatives(swiftroll::frmMain& main, const std::string& id, std::int32_t& found) {
     const ProcessorWatch watch;
-    ListRelatives(main, main.lvwIn.Item(id).Index(), kUsualDegree);
+    ListRelatives(main, main.lvwIn.Item(id).Index(), kUsualDegree, swiftroll::modPrivacy::Living(main));
     found = main.lvwRelatives.Count();
     return watch.Seconds();
 }

@@ -40,7 +40,8 @@ void CousinsJob::Do(Session& session) {
     if (!session.Mark(id_)) return;
     const auto degree = std::min<std::int64_t>(degree_, std::numeric_limits<std::int32_t>::max());
     modKinship::ListRelatives(session.main, session.main.lvwIn.Item(TextOf(id_)).Index(),
-                              static_cast<std::int32_t>(degree));
+                              static_cast<std::int32_t>(degree),
+                              modPrivacy::Living(session.main, session.main, session.main.ports.clock));
     session.Write(output_, [&](File& file) { PrintTables({&session.main.lvwRelatives}, false, file); });
 }
 

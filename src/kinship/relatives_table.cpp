@@ -56,7 +56,8 @@ Parentage ReadParentage(TableSet& tables) {
 
 }  // namespace
 
-void ListRelatives(TableSet& tables, std::int32_t lRow, std::int32_t mostCivil) {
+void ListRelatives(TableSet& tables, std::int32_t lRow, std::int32_t mostCivil,
+                   const modPrivacy::Living& living) {
     Table& relatives = tables.lvwRelatives;
     relatives.Clear();
     relatives.SetSorted(false);
@@ -65,6 +66,7 @@ void ListRelatives(TableSet& tables, std::int32_t lRow, std::int32_t mostCivil) 
     for (const BloodRelative& relative : FindBloodRelatives(ReadParentage(tables), lRow - 1, mostCivil)) {
         const auto person = [&](std::int32_t individual) { return tables.lvwIn.Item(individual + 1); };
         const Row individual = person(relative.individual);
+        if (living.IsLiving(individual)) continue;
         TextStore& store = relatives.Store();
         Row row = relatives.Add(std::nullopt, individual.Text(), individual.Text());
         row.SetCell(Relatives::LastName, store.Intern(individual.Cell(In::LastName)));

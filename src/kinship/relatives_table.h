@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tables/schema.h"
+#include "privacy/living.h"
 
 namespace swiftroll::modKinship {
 
@@ -8,8 +8,9 @@ namespace swiftroll::modKinship {
 inline constexpr std::int32_t kUsualDegree = 8;
 
 /// Fills `lvwRelatives` with the blood relatives of the individual in the `lvwIn` row `lRow` up to a civil
-/// degree, one row each: by the nearest relation, the nearest relatives first. @throws Failure
-/// IndexOutOfRange
-void ListRelatives(TableSet& tables, std::int32_t lRow, std::int32_t mostCivil);
+/// degree, one row each: by the nearest relation, the nearest relatives first, and without those who are
+/// hidden as living. @throws Failure IndexOutOfRange
+void ListRelatives(TableSet& tables, std::int32_t lRow, std::int32_t mostCivil,
+                   const modPrivacy::Living& living);
 
 }  // namespace swiftroll::modKinship

@@ -37,13 +37,15 @@ std::string PageHead(const std::string& title) {
 
 }  // namespace
 
-void WriteTablePage(File& file, TextView sTitle, Table& table) {
+void WriteTablePage(File& file, TextView sTitle, Table& table,
+                    const std::function<bool(const Row& row)>& isLeftOut) {
     const auto columns = ShownColumns(table);
     std::string page = PageHead(Escaped(sTitle));
     for (const Column* column : columns) page += "<th scope=\"col\">" + Escaped(column->Caption) + "</th>";
     page += "</tr>\n</thead>\n<tbody>\n";
     for (std::int32_t i = 1; i <= table.Count(); ++i) {
         const Row row = table.Item(i);
+        if (isLeftOut(row)) continue;
         table.Need(row);
         page += "<tr>";
         for (const Column* column : columns) page += "<td>" + Escaped(row.Cell(column->Index)) + "</td>";

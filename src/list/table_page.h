@@ -6,7 +6,8 @@
 namespace swiftroll::modCalcOut {
 
 /// Writes a table into a file as a page of HTML under a title, in UTF-8: the columns that are switched on, in
-/// their present order, and all rows. @throws Failure FileAccess
-void WriteTablePage(File& file, TextView sTitle, Table& table);
+/// their present order, and the rows that are not left out. @throws Failure FileAccess
+void WriteTablePage(File& file, TextView sTitle, Table& table,
+                    const std::function<bool(const Row& row)>& isLeftOut);
 
 }  // namespace swiftroll::modCalcOut

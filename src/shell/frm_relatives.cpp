@@ -23,6 +23,26 @@ std::optional<std::int32_t> DegreeOf(TextView text) {
         std::min<std::int64_t>(*number, std::numeric_limits<std::int32_t>::max()));
 }
 
+/// "Jean DUPONT (@I1@) : 12 parent(s) par le sang", without the name of somebody who lives.
+Text TitleOf(const Row& person, std::int32_t count, const modPrivacy::Living& living) {
+    const Text name = living.IsLiving(person)
+                          ? Text(modPrivacy::kLivingName)
+                          : Concat({person.Cell(In::FirstName), " ", UpperCase(person.Cell(In::LastName))});
+    return Concat({name, " (", person.Text(), ") : ", Decimal(count), " parent(s) par le sang"_t});
+}
+
+/// Writes the relatives of an individual as they stand, without those who live.
+void WritePage(Application& app, TextView sIndi, File& file) {
+    const modPrivacy::Living living(app, app, app.ports.clock);
+    const auto isHidden = [&](const Row& row) { return living.IsLiving(row.Text()); };
+    std::int32_t count = 0;
+    for (std::int32_t i = 1; i <= app.lvwRelatives.Count(); ++i) {
+        if (!isHidden(app.lvwRelatives.Item(i))) ++count;
+    }
+    modCalcOut::WriteTablePage(file, TitleOf(app.lvwIn.Item(sIndi), count, living), app.lvwRelatives,
+                               isHidden);
+}
+
 }  // namespace
 
 frmRelatives::frmRelatives(Application& app)
@@ -65,12 +85,12 @@ void frmRelatives::FillTable() {
         return;
     }
     const ScopedFlag wait(app_.bWaitCursor);
+    // The lists of the window show everybody.
+    const modPrivacy::Living nobodyHidden(app_);
     modKinship::ListRelatives(app_, person->Index(),
-                              DegreeOf(txtDegree.Get()).value_or(modKinship::kUsualDegree));
+                              DegreeOf(txtDegree.Get()).value_or(modKinship::kUsualDegree), nobodyHidden);
     SetAllColumnIcons(app_);
-    lblPerson.Caption =
-        Concat({person->Cell(In::FirstName), " ", UpperCase(person->Cell(In::LastName)), " (", sIndi_,
-                ") : ", Decimal(app_.lvwRelatives.Count()), " parent(s) par le sang"_t});
+    lblPerson.Caption = TitleOf(*person, app_.lvwRelatives.Count(), nobodyHidden);
 }
 
 void frmRelatives::cmdCopy_Click() {
@@ -102,8 +122,7 @@ void frmRelatives::cmdHtml_Click() {
                          sFile)) {
                 return;
             }
-            modCalcOut::WriteTablePage(*app_.ports.files.Open(sFile, Files::Mode::Write), lblPerson.Caption,
-                                       app_.lvwRelatives);
+            WritePage(app_, sIndi_, *app_.ports.files.Open(sFile, Files::Mode::Write));
         },
         [&] { return sFile; });
 }

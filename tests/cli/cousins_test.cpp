@@ -17,6 +17,21 @@ TEST_F(Cousins, ListsBloodRelativesTheNearestFirst) {
               std::string::npos);
 }
 
+TEST_F(Cousins, LeavesOutWhoLives) {
+    environment = {"SOURCE_DATE_EPOCH=1700000000"};
+    Put("living.ged",
+        "0 @I1@ INDI\n1 NAME A /B/\n1 BIRT\n2 DATE 1900\n0 @I2@ INDI\n1 NAME Secret /B/\n1 BIRT\n2 DATE "
+        "1950\n"
+        "0 @I3@ INDI\n1 NAME C /B/\n1 BIRT\n2 DATE 1950\n1 DEAT\n"
+        "0 @F1@ FAM\n1 HUSB @I1@\n1 CHIL @I2@\n0 @F2@ FAM\n1 HUSB @I2@\n1 CHIL @I3@\n0 TRLR\n");
+    const Strings words{"cousins", "living.ged", "@I1@", "-q"};
+    EXPECT_NE(Cli(words).out.find("Secret"), std::string::npos);
+    const std::string hidden = Cli(words + Strings{"--set", "chkPrivate=1"}).out;
+    EXPECT_EQ(hidden.find("Secret"), std::string::npos);
+    EXPECT_NE(hidden.find("@I3@"), std::string::npos)
+        << "who is dead stays, whoever leads to him: " << hidden;
+}
+
 TEST_F(Cousins, RefusesWhatIsNobody) {
     Cli({"cousins", "f.ged", "@I9@"}).Ends(1, "@I9@");
     Cli({"cousins", "f.ged", "@I1@", "--sans-familles"}).Ends(1, "--sans-familles");

@@ -195,7 +195,7 @@ TEST(KinNames, AreThoseOfBothWays) {
 TEST(KinNames, OfRelativesAreThoseOfTheirPaths) {
     AfterRead t(kPeople, kFamilies);
     constexpr int kDegree = 7;
-    modKinship::ListRelatives(t.main, t.main.lvwIn.Item("@I@").Index(), kDegree);
+    modKinship::ListRelatives(t.main, t.main.lvwIn.Item("@I@").Index(), kDegree, modPrivacy::Living(t.main));
     int relatives = 0;
     for (const Text& person : kPeople) {
         const Text name(Split(person, " ").front()), id = Concat({"@", name, "@"});

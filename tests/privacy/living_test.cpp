@@ -57,6 +57,13 @@ struct Hiding : TestMain {
         for (const PrintedText& text : preview.texts) told += text.text;
         return told + files.contents["kin.html"];
     }
+    /// The page of all relatives of somebody.
+    Text Relatives(TextView id) {
+        main.relatives.Open(id);
+        dialogs.files = {"relatives.html"};
+        main.relatives.cmdHtml.Click();
+        return files.contents["relatives.html"];
+    }
 };
 
 TEST(Living, NoOutputTellsATextOfThem) {
@@ -69,7 +76,11 @@ TEST(Living, NoOutputTellsATextOfThem) {
         EXPECT_EQ(t.main.lvwOut.Count(), isCheckedFirst ? 4 : 9);
         t.main.chkPrivate.SetChecked(true);
         const Text list = Concat({t.List(0), t.List(2)}), extract = t.Extract();
-        const Text outputs = Concat({list, extract, t.Drawings("@I8@", "@I5@"), t.Drawings("@I2@", "@I3@")});
+        const Text relatives = Concat({t.Relatives("@I1@"), t.Relatives("@I8@")});
+        EXPECT_NE(relatives.find("Public01"), Text::npos) << relatives;
+        EXPECT_NE(relatives.find("Public06"), Text::npos) << relatives;
+        const Text outputs =
+            Concat({list, extract, relatives, t.Drawings("@I8@", "@I5@"), t.Drawings("@I2@", "@I3@")});
         EXPECT_EQ(outputs.find("Secret"), Text::npos) << outputs.substr(outputs.find("Secret"), 40);
         for (char tens = '0'; tens < '2'; ++tens) {
             for (char ones = '0'; ones <= '9'; ++ones) {
