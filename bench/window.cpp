@@ -1,6 +1,6 @@
 // How the window feels: from the start of the process to the first paint, the longest stall of the event loop
-// while a file is read, the time that a screen of rows takes while a long table is scrolled, and the time of
-// a key of its filter.
+// while a file is read, the time that a screen of rows takes while a long table is scrolled, and the times
+// of a key of its filter, of the side panel, and from the choice of a kinship path to its picture.
 //   windowbench START FILE.ged      START: when the process was started, in nanoseconds since the epoch
 #include <QApplication>
 #include <QElapsedTimer>
@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "desktop_application.h"
+#include "tables/columns.h"
 
 namespace {
 
@@ -150,6 +151,36 @@ void MeasurePanel(swiftroll::ui::DesktopApplication& program) {
                 times[times.size() / 2], times.back());
 }
 
+/// From the choice of a path to its picture, over the nearest paths between the first person and the last one
+/// of the same island.
+void MeasurePicture(swiftroll::ui::DesktopApplication& program) {
+    swiftroll::frmMain& main = program.Main();
+    const swiftroll::Text from(main.lvwIn.Item(1).Text()),
+        island(main.lvwIn.Item(1).Cell(swiftroll::In::IslandNr));
+    std::int32_t last = main.lvwIn.Count();
+    while (main.lvwIn.Item(last).Cell(swiftroll::In::IslandNr) != island) --last;
+    const swiftroll::Text to(main.lvwIn.Item(last).Text());
+    program.ThePresenter().Act([&] {
+        main.chkNearest.SetChecked(true);
+        main.kinshipRequest.FindPathBetween(from, to);
+    });
+    QApplication::processEvents();
+    auto* picture = program.Window().findChild<QWidget*>(QStringLiteral("kinshipView"));
+    std::vector<double> times;
+    for (std::int32_t i = 1; i <= main.lvwPaths.Count(); ++i) {
+        QElapsedTimer watch;
+        watch.start();
+        program.ThePresenter().Act([&] { main.lvwPaths.SetCurrent(main.lvwPaths.Item(i)); });
+        picture->repaint();
+        times.push_back(static_cast<double>(watch.nsecsElapsed()) / 1e6);
+    }
+    if (times.empty()) return;
+    std::sort(times.begin(), times.end());
+    std::printf("%-44s %8.2f ms, at most %.2f, %zu paths of about %s people\n",
+                "from a chosen path to its picture", times[times.size() / 2], times.back(), times.size(),
+                std::string(main.lvwPaths.Item(1).Cell(swiftroll::Paths::Links)).c_str());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -176,6 +207,7 @@ int main(int argc, char** argv) {
     MeasureScroll(program.Window().ViewOf(program.Main().lvwIn));
     MeasureFilter(program.Window(), program.Main().lvwIn);
     MeasurePanel(program);
+    MeasurePicture(program);
     std::fflush(stdout);
     std::_Exit(0);
 }
