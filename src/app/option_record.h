@@ -200,6 +200,8 @@ class OptionRecord : public Window {
     TextBox txtKinH{*this, {"txtKinH", "Ecart Horizontal"_t, "Ecart horizontal entre les cellules."_t}, "50"};
     TextBox txtKinV{*this, {"txtKinV", "Ecart Vertical"_t, "Ecart vertical entre les cellules."_t}, "30"};
     CheckBox txtKinshipLandscape{*this, Hidden({"txtKinshipLandscape"}), true};
+    /// What the drawing of a path takes of the tab beside or below the list, in thousandths.
+    TextBox txtPictureShare{*this, Hidden({"txtPictureShare"}), "400"};
 
     // Behaviour
     CheckBox chkTips{

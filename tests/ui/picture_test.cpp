@@ -95,6 +95,22 @@ TEST_F(Picture, IsWalkedZoomedAndDraggedAndLeadsToThePeople) {
     EXPECT_EQ(Main().lvwIn.Current()->Text(), "@I5@");
 }
 
+TEST_F(Picture, KeepsItsShareOfTheTab) {
+    StartWithPath();
+    auto* splitter = qobject_cast<QSplitter*>(Drawing().parentWidget());
+    QWidget* handle = splitter->handle(1);
+    const int width = Drawing().width();
+    EXPECT_NEAR(width, splitter->width() * 0.4, 10);
+    QTest::mousePress(handle, Qt::LeftButton, {}, handle->rect().center());
+    QTest::mouseMove(handle, handle->rect().center() + QPoint(-60, 0));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, handle->rect().center());
+    EXPECT_NEAR(Drawing().width(), width + 60, 10);
+    const Text share = Main().txtPictureShare.Get();
+    EXPECT_NE(share, "400");
+    program_->ThePresenter().Act([this] { Main().txtPictureShare.SetText("250"); });
+    EXPECT_NEAR(Drawing().width(), splitter->width() * 0.25, 10) << "as the settings of the last run";
+}
+
 TEST_F(Picture, StandsBesideTheListOrBelowIt) {
     StartWithPath();
     auto* splitter = qobject_cast<QSplitter*>(Drawing().parentWidget());
