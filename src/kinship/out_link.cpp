@@ -116,7 +116,8 @@ bool PathWriter::OutLink(std::int64_t lNrLinks, std::span<const std::int32_t> li
     Text seqNr;
     const auto addRow = [&](std::optional<RowKey> key, TextView number) {
         seqNr.assign(pathNumber).append(number);
-        Row row = app_.lvwKinship.Add(std::nullopt, key, store_.Put(seqNr));
+        const TextRef text = store_.Put(seqNr);
+        Row row = key ? app_.lvwKinship.AddNew(*key, text) : app_.lvwKinship.Add(std::nullopt, key, text);
         row.SetCell(Kinship::NrSpouses, nrSpouses);
         row.SetCell(Kinship::NrLink, nrLink);
         return row;

@@ -12,7 +12,7 @@ namespace {
 using Way = KinStep::Way;
 
 /// The word of a link says what the individual is to the next; the step is what the next one is to him.
-Way WayOf(TextView sType) {
+Way ReadWay(TextView sType) {
     switch (RelationOf(sType)) {
         case Relation::Parent:
             return Way::Child;
@@ -49,10 +49,17 @@ TextView PathNames::Spouses::BesideOf(TextView id) const {
 void PathNames::ForgetWhatIsGone() {
     const std::uint32_t clearings = tables_.lvwKinship.Clearings();
     if (std::exchange(clearings_, clearings) == clearings) return;
+    wayOf_.clear();
     personOf_.clear();
     familyOf_.clear();
     people_.clear();
     families_.clear();
+}
+
+Way PathNames::WayOf(TextRef sType) {
+    const auto known = wayOf_.find(sType);
+    if (known != wayOf_.end()) return known->second;
+    return wayOf_[sType] = ReadWay(tables_.lvwKinship.Store().Get(sType));
 }
 
 const PathNames::Person& PathNames::PersonOf(TextRef sIndi) {
@@ -85,7 +92,7 @@ bool PathNames::ReadPath(const Row& row) {
     while (!line->Ref(Kinship::Type).IsEmpty()) {
         const auto next = tables_.lvwKinship.AddedAfter(*line);
         if (!next) return false;
-        Append(WayOf(line->Cell(Kinship::Type)), PersonOf(next->Ref(Kinship::IDIndi)),
+        Append(WayOf(line->Ref(Kinship::Type)), PersonOf(next->Ref(Kinship::IDIndi)),
                line->Ref(Kinship::IDFamily));
         line = next;
     }

@@ -40,6 +40,7 @@ class PathNames {
     bool ReadPath(const Row& row);
     void Append(KinStep::Way way, const Person& to, TextRef sFam);
     void ForgetWhatIsGone();
+    KinStep::Way WayOf(TextRef sType);
     const Person& PersonOf(TextRef sIndi);
     const Spouses& FamilyOf(TextRef sFam);
     const Person& PersonAfter(std::size_t steps) const { return steps == 0 ? *from_ : *links_[steps - 1].to; }
@@ -49,6 +50,7 @@ class PathNames {
     KinNamer namer_;
     // What was looked up, by the texts of lvwKinship.
     std::uint32_t clearings_ = 0;
+    boost::unordered_flat_map<TextRef, KinStep::Way> wayOf_;
     boost::unordered_flat_map<TextRef, const Person*> personOf_;
     boost::unordered_flat_map<TextRef, const Spouses*> familyOf_;
     std::deque<Person> people_;

@@ -1,6 +1,7 @@
 #include "tables/table.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "tables/counting_sort.h"
 #include "tables/symbol_ranks.h"
@@ -91,6 +92,11 @@ Row Table::Append(const std::optional<RowKey>& key, TextRef text) {
     const Row row(*this, slot);
     cells_.Row(slot)[0] = text;
     return row;
+}
+
+Row Table::AddNew(RowKey key, TextRef text) {
+    assert(!index_.Find(key));
+    return Append(key, text);
 }
 
 Row Table::FindOrAdd(RowKey key, TextRef text) {

@@ -76,6 +76,8 @@ class Table {
     /// only be reached by its place. @throws Failure DuplicateKey, IndexOutOfRange
     Row Add(std::optional<std::int32_t> index, std::optional<RowKey> key, TextRef text);
     Row Add(std::optional<std::int32_t> index, TextView key, TextView text);
+    /// A row at the end under a key that is known to be new: it is not looked up.
+    Row AddNew(RowKey key, TextRef text);
     /// The row of a key; a new one at the end with `text` in its first cell when there is none.
     Row FindOrAdd(RowKey key, TextRef text);
     /// The row of a key or of a 1-based place, in constant time. @throws Failure KeyNotFound, IndexOutOfRange
