@@ -75,12 +75,10 @@ ListPage ListPages::NewPage(std::initializer_list<Table*> tables, int mainTable,
 /// The page of the paths: above them the pair that is searched for, beside them the drawing of the current
 /// one.
 ListPage ListPages::NewKinshipPage() {
-    constexpr int kListStretch = 3, kPictureStretch = 2;
-    const ListPage page = NewPage({&main_.lvwPaths, &main_.lvwKinship}, 1, new TurningSplitter);
+    const ListPage page = NewPage({&main_.lvwPaths, &main_.lvwKinship}, 1,
+                                  new TurningSplitter(presenter_, main_.txtPictureShare));
     page.strips->addWidget(BuildKinshipSlots(presenter_));
     page.sides->addWidget(new KinshipView(presenter_));
-    page.sides->setStretchFactor(0, kListStretch);
-    page.sides->setStretchFactor(1, kPictureStretch);
     return page;
 }
 
