@@ -91,12 +91,12 @@ QWidget* PlacesFrame(frmMain& main, Binder& binder) {
     parts.grid->setColumnStretch(2, 1);
 
     frame.grid->addWidget(order.box, 0, 0);
-    frame.grid->addWidget(parts.box, 0, 1);
+    frame.grid->addWidget(parts.box, 1, 0);
     frame.grid->addWidget(NewParameterSet(binder, main.cboOutPlace, main.cmdSavePlace,
                                           QStringLiteral("paramètres des lieux et dates")),
-                          1, 0, 1, 2);
-    frame.grid->addWidget(NewButton(binder, main.cmdRecalcIn), 2, 0, 1, 2);
-    frame.grid->setRowStretch(3, 1);
+                          2, 0);
+    frame.grid->addWidget(NewButton(binder, main.cmdRecalcIn), 3, 0);
+    frame.grid->setRowStretch(4, 1);
     return frame.box;
 }
 

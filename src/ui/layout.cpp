@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QTimer>
+#include <algorithm>
 
 #include "themed_icon.h"
 
@@ -49,6 +50,29 @@ class FocusSelector : public QObject {
     QLineEdit& edit_;
     QPoint pressedAt_;
     bool isFirstClick_ = false;
+};
+
+/// Holds a page in its middle, no wider than can be read, unless the letters need more.
+class MiddleOfPage : public QWidget {
+  public:
+    explicit MiddleOfPage(QWidget* page) : page_(page) {
+        auto* row = new QHBoxLayout(this);
+        row->setContentsMargins(0, 0, 0, 0);
+        row->addStretch();
+        row->addWidget(page, 1);
+        row->addStretch();
+    }
+
+  protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest) {
+            page_->setMaximumWidth(std::max(kWidestPage, page_->minimumSizeHint().width()));
+        }
+        return QWidget::event(event);
+    }
+
+  private:
+    QWidget* page_;
 };
 
 }  // namespace
@@ -108,17 +132,10 @@ QWidget* NewParameterSet(Binder& binder, ComboBox& names, Command& save, const Q
 }
 
 QWidget* NewOptionPage(QWidget* page) {
-    auto* middle = new QWidget;
-    auto* row = new QHBoxLayout(middle);
-    row->setContentsMargins(0, 0, 0, 0);
-    page->setMaximumWidth(kWidestPage);
-    row->addStretch();
-    row->addWidget(page, 1);
-    row->addStretch();
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(middle);
+    area->setWidget(new MiddleOfPage(page));
     return area;
 }
 

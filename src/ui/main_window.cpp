@@ -113,7 +113,7 @@ QWidget* MainWindow::BuildTabs() {
 QWidget* MainWindow::BuildFavorites() {
     auto* widget = new QWidget;
     auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 2);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kSpacing);
     for (ComboBox& favorites : main_.cboFavorites) {
         auto* combo = new QComboBox;
