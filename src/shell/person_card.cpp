@@ -43,6 +43,12 @@ void VisitRows(const Table& table, Visitor visit) {
     }
 }
 
+/// Without the comma where a name is missing.
+Text Reads(Text name) {
+    if (name.starts_with(", ")) name.erase(0, 2);
+    return name.empty() ? Text("(sans nom)") : name;
+}
+
 class CardMaker {
   public:
     CardMaker(const TableSet& tables, const RowView& person)
@@ -51,7 +57,7 @@ class CardMaker {
     PersonCard Make() {
         PersonCard card;
         card.sId = person_.Text();
-        card.name = Concat({person_.Cell(In::LastName), ", ", person_.Cell(In::FirstName)});
+        card.name = Reads(Concat({person_.Cell(In::LastName), ", ", person_.Cell(In::FirstName)}));
         card.birth =
             EventText(person_.Cell(In::BirthMin), person_.Cell(In::BirthMax), person_.Cell(In::BirthPlace));
         card.death =
@@ -212,7 +218,7 @@ class CardMaker {
         }
         const auto row = tables_.lvwIn.Find(RowKey(id));
         group.people.push_back(
-            row ? PersonCard::Relative{Text(row->Text()), NameAndYears(*row), Text(relation)}
+            row ? PersonCard::Relative{Text(row->Text()), Reads(NameAndYears(*row)), Text(relation)}
                 : PersonCard::Relative{
                       {}, Concat({tables_.lvwIn.Store().Get(id), " (absent du fichier)"}), Text(relation)});
     }

@@ -30,7 +30,7 @@ PersonPage::PersonPage(const PersonCard& card, std::function<void(const Text& sI
     large.setBold(true);
     large.setPointSizeF(large.pointSizeF() * kHeadScale);
     head_->setFont(large);
-    AddText(ToQt(card.sId))->setEnabled(false);
+    AddText(ToQt(card.sId))->setForegroundRole(QPalette::PlaceholderText);
     AddFact(QStringLiteral("Naissance"), card.birth);
     AddFact(QStringLiteral("Décès"), card.death);
     if (!card.parents.people.empty()) {
@@ -94,7 +94,7 @@ void PersonPage::AddRelative(const PersonCard::Relative& relative, int indent) {
     }
     if (!relation.isEmpty()) {
         auto* kind = new QLabel(relation);
-        kind->setEnabled(false);
+        kind->setForegroundRole(QPalette::PlaceholderText);
         kind->setAlignment(Qt::AlignRight | Qt::AlignTop);
         row->addWidget(kind);
     }

@@ -16,14 +16,22 @@
 namespace swiftroll::ui {
 namespace {
 
-/// The parts of a page: its lists and what stands beside them, or all of a page of options.
+/// A list, or what stands beside one.
+bool IsPart(QWidget* widget) {
+    return dynamic_cast<TableView*>(widget) != nullptr || dynamic_cast<PersonView*>(widget) != nullptr ||
+           dynamic_cast<KinshipView*>(widget) != nullptr;
+}
+
+/// The parts of a page in the order of the Tab key, behind the page itself, which all the rest of it is.
 void AddParts(Panes& panes, QWidget& page) {
     panes.Add(page);
-    for (QWidget* widget : page.findChildren<QWidget*>()) {
-        const bool isPart = dynamic_cast<TableView*>(widget) != nullptr ||
-                            dynamic_cast<PersonView*>(widget) != nullptr ||
-                            dynamic_cast<KinshipView*>(widget) != nullptr;
-        if (isPart) panes.Add(*widget);
+    const QWidget* last = nullptr;
+    for (QWidget* field = page.nextInFocusChain(); field != &page; field = field->nextInFocusChain()) {
+        if ((field->focusPolicy() & Qt::TabFocus) == 0 || !page.isAncestorOf(field)) continue;
+        QWidget* part = field;
+        while (part != &page && !IsPart(part)) part = part->parentWidget();
+        if (part != &page && part != last) panes.Add(*part);
+        last = part;
     }
 }
 

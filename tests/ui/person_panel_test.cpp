@@ -91,6 +91,39 @@ TEST_F(PersonPanelLife, ANarrowWindowFoldsItUntilTheUserOpensItAndTheNextStartKn
     EXPECT_FALSE(Panel().isVisible());
 }
 
+TEST_F(PersonPanelLife, F6LeadsFromPartToPartAndTabThroughTheLinks) {
+    StartWide();
+    ClickRow(4);
+    const auto focused = [&] {
+        QWidget* focus = Window().focusWidget();
+        return focus == nullptr ? std::string() : focus->objectName().toStdString();
+    };
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(Window().focusWidget(), key, modifiers);
+    };
+    EXPECT_EQ(focused(), "lvwIn");
+    press(Qt::Key_F6);
+    EXPECT_EQ(focused(), "cmdPersonPanel");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "personName");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(Window().focusWidget(), Links()[0]);
+    press(Qt::Key_F6);
+    EXPECT_EQ(focused(), "pnlMessage");
+    press(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_EQ(Window().focusWidget(), Links()[0]) << "a part is entered where it was left";
+    press(Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), "lvwIn");
+    // All around and back.
+    std::vector<std::string> parts;
+    for (int i = 0; i < 12 && (i == 0 || focused() != "lvwIn"); ++i) {
+        press(Qt::Key_F6);
+        parts.push_back(focused());
+    }
+    EXPECT_EQ(parts.back(), "lvwIn");
+    EXPECT_GE(parts.size(), 6u);
+}
+
 TEST_F(PersonPanelLife, TheRecordIsShownOnDemandUntilTheFileChanges) {
     StartWide();
     ClickRow(0);
