@@ -109,7 +109,10 @@ TEST_F(PersonPanelLife, F6LeadsFromPartToPartAndTabThroughTheLinks) {
     press(Qt::Key_Tab);
     EXPECT_EQ(Window().focusWidget(), Links()[0]);
     press(Qt::Key_F6);
+    EXPECT_EQ(focused(), "workNoticeClose") << "what was read is told";
+    press(Qt::Key_F6);
     EXPECT_EQ(focused(), "pnlMessage");
+    press(Qt::Key_F6, Qt::ShiftModifier);
     press(Qt::Key_F6, Qt::ShiftModifier);
     EXPECT_EQ(Window().focusWidget(), Links()[0]) << "a part is entered where it was left";
     press(Qt::Key_F6, Qt::ShiftModifier);

@@ -97,6 +97,7 @@ TEST_F(Picture, IsWalkedZoomedAndDraggedAndLeadsToThePeople) {
 
 TEST_F(Picture, KeepsItsShareOfTheTab) {
     StartWithPath();
+    Window().resize(1400, 700);
     auto* splitter = qobject_cast<QSplitter*>(Drawing().parentWidget());
     QWidget* handle = splitter->handle(1);
     const int width = Drawing().width();
