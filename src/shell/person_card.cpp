@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <boost/unordered/unordered_flat_map.hpp>
 #include <boost/unordered/unordered_flat_set.hpp>
+#include <span>
 
 #include "drawing/cell_texts.h"
 #include "kinship/kin_terms.h"
 #include "kinship/relations.h"
 #include "shell/person_label.h"
 #include "tables/columns.h"
-#include "tables/look_ahead.h"
 #include "text/edit.h"
 #include "text/literal.h"
 #include "text/numbers.h"
@@ -31,16 +31,14 @@ Text EventText(TextView from, TextView to, TextView place) {
     return Concat({years, years.empty() || place.empty() ? "" : ", ", place});
 }
 
-using Cells = RowView;
-TextRef At(const Cells& cells, ColumnId column) { return cells.Ref(column); }
+using Cells = std::span<const TextRef>;
+TextRef At(Cells cells, ColumnId column) { return cells[static_cast<std::size_t>(column.Section())]; }
 
-/// Calls `visit(cells)` for all rows.
+/// Calls `visit(cells)` for all rows as they are stored: the panel must follow a key held down on a million
+/// people.
 template <class Visitor>
 void VisitRows(const Table& table, Visitor visit) {
-    for (std::int32_t i = 1; i <= table.Count(); ++i) {
-        LookAhead(table, i);
-        visit(table.Item(i));
-    }
+    for (std::size_t stored = 0; stored < table.StoredCount(); ++stored) visit(table.StoredCells(stored));
 }
 
 /// Without the comma where a name is missing.
@@ -82,12 +80,12 @@ class CardMaker {
         OtherParent other;
     };
 
-    Relation RelationIn(const Cells& member) const {
+    Relation RelationIn(Cells member) const {
         return modKinship::RelationOf(tables_.lvwFamilyXref.Store().Get(At(member, FamilyXref::Type)));
     }
 
     void FindFamilies() {
-        VisitRows(tables_.lvwFamilyXref, [this](const Cells& member) {
+        VisitRows(tables_.lvwFamilyXref, [this](Cells member) {
             if (At(member, FamilyXref::IDIndi) != id_) return;
             const Relation relation = RelationIn(member);
             const TextRef family = At(member, FamilyXref::IDFam);
@@ -141,7 +139,7 @@ class CardMaker {
     /// The other families of the parents.
     void FindHalfFamilies() {
         if (parents_.empty()) return;
-        VisitRows(tables_.lvwFamily, [this](const Cells& family) {
+        VisitRows(tables_.lvwFamily, [this](Cells family) {
             const TextRef husband = At(family, Family::IDHusb), wife = At(family, Family::IDWife);
             const Parent* const father = ParentOf(husband);
             const Parent* const parent = father != nullptr ? father : ParentOf(wife);
@@ -163,7 +161,7 @@ class CardMaker {
         const auto bitOf = [](TextRef family) { return std::uint64_t{1} << (hash_value(family) & 63); };
         std::uint64_t bits = 0;
         for (const auto& [family, children] : children_) bits |= bitOf(family);
-        VisitRows(tables_.lvwFamilyXref, [&](const Cells& member) {
+        VisitRows(tables_.lvwFamilyXref, [&](Cells member) {
             const TextRef family = At(member, FamilyXref::IDFam);
             if ((bits & bitOf(family)) == 0) return;
             const auto found = children_.find(family);
