@@ -101,7 +101,8 @@ TEST_F(LongWork, ASearchWithoutEndOffersTheNearestPathsOrItsEnd) {
 
     EXPECT_TRUE(press("messageBarButton(1)").endsWith(continues + QStringLiteral("Arrêter")));
     EXPECT_FALSE(Find<QWidget>("messageBar").isVisible());
-    EXPECT_GE(Main().lvwPaths.Count(), 1000) << "what was found stays";
+    // The offer comes at a thousand paths, or sooner on a slow machine.
+    EXPECT_GT(Main().lvwPaths.Count(), 100) << "what was found stays";
 }
 
 TEST_F(LongWork, EscapeEndsARead) {
