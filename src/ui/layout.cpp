@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QScrollArea>
-#include <QTimer>
 #include <algorithm>
 
 #include "themed_icon.h"
@@ -38,7 +37,7 @@ class FocusSelector : public QObject {
             return;
         isFirstClick_ = reason == Qt::MouseFocusReason;
         // After the press of the mouse, which would put the cursor in the text.
-        QTimer::singleShot(0, &edit_, [this] { edit_.selectAll(); });
+        QMetaObject::invokeMethod(&edit_, "selectAll", Qt::QueuedConnection);
     }
     bool StartsDrag(const QPoint& place) {
         if ((place - pressedAt_).manhattanLength() < QApplication::startDragDistance()) return false;
